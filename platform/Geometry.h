@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+// Points, sizes and rectangles in the y-down space of views, in points.
+#pragma once
+
+#include <cstddef>
+
+namespace kindora {
+
+struct CGPoint {
+  double x = 0;
+  double y = 0;
+  friend constexpr bool operator==(const CGPoint&, const CGPoint&) = default;
+};
+
+struct CGSize {
+  double width = 0;
+  double height = 0;
+  friend constexpr bool operator==(const CGSize&, const CGSize&) = default;
+};
+
+struct CGRect {
+  CGPoint origin;
+  CGSize size;
+  friend constexpr bool operator==(const CGRect&, const CGRect&) = default;
+};
+
+/// A row of a sectioned list. Signed, because a caller may ask for a section that does not exist.
+struct IndexPath {
+  int section = 0;
+  int row = 0;
+  friend constexpr bool operator==(const IndexPath&, const IndexPath&) = default;
+};
+
+}  // namespace kindora

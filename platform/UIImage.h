@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+// An immutable picture, shared by reference; two images are the same when they are the same object.
+//
+// A picture comes either from a raster or from a source that draws it at any number of pixels (a
+// vector drawing). Drawing from a source happens on first need. Main thread only.
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "platform/Geometry.h"
+#include "platform/Raster.h"
+
+namespace kindora {
+
+class UIImage;
+using UIImageRef = std::shared_ptr<const UIImage>;
+
+/// Draws one picture at any number of pixels.
+class ImageSource {
+ public:
+  virtual ~ImageSource() = default;
+  /// The whole picture, stretched to width x height pixels, both at least 1.
+  [[nodiscard]] virtual Raster render(std::size_t width, std::size_t height) const = 0;
+};
+
+class UIImage final {
+ public:
+  /// A picture of the raster's pixels; its size in points is the pixel size divided by the scale.
+  [[nodiscard]] static UIImageRef imageWithRaster(Raster raster, double scale = 1);
+  /// A picture that claims a size of its own (in points), whatever the raster's pixel size.
+  [[nodiscard]] static UIImageRef imageWithRaster(Raster raster, CGSize size, double scale);
+  /// A picture that the source draws; size in points.
+  [[nodiscard]] static UIImageRef imageWithSource(std::shared_ptr<const ImageSource> source,
+                                                  CGSize size, double scale);
+
+  UIImage(const UIImage&) = delete;
+  UIImage& operator=(const UIImage&) = delete;
+
+  [[nodiscard]] CGSize size() const { return size_; }
+  [[nodiscard]] double scale() const { return scale_; }
+  /// The pixel size as a real number: size times scale, not rounded.
+  [[nodiscard]] CGSize pixelSize() const { return {size_.width * scale_, size_.height * scale_}; }
+
+  /// The picture's own pixels: size times scale, rounded up, when a source draws it.
+  [[nodiscard]] const Raster& raster() const;
+  /// The whole picture at width x height pixels: the raster itself (shared) when that is its size,
+  /// else drawn anew by the source, or resampled by area (smaller) and linearly (larger).
+  [[nodiscard]] Raster rendered(std::size_t width, std::size_t height) const;
+
+ private:
+  UIImage(std::optional<Raster> raster, std::shared_ptr<const ImageSource> source, CGSize size,
+          double scale);
+
+  mutable std::optional<Raster> raster_;
+  std::shared_ptr<const ImageSource> source_;
+  CGSize size_;
+  double scale_;
+};
+
+/// A number of pixels rounded up to whole ones, forgiving the rounding of size times scale: a product
+/// of 100 that came out as 100.00000000000001 is 100.
+[[nodiscard]] std::size_t wholePixels(double pixels);
+
+}  // namespace kindora

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/view/UIViewAnimationBlock.h"
+
+#include "platform/FatalError.h"
+
+namespace kindora {
+namespace {
+
+UIViewAnimationBlock* running = nullptr;  // main thread only
+
+}  // namespace
+
+UIViewAnimationBlock::UIViewAnimationBlock(const std::function<void()>& animations) {
+  if (running != nullptr) fatalError("animation blocks do not nest");
+  running = this;
+  animations();
+  running = nullptr;
+  for (auto& [key, track] : tracks_) {
+    if (const auto view = track.view.lock()) track.to = view->state();
+  }
+}
+
+UIViewAnimationBlock* UIViewAnimationBlock::current() { return running; }
+
+void UIViewAnimationBlock::willChange(const std::shared_ptr<UIView>& view) {
+  tracks_.try_emplace(view.get(), Track{view, view->presentation(), {}});
+}
+
+void UIViewAnimationBlock::show(double fraction) const {
+  for (const auto& [key, track] : tracks_) {
+    const auto view = track.view.lock();
+    // A state that has moved on since belongs to a later change.
+    if (!view || view->state() != track.to) continue;
+    view->setPresentation(fraction == 1 ? track.to : interpolated(track.from, track.to, fraction));
+  }
+}
+
+}  // namespace kindora
