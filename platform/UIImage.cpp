@@ -17,12 +17,13 @@ struct Tap {
 
 // For each target pixel the source pixels that it averages: a triangle as wide as the larger of one
 // source and one target pixel, so that shrinking averages areas and growing interpolates.
-std::vector<Tap> taps(std::size_t from, std::size_t to) {
-  const double ratio = static_cast<double>(from) / static_cast<double>(to);
+// The source is stretched over extent target pixels, of which the first `skipped` are left out.
+std::vector<Tap> taps(std::size_t from, std::size_t to, double extent, double skipped) {
+  const double ratio = static_cast<double>(from) / extent;
   const double reach = std::max(1.0, ratio);
   std::vector<Tap> result(to);
   for (std::size_t i = 0; i < to; ++i) {
-    const double centre = (static_cast<double>(i) + 0.5) * ratio - 0.5;
+    const double centre = (static_cast<double>(i) + skipped + 0.5) * ratio - 0.5;
     const auto first = static_cast<long>(std::ceil(centre - reach));
     const auto last = static_cast<long>(std::floor(centre + reach));
     Tap& tap = result[i];
@@ -52,11 +53,12 @@ struct Sum {
   }
 };
 
-Raster resampled(const Raster& source, std::size_t width, std::size_t height) {
+Raster resampled(const Raster& source, std::size_t width, std::size_t height, CGSize extent) {
   if (source.isEmpty()) return Raster(width, height);
   const std::vector<Rgba8> pixels = source.pixels();
-  const std::vector<Tap> across = taps(source.width(), width);
-  const std::vector<Tap> down = taps(source.height(), height);
+  const std::vector<Tap> across = taps(source.width(), width, extent.width, 0);
+  const std::vector<Tap> down =
+      taps(source.height(), height, extent.height, extent.height - static_cast<double>(height));
   std::vector<Rgba8> wide(width * source.height());
   for (std::size_t y = 0; y < source.height(); ++y) {
     for (std::size_t x = 0; x < width; ++x) {
@@ -116,7 +118,18 @@ const Raster& UIImage::raster() const {
 
 Raster UIImage::rendered(std::size_t width, std::size_t height) const {
   if (raster_ && raster_->width() == width && raster_->height() == height) return *raster_;
-  return source_ ? source_->render(width, height) : resampled(*raster_, width, height);
+  if (width == 0 || height == 0) return {width, height};
+  if (source_) return source_->render(width, height);
+  return resampled(*raster_, width, height,
+                   {static_cast<double>(width), static_cast<double>(height)});
+}
+
+Raster UIImage::rendered(std::size_t width, std::size_t height, CGSize extent) const {
+  if (extent == CGSize{static_cast<double>(width), static_cast<double>(height)}) {
+    return rendered(width, height);
+  }
+  if (width == 0 || height == 0) return {width, height};
+  return resampled(raster(), width, height, extent);
 }
 
 }  // namespace kindora

@@ -48,6 +48,9 @@ class UIImage final {
   /// The whole picture at width x height pixels: the raster itself (shared) when that is its size,
   /// else drawn anew by the source, or resampled by area (smaller) and linearly (larger).
   [[nodiscard]] Raster rendered(std::size_t width, std::size_t height) const;
+  /// The picture stretched over extent pixels, which need not be whole, and cut to the width x
+  /// height pixels at its lower-left corner. Extent must not be smaller than these.
+  [[nodiscard]] Raster rendered(std::size_t width, std::size_t height, CGSize extent) const;
 
  private:
   UIImage(std::optional<Raster> raster, std::shared_ptr<const ImageSource> source, CGSize size,
@@ -59,8 +62,8 @@ class UIImage final {
   double scale_;
 };
 
-/// A number of pixels rounded up to whole ones, forgiving the rounding of size times scale: a product
-/// of 100 that came out as 100.00000000000001 is 100.
+/// A number of pixels rounded up to whole ones, forgiving the rounding of size times scale: a
+/// product of 100 that came out as 100.00000000000001 is 100.
 [[nodiscard]] std::size_t wholePixels(double pixels);
 
 }  // namespace kindora
