@@ -111,7 +111,7 @@ UIImageRef UIImage::imageWithSource(std::shared_ptr<const ImageSource> source, C
 const Raster& UIImage::raster() const {
   if (!raster_) {
     const CGSize pixels = pixelSize();
-    raster_ = source_->render(wholePixels(pixels.width), wholePixels(pixels.height));
+    raster_ = rendered(wholePixels(pixels.width), wholePixels(pixels.height));
   }
   return *raster_;
 }
