@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/fakes/FakeServices.h"
+
+#include "platform/Services.h"
+
+namespace kindora {
+
+FakeServices installFakeServices() {
+  FakeServices fakes{
+      .mainQueue = std::make_shared<ManualQueue>(),
+      .http = std::make_shared<FakeHttp>(),
+      .json = std::make_shared<FakeJson>(),
+      .bundle = std::make_shared<FakeBundle>(),
+      .text = std::make_shared<FakeText>(),
+      .console = std::make_shared<RecordingConsole>(),
+  };
+  installServices({
+      .mainQueue = fakes.mainQueue,
+      .http = fakes.http,
+      .json = fakes.json,
+      .bundle = fakes.bundle,
+      .text = fakes.text,
+      .console = fakes.console,
+  });
+  return fakes;
+}
+
+}  // namespace kindora
