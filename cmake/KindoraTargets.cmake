@@ -14,10 +14,11 @@ option(KINDORA_COVERAGE "Instrument for gcov" OFF)
 find_package(Threads REQUIRED)
 
 add_library(kindora_options INTERFACE)
+# Designated initialisers leave the other fields at their defaults on purpose.
 # Contraction would let the compiler fuse a * b + c and change results between machines.
 target_compile_options(
   kindora_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
-                            -Woverloaded-virtual -Werror -ffp-contract=off)
+                            -Woverloaded-virtual -Wno-missing-field-initializers -Werror -ffp-contract=off)
 target_link_libraries(kindora_options INTERFACE Threads::Threads)
 
 if(KINDORA_SANITIZE)
@@ -42,4 +43,47 @@ function(kindora_library NAME)
   add_library(Kindora::${NAME} ALIAS kindora_${NAME})
   target_include_directories(kindora_${NAME} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
   target_link_libraries(kindora_${NAME} PUBLIC ${ARG_LINKS} PRIVATE kindora_options)
+endfunction()
+
+# kindora_qml_module(NAME URI uri SOURCES file... QML file... [LINKS target...])
+# Makes kindora_NAME with the alias Kindora::NAME, a static library that is a QML module too. QML files
+# are compiled ahead of time. A program that uses the module links kindora_NAMEplugin besides.
+function(kindora_qml_module NAME)
+  cmake_parse_arguments(ARG "" "URI" "SOURCES;QML;LINKS" ${ARGN})
+  foreach(FILE IN LISTS ARG_QML)
+    get_filename_component(BASE ${FILE} NAME)
+    set_source_files_properties(${FILE} PROPERTIES QT_RESOURCE_ALIAS ${BASE})
+  endforeach()
+  string(REPLACE "." "/" FOLDER ${ARG_URI})
+  qt_add_library(kindora_${NAME} STATIC)
+  add_library(Kindora::${NAME} ALIAS kindora_${NAME})
+  set_target_properties(kindora_${NAME} PROPERTIES AUTOMOC ON)
+  # The registration code that Qt generates includes headers by their bare names.
+  foreach(FILE IN LISTS ARG_SOURCES)
+    get_filename_component(DIRECTORY ${FILE} DIRECTORY)
+    list(APPEND DIRECTORIES ${CMAKE_CURRENT_SOURCE_DIR}/${DIRECTORY})
+  endforeach()
+  list(REMOVE_DUPLICATES DIRECTORIES)
+  target_include_directories(
+    kindora_${NAME}
+    PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+    PRIVATE ${DIRECTORIES})
+  target_link_libraries(kindora_${NAME} PUBLIC ${ARG_LINKS})
+  target_compile_definitions(kindora_${NAME} PUBLIC QT_NO_CAST_FROM_ASCII)
+  qt_add_qml_module(
+    kindora_${NAME}
+    URI ${ARG_URI}
+    VERSION 1.0
+    RESOURCE_PREFIX /qt/qml
+    OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${FOLDER}
+    IMPORT_PATH ${CMAKE_BINARY_DIR}/qml
+    SOURCES ${ARG_SOURCES}
+    QML_FILES ${ARG_QML})
+  # Our own sources obey the strict flags; generated ones are not ours to mend.
+  get_target_property(STRICT kindora_options INTERFACE_COMPILE_OPTIONS)
+  foreach(FILE IN LISTS ARG_SOURCES)
+    if(FILE MATCHES "\\.cpp$")
+      set_source_files_properties(${FILE} PROPERTIES COMPILE_OPTIONS "${STRICT}")
+    endif()
+  endforeach()
 endfunction()

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "app/main/MainStoryboard.h"
+
+#include "platform/qt/toolkit/UINavigationController.h"
+#include "screens/SegueIdentifiers.h"
+#include "screens/badges/BadgesViewController.h"
+#include "screens/challenges/ChallengesTableViewController.h"
+#include "screens/inprogress/InProgressChallengeDetailViewController.h"
+#include "screens/newchallenge/NewChallengeDetailViewController.h"
+
+namespace kindora {
+namespace {
+
+constexpr const char* kChallenges = "ChallengesTableViewController";
+constexpr const char* kNewChallenge = "NewChallengeDetailViewController";
+constexpr const char* kInProgressChallenge = "InProgressChallengeDetailViewController";
+constexpr const char* kBadges = "BadgesViewController";
+
+QUrl page(const char* name) {
+  return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Screens/%1.qml").arg(QLatin1String(name)));
+}
+
+template <typename Controller>
+UIViewControllerRef make() {
+  return makeViewController<Controller>();
+}
+
+template <typename Controller>
+void connectOutlets(UIViewController& controller) {
+  dynamic_cast<Controller&>(controller).connectOutlets();
+}
+
+std::vector<UIStoryboardScene> scenes() {
+  using Kind = UIStoryboardSegueKind;
+  const UIStoryboardSegueTemplate backToList{std::string(kUnwind), Kind::unwind,
+                                             std::string(kUnwind)};
+  return {
+      {.identifier = kChallenges,
+       .make = make<ChallengesTableViewController>,
+       .page = page("ChallengesPage"),
+       .segues = {{std::string(kShowNewChallenge), Kind::show, kNewChallenge},
+                  {std::string(kShowInProgressChallenge), Kind::show, kInProgressChallenge}},
+       .unwindActions = {{std::string(kUnwind),
+                          [](UIViewController& list, const UIStoryboardSegue& segue) {
+                            dynamic_cast<ChallengesTableViewController&>(list).unwind(segue);
+                          }}}},
+      {.identifier = kNewChallenge,
+       .make = make<NewChallengeDetailViewController>,
+       .connectOutlets = connectOutlets<NewChallengeDetailViewController>,
+       .page = page("NewChallengePage"),
+       .segues = {backToList}},
+      {.identifier = kInProgressChallenge,
+       .make = make<InProgressChallengeDetailViewController>,
+       .connectOutlets = connectOutlets<InProgressChallengeDetailViewController>,
+       .page = page("InProgressChallengePage"),
+       .segues = {backToList}},
+      {.identifier = kBadges, .make = make<BadgesViewController>, .page = page("BadgesPage")},
+  };
+}
+
+UIViewControllerRef tab(const char* scene, const QString& title, const QString& imageName) {
+  const UIViewControllerRef root = mainStoryboard().instantiateViewController(scene);
+  root->setTitle(title);
+  auto navigation = makeViewController<UINavigationController>(root);
+  navigation->tabBarItem()->setTitleAndImage(title, imageName);
+  return navigation;
+}
+
+}  // namespace
+
+const UIStoryboard& mainStoryboard() {
+  static const UIStoryboard& storyboard = *new UIStoryboard(scenes());  // outlives its screens
+  return storyboard;
+}
+
+std::shared_ptr<UITabBarController> makeRootTabBarController() {
+  return makeViewController<UITabBarController>(std::vector<UIViewControllerRef>{
+      tab(kChallenges, QStringLiteral("Challenges"), QStringLiteral("tabChallenges")),
+      tab(kBadges, QStringLiteral("Badges"), QStringLiteral("tabBadges"))});
+}
+
+}  // namespace kindora

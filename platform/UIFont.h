@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+namespace kindora {
+
+/// A font asked for by its full name; the toolkit puts a like one in its place where it is missing.
+struct UIFont {
+  std::string name;
+  double pointSize = 17;  ///< in points of the view, whatever the desktop's font settings
+  friend bool operator==(const UIFont&, const UIFont&) = default;
+};
+
+}  // namespace kindora

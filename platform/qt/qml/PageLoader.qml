@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Platform
+
+// Draws any controller with the QML file that its page names.
+Loader {
+    id: root
+
+    required property UIViewController controller
+
+    Component.onCompleted: root.setSource(root.controller.page, { "controller": root.controller })
+}

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Platform
+
+// Text that is never taken for markup, in the app's font.
+Text {
+    property real points: 16
+
+    textFormat: Text.PlainText
+    font: Appearance.font(points)
+    color: Qt.rgba(0.13, 0.13, 0.13, 1)
+    elide: Text.ElideRight
+}

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/qt/quick/Appearance.h"
+
+#include <QFontDatabase>
+#include <cmath>
+
+#include "platform/qt/quick/Colors.h"
+#include "platform/qt/toolkit/UIApplication.h"
+#include "platform/qt/toolkit/UINavigationController.h"
+#include "platform/qt/toolkit/UITabBar.h"
+
+namespace kindora {
+
+QFont resolvedFont(const UIFont& font) {
+  static const bool hasAvenir = QFontDatabase::hasFamily(QStringLiteral("Avenir Next"));
+  QFont result(hasAvenir ? QStringLiteral("Avenir Next") : QStringLiteral("Lato"));
+  result.setWeight(font.name.ends_with("Bold") ? QFont::Bold : QFont::Medium);
+  result.setPixelSize(static_cast<int>(std::lround(font.pointSize)));
+  return result;
+}
+
+QColor Appearance::tint() {
+  const UIWindow* window = UIApplication::sharedApplication()->keyWindow();
+  return window != nullptr ? toQColor(window->tintColor()) : QColor();
+}
+
+QColor Appearance::barTint() { return toQColor(UINavigationBar::appearance().barTintColor); }
+QColor Appearance::barForeground() { return toQColor(UINavigationBar::appearance().tintColor); }
+QColor Appearance::barTitle() { return toQColor(UINavigationBar::appearance().titleColor); }
+QFont Appearance::barTitleFont() { return resolvedFont(UINavigationBar::appearance().titleFont); }
+QFont Appearance::tabFont() { return resolvedFont(UITabBarItem::appearance().titleFont); }
+QFont Appearance::font(double points) { return resolvedFont({"AvenirNext-Medium", points}); }
+QFont Appearance::boldFont(double points) { return resolvedFont({"AvenirNext-Bold", points}); }
+
+}  // namespace kindora

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+#include "platform/UIFont.h"
+
+namespace kindora {
+
+/// The look that was configured at launch, for QML, and the app's one font in any size.
+class Appearance : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_SINGLETON
+  Q_PROPERTY(QColor tint READ tint CONSTANT)
+  Q_PROPERTY(QColor barTint READ barTint CONSTANT)
+  Q_PROPERTY(QColor barForeground READ barForeground CONSTANT)
+  Q_PROPERTY(QColor barTitle READ barTitle CONSTANT)
+  Q_PROPERTY(QFont barTitleFont READ barTitleFont CONSTANT)
+  Q_PROPERTY(QFont tabFont READ tabFont CONSTANT)
+
+ public:
+  [[nodiscard]] static QColor tint();
+  [[nodiscard]] static QColor barTint();
+  [[nodiscard]] static QColor barForeground();
+  [[nodiscard]] static QColor barTitle();
+  [[nodiscard]] static QFont barTitleFont();
+  [[nodiscard]] static QFont tabFont();
+  /// The app's font at that many points of the view.
+  Q_INVOKABLE static QFont font(double points);
+  Q_INVOKABLE static QFont boldFont(double points);
+};
+
+/// The font asked for where the device has it; else Lato, in the weight that the name ends in. Sizes
+/// are points of the view, whatever the desktop's font settings.
+[[nodiscard]] QFont resolvedFont(const UIFont& font);
+
+}  // namespace kindora

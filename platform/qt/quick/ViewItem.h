@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPointF>
+#include <QQuickItem>
+#include <memory>
+
+#include "platform/qt/quick/ImageHandle.h"
+#include "platform/view/UIView.h"
+
+namespace kindora {
+
+/// Draws the view that an outlet names: takes alpha, scale, input and presence from it, offers the
+/// rest as properties, and reports to it the place that the storyboard gives to the item. Stops when
+/// the owner has no such outlet.
+class ViewItem : public QQuickItem {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(QObject* owner READ owner WRITE setOwner NOTIFY ownerChanged REQUIRED)
+  Q_PROPERTY(QString outlet READ outlet WRITE setOutlet NOTIFY outletChanged REQUIRED)
+  Q_PROPERTY(QString text READ text NOTIFY viewChanged)
+  Q_PROPERTY(QColor textColor READ textColor NOTIFY viewChanged)
+  Q_PROPERTY(bool textCentered READ isTextCentered NOTIFY viewChanged)
+  Q_PROPERTY(kindora::ImageHandle image READ image NOTIFY viewChanged)
+  Q_PROPERTY(bool shown READ isShown NOTIFY viewChanged)
+  Q_PROPERTY(double shadowOpacity READ shadowOpacity NOTIFY viewChanged)
+  Q_PROPERTY(QPointF shadowOffset READ shadowOffset NOTIFY viewChanged)
+  Q_PROPERTY(QPointF translation READ translation NOTIFY viewChanged)
+  Q_PROPERTY(double cornerRadius READ cornerRadius NOTIFY viewChanged)
+  Q_PROPERTY(double layoutProgress READ layoutProgress NOTIFY viewChanged)
+
+ public:
+  explicit ViewItem(QQuickItem* parent = nullptr);
+
+  [[nodiscard]] QObject* owner() const { return owner_; }
+  void setOwner(QObject* owner);
+  [[nodiscard]] const QString& outlet() const { return outlet_; }
+  void setOutlet(const QString& outlet);
+
+  [[nodiscard]] QString text() const;
+  [[nodiscard]] QColor textColor() const;  ///< invalid when the storyboard is to choose
+  [[nodiscard]] bool isTextCentered() const;
+  [[nodiscard]] ImageHandle image() const;
+  /// In its superview and not fully transparent: only then is it drawn, pressed or read aloud.
+  [[nodiscard]] bool isShown() const;
+  [[nodiscard]] double shadowOpacity() const;
+  [[nodiscard]] QPointF shadowOffset() const;
+  [[nodiscard]] QPointF translation() const;
+  [[nodiscard]] double cornerRadius() const;
+  /// How many of its changes of layout the view has gone through, with fractions on the way.
+  [[nodiscard]] double layoutProgress() const;
+
+ signals:
+  void ownerChanged();
+  void outletChanged();
+  void viewChanged();
+
+ protected:
+  [[nodiscard]] const std::shared_ptr<UIView>& view() const { return view_; }
+  void componentComplete() override;
+  void geometryChange(const QRectF& now, const QRectF& before) override;
+  virtual void viewDidChange();
+
+ private:
+  void connectView();
+
+  QObject* owner_ = nullptr;
+  QString outlet_;
+  std::shared_ptr<UIView> view_;
+  UIView::Subscription subscription_;
+};
+
+}  // namespace kindora

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/qt/toolkit/UIViewAnimation.h"
+
+#include <QAbstractAnimation>
+#include <QEasingCurve>
+#include <QPointF>
+#include <cmath>
+#include <memory>
+#include <utility>
+
+#include "platform/view/UIViewAnimationBlock.h"
+
+namespace kindora {
+namespace {
+
+int milliseconds(double seconds) { return static_cast<int>(std::lround(seconds * 1000)); }
+
+// The phone's timing curves as cubic Bézier control points.
+QEasingCurve easing(UIViewAnimationCurve curve) {
+  QEasingCurve result(QEasingCurve::BezierSpline);
+  switch (curve) {
+    case UIViewAnimationCurve::linear:
+      return {QEasingCurve::Linear};
+    case UIViewAnimationCurve::easeIn:
+      result.addCubicBezierSegment({0.42, 0}, {1, 1}, {1, 1});
+      break;
+    case UIViewAnimationCurve::easeOut:
+      result.addCubicBezierSegment({0, 0}, {0.58, 1}, {1, 1});
+      break;
+    case UIViewAnimationCurve::easeInOut:
+      result.addCubicBezierSegment({0.42, 0}, {0.58, 1}, {1, 1});
+      break;
+  }
+  return result;
+}
+
+// Delay and way in one animation, so that both are measured by the same clock.
+class Timeline : public QAbstractAnimation {
+ public:
+  Timeline(const UIViewAnimationTiming& timing, std::function<void(double)> step)
+      : delay_(milliseconds(timing.delay)),
+        length_(milliseconds(timing.duration)),
+        easing_(easing(timing.curve)),
+        step_(std::move(step)) {}
+
+  int duration() const override { return delay_ + length_; }
+
+ protected:
+  void updateCurrentTime(int time) override {
+    if (time >= delay_ + length_) {
+      step_(1);
+    } else if (time > delay_) {
+      step_(easing_.valueForProgress(static_cast<double>(time - delay_) / length_));
+    }
+  }
+
+ private:
+  int delay_;
+  int length_;
+  QEasingCurve easing_;
+  std::function<void(double)> step_;
+};
+
+}  // namespace
+
+void animateWithDuration(const UIViewAnimationTiming& timing,
+                         const std::function<void()>& animations,
+                         std::function<void()> completion) {
+  const auto block = std::make_shared<UIViewAnimationBlock>(animations);
+  auto* timeline =
+      new Timeline(timing, [block](double fraction) { block->show(fraction); });
+  QObject::connect(timeline, &QAbstractAnimation::finished, timeline,
+                   [completion = std::move(completion)] {
+                     if (completion) completion();
+                   });
+  timeline->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+class ProgressAnimation::Clock final : public Timeline {
+ public:
+  using Timeline::Timeline;
+};
+
+ProgressAnimation::ProgressAnimation(const UIViewAnimationTiming& timing,
+                                     std::function<void(double)> step,
+                                     std::function<void()> completion)
+    : clock_(new Clock(timing, std::move(step))) {
+  QObject::connect(clock_, &QAbstractAnimation::finished, clock_,
+                   [completion = std::move(completion)] {
+                     if (completion) completion();
+                   });
+  clock_->start();
+}
+
+ProgressAnimation::ProgressAnimation(ProgressAnimation&& other) noexcept
+    : clock_(std::exchange(other.clock_, nullptr)) {}
+
+ProgressAnimation& ProgressAnimation::operator=(ProgressAnimation&& other) noexcept {
+  std::swap(clock_, other.clock_);
+  return *this;
+}
+
+ProgressAnimation::~ProgressAnimation() {
+  if (clock_ == nullptr) return;
+  // The handle may go inside the clock's own completion.
+  clock_->stop();
+  clock_->deleteLater();
+}
+
+}  // namespace kindora

@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+// A screen or a container of screens: its life, its place among the others and what it presents. It
+// knows no pixels; the QML file that its `page` names draws it.
+//
+// Controllers are shared; make them with makeViewController. Main thread only.
+#pragma once
+
+#include <QPointer>
+#include <QString>
+#include <QUrl>
+#include <QtQml/qqmlregistration.h>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+#include "platform/qt/toolkit/OutletOwner.h"
+#include "platform/qt/toolkit/UINavigationItem.h"
+#include "platform/qt/toolkit/UIResponder.h"
+#include "platform/qt/toolkit/UIStoryboard.h"
+#include "platform/qt/toolkit/UITabBar.h"
+#include "platform/qt/toolkit/UIViewAnimation.h"
+#include "platform/view/UIView.h"
+
+namespace kindora {
+
+class UINavigationController;
+class UITabBarController;
+class UIViewController;
+using UIViewControllerRef = std::shared_ptr<UIViewController>;
+
+class UIViewController : public UIResponder,
+                         public OutletOwner,
+                         public std::enable_shared_from_this<UIViewController> {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("controllers come from the storyboard")
+  Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
+  Q_PROPERTY(QUrl page READ page CONSTANT)
+  Q_PROPERTY(kindora::UINavigationItem* navigationItem READ navigationItem CONSTANT)
+  Q_PROPERTY(kindora::UITabBarItem* tabBarItem READ tabBarItem CONSTANT)
+  Q_PROPERTY(double presentationProgress READ presentationProgress NOTIFY
+                 presentationProgressChanged)
+  Q_PROPERTY(bool coversPresenter READ coversPresenter CONSTANT)
+
+ public:
+  using Completion = std::function<void()>;
+
+  UIViewController();
+  ~UIViewController() override;
+
+  // --- Life ---
+
+  /// The root view; loads it on first use.
+  [[nodiscard]] const std::shared_ptr<UIView>& view();
+  [[nodiscard]] bool isViewLoaded() const { return view_ != nullptr; }
+  void loadViewIfNeeded();
+  virtual void viewDidLoad() {}
+  virtual void viewWillAppear(bool /*animated*/) {}
+  virtual void viewDidAppear(bool /*animated*/) {}
+  virtual void viewWillDisappear(bool /*animated*/) {}
+  virtual void viewDidDisappear(bool /*animated*/) {}
+
+  /// For containers: starts and ends the change from hidden to visible or back. Calls that do not
+  /// change anything are ignored, so that each callback comes once, will before did.
+  void beginAppearanceTransition(bool appearing, bool animated);
+  void endAppearanceTransition();
+  [[nodiscard]] bool isVisible() const { return appearance_ == Appearance::appeared; }
+
+  // --- Titles and containers ---
+
+  [[nodiscard]] const QString& title() const { return title_; }
+  /// Also the title that the navigation bar shows.
+  void setTitle(const QString& title);
+  [[nodiscard]] UINavigationItem* navigationItem() { return &navigationItem_; }
+  [[nodiscard]] UITabBarItem* tabBarItem() { return &tabBarItem_; }
+  [[nodiscard]] UIViewController* parentViewController() const { return parent_; }
+  [[nodiscard]] UINavigationController* navigationController() const;
+  [[nodiscard]] UITabBarController* tabBarController() const;
+  /// The topmost container that holds this controller, or the controller itself.
+  [[nodiscard]] UIViewController* containmentRoot();
+  /// The controllers inside this one that are on the screen when it is.
+  [[nodiscard]] virtual std::vector<UIViewController*> visibleChildren() const { return {}; }
+  /// Goes back by one; false when there is nothing to go back to, or the way back is hidden.
+  virtual bool goBack();
+
+  // --- Presentation ---
+
+  /// Presents above this controller's whole container. Ignored while something is presented there.
+  void presentViewController(const UIViewControllerRef& controller, bool animated,
+                             Completion completion = {});
+  /// Dismisses what this controller or its container presents, else this controller itself when it
+  /// is presented; otherwise nothing happens. The completion runs when the dismissal has finished.
+  void dismissViewController(bool animated, Completion completion = {});
+  [[nodiscard]] UIViewControllerRef presentedViewController();
+  [[nodiscard]] UIViewController* presentingViewController();
+  /// How far this controller has come onto the screen, 0 to 1.
+  [[nodiscard]] double presentationProgress() const { return presentationProgress_; }
+  /// True when what presents this one is out of sight below it, so that it hears that it disappears.
+  [[nodiscard]] virtual bool coversPresenter() const { return true; }
+  /// Seconds that coming and going take.
+  [[nodiscard]] virtual double presentationDuration() const { return 0.4; }
+
+  // --- Storyboard ---
+
+  /// Follows the segue of that name, after prepareForSegue. Stops when the storyboard has none.
+  void performSegueWithIdentifier(std::string_view identifier, const std::any& sender = {});
+  virtual void prepareForSegue(const UIStoryboardSegue& /*segue*/, const std::any& /*sender*/) {}
+  void setScene(const UIStoryboard& storyboard, const UIStoryboardScene& scene);
+  [[nodiscard]] const UIStoryboard* storyboard() const { return storyboard_; }
+  [[nodiscard]] virtual QUrl page() const;
+
+  [[nodiscard]] std::shared_ptr<UIView> outlet(std::string_view name) override;
+
+  /// The closure, which does nothing once this controller has gone.
+  template <typename Closure>
+  [[nodiscard]] Completion guarded(Closure closure) {
+    return [alive = weak_from_this(), closure = std::move(closure)] {
+      if (const auto self = alive.lock()) closure();
+    };
+  }
+
+ signals:
+  void titleChanged();
+  void presentationProgressChanged();
+
+ protected:
+  friend class UINavigationController;
+  friend class UITabBarController;
+
+ private:
+  enum class Appearance { disappeared, appearing, appeared, disappearing };
+  struct Presentation;
+
+  void endPresenting(UIViewController& presented);
+  void finishDismissal();
+  void dismissPresented(bool animated, Completion completion);
+  void setPresentationProgress(double progress);
+  void unwind(const UIStoryboardSegueTemplate& segue, const std::any& sender);
+  [[nodiscard]] UIViewController* unwindTarget(std::string_view action);
+
+  std::shared_ptr<UIView> view_;
+  Appearance appearance_ = Appearance::disappeared;
+  bool animatedAppearance_ = false;
+  QString title_;
+  UINavigationItem navigationItem_;
+  UITabBarItem tabBarItem_;
+  UIViewController* parent_ = nullptr;
+  std::unique_ptr<Presentation> presentation_;
+  QPointer<UIViewController> presenting_;
+  double presentationProgress_ = 0;
+  const UIStoryboard* storyboard_ = nullptr;
+  const UIStoryboardScene* scene_ = nullptr;
+};
+
+/// Makes a controller that is deleted from the event loop once nobody holds it, since it may well be
+/// let go of inside one of its own calls.
+template <typename Controller, typename... Arguments>
+[[nodiscard]] std::shared_ptr<Controller> makeViewController(Arguments&&... arguments) {
+  return {new Controller(std::forward<Arguments>(arguments)...),
+          [](Controller* controller) { controller->deleteLater(); }};
+}
+
+}  // namespace kindora

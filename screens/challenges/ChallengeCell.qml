@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Platform
+
+// A challenge's row: a white card with the round picture and one or two lines of text.
+TableCell {
+    id: root
+
+    height: 76
+    spoken: name.text + (detail.text !== "" ? ", " + detail.text : "")
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.leftMargin: 16
+        anchors.rightMargin: 16
+        radius: 20
+        color: "white"
+        border.width: 1
+        border.color: Qt.rgba(0.92, 0.92, 0.92, 1)
+    }
+
+    ViewItem {
+        id: frame
+        owner: root.cell
+        outlet: "profileFrame"
+        x: 32
+        width: 52
+        height: 52
+        anchors.verticalCenter: parent.verticalCenter
+        transform: Translate { y: frame.translation.y }
+
+        ShadowItem {
+            width: parent.width
+            height: parent.height
+            x: frame.shadowOffset.x
+            y: frame.shadowOffset.y
+            radius: width / 2
+            blur: 5
+            opacity: frame.shadowOpacity
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            radius: width / 2
+            color: "white"
+        }
+
+        ViewItem {
+            id: picture
+            owner: root.cell
+            outlet: "profileImageView"
+            anchors.fill: parent
+            anchors.margins: 2
+
+            PictureItem {
+                anchors.fill: parent
+                radius: width / 2
+                image: picture.image
+                ground: Qt.rgba(0.88, 0.88, 0.88, 1)
+            }
+        }
+    }
+
+    Column {
+        anchors.left: frame.right
+        anchors.leftMargin: 16
+        anchors.right: parent.right
+        anchors.rightMargin: 32
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        ViewItem {
+            id: name
+            owner: root.cell
+            outlet: "challengeLabel"
+            width: parent.width
+            implicitHeight: nameText.implicitHeight
+
+            PlainText {
+                id: nameText
+                width: parent.width
+                text: name.text
+                points: 17
+                Accessible.ignored: true
+            }
+        }
+
+        ViewItem {
+            id: detail
+            owner: root.cell
+            outlet: "senderLabel"
+            width: parent.width
+            implicitHeight: text === "" ? 0 : detailText.implicitHeight
+
+            PlainText {
+                id: detailText
+                width: parent.width
+                text: detail.text
+                points: 13
+                color: Qt.rgba(0.45, 0.45, 0.45, 1)
+                Accessible.ignored: true
+            }
+        }
+    }
+}

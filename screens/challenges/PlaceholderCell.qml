@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Platform
+
+// The message of a section that is empty.
+TableCell {
+    id: root
+
+    height: 60
+    spoken: message.text
+
+    ViewItem {
+        id: message
+        owner: root.cell
+        outlet: "messageLabel"
+        anchors.fill: parent
+
+        PlainText {
+            anchors.centerIn: parent
+            text: message.text
+            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            Accessible.ignored: true
+        }
+    }
+}

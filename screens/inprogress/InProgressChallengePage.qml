@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Platform
+import Kindora.Screens
+
+// A challenge in progress.
+Rectangle {
+    id: root
+
+    required property InProgressChallengeDetailViewController controller
+
+    readonly property real side: Math.max(140, Math.min(width - 48, 320, height - 256))
+
+    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+
+    SenderLine {
+        id: sender
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 16
+        width: Math.min(implicitWidth, root.width - 32)
+        controller: root.controller
+    }
+
+    PictureCard {
+        id: picture
+        owner: root.controller
+        width: root.side
+        height: root.side
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.top: sender.bottom
+        anchors.topMargin: 32
+
+        ShadowItem {
+            z: -1
+            anchors.fill: parent
+            anchors.topMargin: 3
+            anchors.bottomMargin: -3
+            radius: 20
+            blur: 8
+            opacity: 0.5
+        }
+    }
+
+    FadingLabel {
+        id: name
+        objectName: "challengeNameLabel"
+        owner: root.controller
+        outlet: objectName
+        anchors.top: picture.bottom
+        anchors.topMargin: 16
+        x: 24
+        width: root.width - 48
+        points: 24
+    }
+
+    FadingLabel {
+        objectName: "challengeDescriptionLabel"
+        owner: root.controller
+        outlet: objectName
+        anchors.top: name.bottom
+        anchors.topMargin: 8
+        x: 24
+        width: root.width - 48
+        color: Qt.rgba(0.45, 0.45, 0.45, 1)
+    }
+}

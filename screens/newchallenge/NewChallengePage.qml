@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Effects
+import Kindora.Platform
+import Kindora.Screens
+
+// A new challenge. Before the reveal the covered card stands in the middle of the page; the reveal
+// closes the page up, so that card, texts and buttons form one block.
+Rectangle {
+    id: root
+
+    required property NewChallengeDetailViewController controller
+
+    readonly property real side: Math.max(140, Math.min(width - 48, 320, height - 256))
+    readonly property real top: sender.y + sender.height + 16
+    readonly property real blockHeight: side + 16 + name.height + 8 + description.height + 16 + 50
+    readonly property real centredY: Math.max(top, (height - side) / 2)
+    readonly property real closedY: top + Math.max(0, (height - top - blockHeight - 24) * 0.4)
+
+    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+
+    SenderLine {
+        id: sender
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 16
+        width: Math.min(implicitWidth, root.width - 32)
+        controller: root.controller
+    }
+
+    ViewItem {
+        id: page
+        owner: root.controller
+        outlet: ""
+        anchors.fill: parent
+
+        PictureCard {
+            id: picture
+            owner: root.controller
+            width: root.side
+            height: root.side
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: root.centredY + (root.closedY - root.centredY) * Math.min(1, page.layoutProgress)
+        }
+
+        ScratchImageViewItem {
+            id: cover
+            objectName: "scratchImageView"
+            owner: root.controller
+            outlet: objectName
+            anchors.fill: picture
+            radius: 20
+            Accessible.ignored: true
+
+            ShadowItem {
+                z: -1
+                anchors.fill: parent
+                anchors.topMargin: cover.shadowOffset.y
+                anchors.bottomMargin: -cover.shadowOffset.y
+                radius: 20
+                blur: 8
+                opacity: cover.shadowOpacity
+            }
+        }
+
+        FadingLabel {
+            id: name
+            objectName: "challengeNameLabel"
+            owner: root.controller
+            outlet: objectName
+            anchors.top: picture.bottom
+            anchors.topMargin: 16
+            x: 24
+            width: root.width - 48
+            points: 24
+        }
+
+        FadingLabel {
+            id: description
+            objectName: "challengeDescriptionLabel"
+            owner: root.controller
+            outlet: objectName
+            anchors.top: name.bottom
+            anchors.topMargin: 8
+            x: 24
+            width: root.width - 48
+            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+        }
+
+        ViewItem {
+            id: accept
+            owner: root.controller
+            outlet: "acceptButton"
+            anchors.top: description.bottom
+            anchors.topMargin: 16
+            anchors.right: parent.horizontalCenter
+            anchors.rightMargin: 8
+            width: root.side / 2 - 8
+            height: 50
+
+            PillButton {
+                objectName: "acceptButton"
+                anchors.fill: parent
+                text: accept.text
+                onClicked: root.controller.accepted()
+            }
+        }
+
+        ViewItem {
+            id: reject
+            owner: root.controller
+            outlet: "rejectButton"
+            anchors.top: accept.top
+            anchors.left: parent.horizontalCenter
+            anchors.leftMargin: 8
+            width: root.side / 2 - 8
+            height: 50
+
+            PillButton {
+                objectName: "rejectButton"
+                anchors.fill: parent
+                filled: false
+                textColor: Qt.rgba(0.82, 0.01, 0.11, 1)
+                text: reject.text
+                onClicked: root.controller.rejected()
+            }
+        }
+    }
+}
