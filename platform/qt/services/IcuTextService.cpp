@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/qt/services/IcuTextService.h"
+
+#include <unicode/coll.h>
+#include <unicode/locid.h>
+#include <unicode/unistr.h>
+
+#include "platform/FatalError.h"
+
+namespace kindora {
+namespace {
+
+const icu::Collator& rootCollator() {
+  // Made at the first comparison, because loading its tables takes time that the launch can do
+  // without.
+  static const icu::Collator& collator = []() -> const icu::Collator& {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Collator* made = icu::Collator::createInstance(icu::Locale::getRoot(), status);
+    if (made == nullptr || U_FAILURE(status)) fatalError("no collation tables");
+    return *made;
+  }();
+  return collator;
+}
+
+icu::StringPiece piece(std::string_view text) {
+  return {text.data(), static_cast<std::int32_t>(text.size())};
+}
+
+}  // namespace
+
+int IcuTextService::compare(std::string_view a, std::string_view b) const {
+  UErrorCode status = U_ZERO_ERROR;
+  return rootCollator().compareUTF8(piece(a), piece(b), status);
+}
+
+std::string IcuTextService::capitalized(std::string_view text) const {
+  std::string result;
+  icu::UnicodeString::fromUTF8(piece(text))
+      .toTitle(nullptr, icu::Locale::getRoot())
+      .toUTF8String(result);
+  return result;
+}
+
+}  // namespace kindora
