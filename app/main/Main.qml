@@ -16,6 +16,8 @@ Window {
     visible: true
     title: "Kindora"
     color: Qt.rgba(0.9, 0.9, 0.9, 1)
+    // Where no window manager does it.
+    Component.onCompleted: root.requestActivate()
 
     WindowHost {
         anchors.horizontalCenter: parent.horizontalCenter

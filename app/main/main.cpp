@@ -28,6 +28,7 @@ int main(int argc, char* argv[]) {
   delegate.window->makeKeyAndVisible();
 
   QQmlApplicationEngine engine;
+  engine.addImportPath(QStringLiteral("qrc:/qt/qml"));  // the default from Qt 6.5 on
   engine.setInitialProperties({{QStringLiteral("host"), QVariant::fromValue(delegate.window.get())}});
   engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Kindora/App/Main.qml")));
   if (engine.rootObjects().isEmpty()) return EXIT_FAILURE;

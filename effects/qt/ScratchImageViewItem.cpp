@@ -8,9 +8,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "effects/scratch/ScratchPath.h"
+
 namespace kindora {
 namespace {
 
+constexpr double kPathStep = 12;      // points from one touch of scratchAway to the next
+constexpr double kPathSeconds = 1.8;  // for the whole cover
 constexpr int kMouse = -1;  // stands for the mouse among the fingers' ids
 
 CGPoint toPoint(QPointF point) { return {point.x(), point.y()}; }
@@ -136,6 +140,38 @@ QSGNode* ScratchImageViewItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData
     }
   }
   return cover;
+}
+
+// --- Scratching by itself ---
+
+void ScratchImageViewItem::scratchAway() {
+  const JxScratchImageView* target = scratchView();
+  if (target == nullptr || !path_.empty() || width() <= 0) return;
+  const double pixels = target->image() ? target->image()->pixelSize().width : width();
+  const double radius = static_cast<double>(target->radius()) * width() / pixels;
+  for (const auto& line : scratchPath({width(), height()}, radius, kPathStep)) {
+    for (std::size_t i = 0; i < line.size(); ++i) {
+      const bool first = i == 0;
+      path_.push_back({first ? UITouchPhase::began : UITouchPhase::moved, line[i],
+                       first ? line[i] : line[i - 1]});
+    }
+  }
+  followed_ = 0;
+  pathClock_ = ProgressAnimation(
+      {.duration = kPathSeconds, .curve = UIViewAnimationCurve::linear},
+      [this](double done) {
+        followPath(static_cast<std::size_t>(done * static_cast<double>(path_.size())));
+      },
+      [this] { path_.clear(); });
+}
+
+void ScratchImageViewItem::followPath(std::size_t points) {
+  JxScratchImageView* target = scratchView();
+  for (; target != nullptr && followed_ < points; ++followed_) {
+    const UITouch& touch = path_[followed_];
+    touch.phase == UITouchPhase::began ? target->touchesBegan({touch})
+                                       : target->touchesMoved({touch});
+  }
 }
 
 // --- Fingers ---

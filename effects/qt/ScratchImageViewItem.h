@@ -8,6 +8,7 @@
 
 #include "effects/scratch/JxScratchImageView.h"
 #include "platform/qt/quick/ViewItem.h"
+#include "platform/qt/toolkit/UIViewAnimation.h"
 
 namespace kindora {
 
@@ -26,6 +27,10 @@ class ScratchImageViewItem : public ViewItem {
   [[nodiscard]] double radius() const { return radius_; }
   void setRadius(double radius);
 
+  /// Scratches the whole cover away, as a finger would that goes over it line by line. Does nothing
+  /// while it is at it.
+  Q_INVOKABLE void scratchAway();
+
  signals:
   void radiusChanged();
 
@@ -39,11 +44,15 @@ class ScratchImageViewItem : public ViewItem {
 
  private:
   [[nodiscard]] JxScratchImageView* scratchView() const;
+  void followPath(std::size_t points);
   [[nodiscard]] QImage tileImage(std::size_t column, std::size_t row) const;
 
   double radius_ = 0;
   Raster shown_;
   QSizeF shownSize_;
+  std::vector<UITouch> path_;  // what scratchAway has still to do
+  std::size_t followed_ = 0;
+  ProgressAnimation pathClock_;
   QMap<int, QPointF> previous_;  // location of each finger in the event before
 };
 

@@ -84,11 +84,8 @@ void UIView::setUserInteractionEnabled(bool enabled) {
   changed();
 }
 
-void UIView::setFrame(CGRect frame) {
-  if (frame_ == frame) return;
-  frame_ = frame;
-  changed();
-}
+// Tells nobody: it comes from whoever draws the view.
+void UIView::setFrame(CGRect frame) { frame_ = frame; }
 
 void UIView::addSubview(const std::shared_ptr<UIView>& view) {
   view->removeFromSuperview();
@@ -116,15 +113,20 @@ std::shared_ptr<UIView> UIView::viewWithName(std::string_view name) {
 
 void UIView::addConstraint(std::shared_ptr<NSLayoutConstraint> constraint) {
   constraints_.push_back(std::move(constraint));
-  layoutTarget_ = state_.layout + 1;
+  constraintsChanged();
 }
 
 void UIView::removeConstraint(const std::shared_ptr<NSLayoutConstraint>& constraint) {
-  if (std::erase(constraints_, constraint) > 0) layoutTarget_ = state_.layout + 1;
+  if (std::erase(constraints_, constraint) > 0) constraintsChanged();
+}
+
+void UIView::constraintsChanged() {
+  if (laidOut_) layoutTarget_ = state_.layout + 1;
 }
 
 void UIView::layoutIfNeeded() {
   if (layoutRequested) layoutRequested();
+  laidOut_ = true;
   if (layoutTarget_ > state_.layout) {
     animatable([this](UIViewState& state) { state.layout = layoutTarget_; });
   }

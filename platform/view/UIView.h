@@ -27,7 +27,7 @@ struct UIViewState {
   double cornerRadius = 0;
   double shadowOpacity = 0;
   CGSize shadowOffset{0, -3};
-  double layout = 0;  ///< how many of the changes of its constraints the view has laid out
+  double layout = 0;  ///< how many changes of its constraints it has laid out since the first layout
   friend constexpr bool operator==(const UIViewState&, const UIViewState&) = default;
 };
 
@@ -112,6 +112,7 @@ class UIView : public std::enable_shared_from_this<UIView> {
   void changed();
 
  private:
+  void constraintsChanged();
   template <typename Change>
   void animatable(Change change);
 
@@ -126,6 +127,7 @@ class UIView : public std::enable_shared_from_this<UIView> {
   std::weak_ptr<UIView> superview_;
   std::vector<std::shared_ptr<UIView>> subviews_;
   std::vector<std::shared_ptr<NSLayoutConstraint>> constraints_;
+  bool laidOut_ = false;
   double layoutTarget_ = 0;
   std::map<int, Observer> observers_;
   int nextObserver_ = 1;

@@ -7,7 +7,7 @@ import Kindora.Platform
 TableCell {
     id: root
 
-    height: 76
+    implicitHeight: 76
     spoken: name.text + (detail.text !== "" ? ", " + detail.text : "")
 
     Rectangle {

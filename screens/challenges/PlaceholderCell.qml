@@ -7,7 +7,7 @@ import Kindora.Platform
 TableCell {
     id: root
 
-    height: 60
+    implicitHeight: 60
     spoken: message.text
 
     ViewItem {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
+import QtQuick.Templates as T
 import Kindora.Effects
 import Kindora.Platform
 import Kindora.Screens
@@ -13,10 +14,10 @@ Rectangle {
     required property NewChallengeDetailViewController controller
 
     readonly property real side: Math.max(140, Math.min(width - 48, 320, height - 256))
-    readonly property real top: sender.y + sender.height + 16
+    readonly property real blockTop: sender.y + sender.height + 16
     readonly property real blockHeight: side + 16 + name.height + 8 + description.height + 16 + 50
-    readonly property real centredY: Math.max(top, (height - side) / 2)
-    readonly property real closedY: top + Math.max(0, (height - top - blockHeight - 24) * 0.4)
+    readonly property real centredY: Math.max(blockTop, (height - side) / 2)
+    readonly property real closedY: blockTop + Math.max(0, (height - blockTop - blockHeight - 24) * 0.4)
 
     color: Qt.rgba(0.96, 0.96, 0.96, 1)
 
@@ -60,6 +61,42 @@ Rectangle {
                 radius: 20
                 blur: 8
                 opacity: cover.shadowOpacity
+            }
+        }
+
+        // For those who cannot scratch.
+        T.Button {
+            id: scratch
+            objectName: "scratchButton"
+            anchors.top: picture.bottom
+            anchors.topMargin: 12
+            anchors.horizontalCenter: parent.horizontalCenter
+            implicitWidth: hint.implicitWidth + 32
+            implicitHeight: 48
+            visible: cover.shown
+            opacity: cover.opacity
+            focusPolicy: Qt.StrongFocus
+            text: "Scratch the cover away"
+            Accessible.name: scratch.text
+            onPressedChanged: if (pressed) cover.scratchAway()
+            onClicked: cover.scratchAway()
+            Keys.onReturnPressed: cover.scratchAway()
+            Keys.onEnterPressed: cover.scratchAway()
+
+            background: FocusRing {
+                visible: scratch.visualFocus
+                anchors.margins: 2
+                radius: 12
+            }
+
+            contentItem: PlainText {
+                id: hint
+                text: scratch.text
+                points: 16
+                color: Qt.rgba(0.45, 0.45, 0.45, 1)
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+                Accessible.ignored: true
             }
         }
 

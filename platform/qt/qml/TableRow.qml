@@ -22,7 +22,7 @@ Item {
     readonly property bool open: root.table.editingRow === root.index
     readonly property real openWidth: 104
 
-    height: root.isHeader ? 44 : content.height + 8
+    height: root.isHeader ? 44 : content.implicitHeight + 8
 
     Loader {
         active: root.isHeader
@@ -85,7 +85,7 @@ Item {
         id: content
         objectName: "row" + root.index
         width: root.width
-        height: prototype.height
+        implicitHeight: prototype.implicitHeight
         visible: !root.isHeader
         enabled: !root.isHeader
         focusPolicy: root.pressable ? Qt.StrongFocus : Qt.NoFocus
@@ -109,7 +109,6 @@ Item {
 
         contentItem: Loader {
             id: prototype
-            width: content.width
             sourceComponent: root.prototypes[root.reuseIdentifier] ?? null
             onLoaded: item.cell = Qt.binding(() => root.cell)
         }

@@ -38,4 +38,15 @@ FocusScope {
         sequences: ["Esc", "Back", "Alt+Left"]
         onActivated: root.host.goBack()
     }
+
+    ShakeSource {
+        id: shakes
+        window: root.Window.window
+    }
+
+    // For those who cannot shake.
+    Shortcut {
+        sequence: "Ctrl+Shift+K"
+        onActivated: shakes.shake()
+    }
 }
