@@ -1,0 +1,50 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Kindora developers
+# SPDX-License-Identifier: Apache-2.0
+#
+#   ./test.sh             installs what is missing, builds everything and runs every test
+#   ./test.sh asan        the same with the address and undefined behaviour sanitizers
+#   ./test.sh tsan        ... with the thread sanitizer
+#   ./test.sh coverage    ... with coverage, reported in build/coverage/report/index.html
+#
+# Any names of CMake presets will do; without one they are `core` and `dev`.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+
+presets=("$@")
+if [[ ${#presets[@]} -eq 0 ]]; then
+  presets=(core dev)
+fi
+
+groups=(build test)
+for preset in "${presets[@]}"; do
+  case "$preset" in
+    app) echo "error: the preset app has no tests" >&2 && exit 2 ;;
+    release) groups+=(benchmark) ;;
+    coverage) groups+=(coverage) ;;
+  esac
+done
+tools/install-packages.sh "${groups[@]}"
+source tools/compiler-cache.sh
+
+# A test too, but worth knowing before a long build.
+tools/check-format.sh
+
+for preset in "${presets[@]}"; do
+  cmake --preset "$preset"
+  cmake --build --preset "$preset"
+done
+for preset in "${presets[@]}"; do
+  if [[ $preset == dev ]]; then
+    tools/check-tidy.sh build/dev
+  fi
+  if [[ $preset == coverage ]]; then
+    find build/coverage -name '*.gcda' -delete
+  fi
+  ctest --preset "$preset" --parallel "$(nproc)"
+  if [[ $preset == coverage ]]; then
+    mkdir -p build/coverage/report
+    gcovr --root . --object-directory build/coverage --exclude 'build/' --exclude 'tests/' \
+      --html-details build/coverage/report/index.html
+  fi
+done
