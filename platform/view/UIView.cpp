@@ -90,6 +90,7 @@ void UIView::setFrame(CGRect frame) { frame_ = frame; }
 void UIView::addSubview(const std::shared_ptr<UIView>& view) {
   view->removeFromSuperview();
   view->superview_ = weak_from_this();
+  view->removed_ = false;
   subviews_.push_back(view);
   view->changed();
 }
@@ -99,6 +100,7 @@ void UIView::removeFromSuperview() {
   if (!parent) return;
   const std::shared_ptr<UIView> self = shared_from_this();
   superview_.reset();
+  removed_ = true;
   std::erase(parent->subviews_, self);
   changed();
 }

@@ -80,6 +80,8 @@ class UIView : public std::enable_shared_from_this<UIView> {
   [[nodiscard]] const std::vector<std::shared_ptr<UIView>>& subviews() const { return subviews_; }
   void addSubview(const std::shared_ptr<UIView>& view);
   void removeFromSuperview();
+  /// True once it was taken out of its superview and not put anywhere since. A root view never is.
+  [[nodiscard]] bool isRemoved() const { return removed_; }
   /// This view or one inside it that bears the name; null when there is none.
   [[nodiscard]] std::shared_ptr<UIView> viewWithName(std::string_view name);
 
@@ -125,6 +127,7 @@ class UIView : public std::enable_shared_from_this<UIView> {
   bool userInteractionEnabled_ = true;
   CGRect frame_;
   std::weak_ptr<UIView> superview_;
+  bool removed_ = false;
   std::vector<std::shared_ptr<UIView>> subviews_;
   std::vector<std::shared_ptr<NSLayoutConstraint>> constraints_;
   bool laidOut_ = false;

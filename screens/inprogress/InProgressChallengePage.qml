@@ -18,7 +18,7 @@ Rectangle {
         id: sender
         anchors.horizontalCenter: parent.horizontalCenter
         y: 16
-        width: Math.min(implicitWidth, root.width - 32)
+        maximumWidth: root.width - 32
         controller: root.controller
     }
 

@@ -25,14 +25,14 @@ Rectangle {
         id: sender
         anchors.horizontalCenter: parent.horizontalCenter
         y: 16
-        width: Math.min(implicitWidth, root.width - 32)
+        maximumWidth: root.width - 32
         controller: root.controller
     }
 
     ViewItem {
         id: page
         owner: root.controller
-        outlet: ""
+        outlet: "view"
         anchors.fill: parent
 
         PictureCard {

@@ -8,6 +8,7 @@ Row {
     id: root
 
     required property UIViewController controller
+    required property real maximumWidth
 
     height: 40
     spacing: 12
@@ -42,7 +43,7 @@ Row {
         objectName: "senderLabel"
         owner: root.controller
         outlet: objectName
-        width: Math.min(senderText.implicitWidth, root.width - 52)
+        width: Math.min(senderText.implicitWidth, root.maximumWidth - 52)
         height: 40
 
         PlainText {

@@ -86,7 +86,7 @@ ImageHandle ViewItem::image() const {
 }
 
 bool ViewItem::isShown() const {
-  return view_ && view_->superview() != nullptr && view_->presentation().alpha > 0;
+  return view_ && !view_->isRemoved() && view_->presentation().alpha > 0;
 }
 
 double ViewItem::shadowOpacity() const { return view_ ? view_->presentation().shadowOpacity : 0; }

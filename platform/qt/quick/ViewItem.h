@@ -44,7 +44,7 @@ class ViewItem : public QQuickItem {
   [[nodiscard]] QColor textColor() const;  ///< invalid when the storyboard is to choose
   [[nodiscard]] bool isTextCentered() const;
   [[nodiscard]] ImageHandle image() const;
-  /// In its superview and not fully transparent: only then is it drawn, pressed or read aloud.
+  /// Not removed from its superview and not fully transparent: only then is it drawn, pressed or read aloud.
   [[nodiscard]] bool isShown() const;
   [[nodiscard]] double shadowOpacity() const;
   [[nodiscard]] QPointF shadowOffset() const;

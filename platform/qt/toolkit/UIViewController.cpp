@@ -38,6 +38,7 @@ const std::shared_ptr<UIView>& UIViewController::view() {
 void UIViewController::loadViewIfNeeded() {
   if (view_) return;
   view_ = std::make_shared<UIView>();
+  view_->setName("view");
   if (scene_ != nullptr && scene_->connectOutlets) scene_->connectOutlets(*this);
   viewDidLoad();
 }
