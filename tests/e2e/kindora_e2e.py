@@ -321,7 +321,7 @@ class Node:
             raise AssertionError(f"{self} refuses the action {action}")
 
     def walk(self):
-        """This thing and all below it, in the order of reading."""
+        """This thing and all below it, in the order of the tree, which is not that of the places."""
         yield self
         for child in self.children:
             yield from child.walk()
@@ -439,7 +439,7 @@ class App:
         return list(self._root.walk())
 
     def find_all(self, name=None, role=None, showing=True):
-        """Everything that matches, in the order of reading. None matches anything."""
+        """Everything that matches, in the order of the tree. None matches anything."""
         return [
             node
             for node in self._root.walk()
@@ -494,6 +494,13 @@ class App:
 
         add(self._root, 0)
         return "\n".join(lines)
+
+    @property
+    def title(self):
+        return self.window.get_full_text_property(
+            self._phone.display.intern_atom("_NET_WM_NAME"),
+            self._phone.display.intern_atom("UTF8_STRING"),
+        )
 
     def geometry(self):
         """(x, y, width, height) of the window."""
