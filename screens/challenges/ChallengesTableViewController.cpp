@@ -161,12 +161,12 @@ void ChallengesTableViewController::tableViewDidSelectRowAtIndexPath(IndexPath p
 
 void ChallengesTableViewController::prepareForSegue(const UIStoryboardSegue& segue,
                                                     const std::any& sender) {
-  const ChallengeRef& challenge = challengeAt(std::any_cast<IndexPath>(sender));
+  const auto selected = [&] { return challengeAt(std::any_cast<IndexPath>(sender)); };
   UIViewController& destination = *segue.destinationViewController;
   if (segue.identifier == kShowNewChallenge) {
-    dynamic_cast<NewChallengeDetailViewController&>(destination).challenge = challenge;
+    dynamic_cast<NewChallengeDetailViewController&>(destination).challenge = selected();
   } else if (segue.identifier == kShowInProgressChallenge) {
-    dynamic_cast<InProgressChallengeDetailViewController&>(destination).challenge = challenge;
+    dynamic_cast<InProgressChallengeDetailViewController&>(destination).challenge = selected();
   }
 }
 
@@ -192,8 +192,8 @@ void ChallengesTableViewController::tableViewCommitEditingStyleForRowAtIndexPath
     tableView()->reloadSections({section}, UITableViewRowAnimation::automatic);
   };
   const auto neverMind = [this] { tableView()->setEditing(false, true); };
-  presentViewController(
-      rejectAlertForChallenge(*challenge, guarded(reject), guarded(neverMind)), true);
+  presentViewController(rejectAlertForChallenge(*challenge, guarded(reject), guarded(neverMind)),
+                        true);
 }
 
 // --- Shake ---

@@ -35,6 +35,17 @@ Rectangle {
         outlet: "view"
         anchors.fill: parent
 
+        // The cover's shadow, under the picture that the cover lies on.
+        ShadowItem {
+            x: picture.x + cover.shadowOffset.x
+            y: picture.y + cover.shadowOffset.y
+            width: picture.width
+            height: picture.height
+            radius: 20
+            blur: 8
+            opacity: cover.shadowOpacity
+        }
+
         PictureCard {
             id: picture
             owner: root.controller
@@ -52,16 +63,6 @@ Rectangle {
             anchors.fill: picture
             radius: 20
             Accessible.ignored: true
-
-            ShadowItem {
-                z: -1
-                anchors.fill: parent
-                anchors.topMargin: cover.shadowOffset.y
-                anchors.bottomMargin: -cover.shadowOffset.y
-                radius: 20
-                blur: 8
-                opacity: cover.shadowOpacity
-            }
         }
 
         // For those who cannot scratch.

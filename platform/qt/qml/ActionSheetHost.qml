@@ -89,8 +89,8 @@ FocusScope {
                 text: action.modelData
                 Accessible.name: action.text
                 onClicked: root.controller.choose(action.index)
-                Keys.onReturnPressed: action.click()
-                Keys.onEnterPressed: action.click()
+                Keys.onReturnPressed: action.clicked()
+                Keys.onEnterPressed: action.clicked()
 
                 background: Rectangle {
                     radius: 14
@@ -106,6 +106,7 @@ FocusScope {
 
                 contentItem: PlainText {
                     text: action.text
+                    Accessible.ignored: true
                     font: action.cancels ? Appearance.boldFont(19) : Appearance.font(19)
                     color: action.destroys ? Qt.rgba(0.82, 0.01, 0.11, 1)
                                            : Qt.darker(Appearance.tint, 1.5)

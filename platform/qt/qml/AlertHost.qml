@@ -37,7 +37,6 @@ FocusScope {
         scale: 1.12 - 0.12 * root.progress
         Accessible.role: Accessible.AlertMessage
         Accessible.name: root.controller.alertTitle
-        Accessible.description: root.controller.alertMessage
 
         Flickable {
             id: body
@@ -60,6 +59,7 @@ FocusScope {
                     width: parent.width - 32
                     visible: text !== ""
                     text: root.controller.alertTitle
+                    Accessible.ignored: true
                     font: Appearance.boldFont(17)
                     wrapMode: Text.Wrap
                     horizontalAlignment: Text.AlignHCenter
@@ -103,8 +103,8 @@ FocusScope {
                     text: action.modelData
                     Accessible.name: action.text
                     onClicked: root.controller.choose(action.index)
-                    Keys.onReturnPressed: action.click()
-                    Keys.onEnterPressed: action.click()
+                    Keys.onReturnPressed: action.clicked()
+                    Keys.onEnterPressed: action.clicked()
 
                     background: Rectangle {
                         radius: card.radius
@@ -132,6 +132,7 @@ FocusScope {
 
                     contentItem: PlainText {
                         text: action.text
+                        Accessible.ignored: true
                         font: action.cancels ? Appearance.boldFont(17) : Appearance.font(17)
                         color: action.destroys ? Qt.rgba(0.82, 0.01, 0.11, 1)
                                                : Qt.darker(Appearance.tint, 1.5)

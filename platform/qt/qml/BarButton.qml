@@ -16,8 +16,8 @@ T.Button {
     opacity: root.pressed ? 0.5 : 1
     Accessible.name: root.text
 
-    Keys.onReturnPressed: root.click()
-    Keys.onEnterPressed: root.click()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
 
     background: FocusRing {
         visible: root.visualFocus

@@ -17,8 +17,8 @@ T.Button {
     scale: root.pressed ? 0.97 : 1
     Accessible.name: root.text
 
-    Keys.onReturnPressed: root.click()
-    Keys.onEnterPressed: root.click()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
 
     background: Item {
         ShadowItem {
@@ -46,6 +46,7 @@ T.Button {
     contentItem: PlainText {
         id: label
         text: root.text
+        Accessible.ignored: true
         font: Appearance.boldFont(17)
         color: root.textColor
         horizontalAlignment: Text.AlignHCenter

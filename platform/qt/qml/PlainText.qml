@@ -3,7 +3,7 @@
 import QtQuick
 import Kindora.Platform
 
-// Text that is never taken for markup, in the app's font.
+// Text that is never taken for markup, in the app's font, and read aloud as it stands.
 Text {
     property real points: 16
 
@@ -11,4 +11,6 @@ Text {
     font: Appearance.font(points)
     color: Qt.rgba(0.13, 0.13, 0.13, 1)
     elide: Text.ElideRight
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 }

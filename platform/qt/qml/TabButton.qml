@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import Kindora.Platform
 
 // One tab of the tab bar: glyph, title, and the bubble with its badge.
-T.AbstractButton {
+T.TabButton {
     id: root
 
     required property UITabBarItem item
@@ -15,13 +15,12 @@ T.AbstractButton {
     implicitHeight: 49
     focusPolicy: Qt.StrongFocus
     text: root.item.title
-    Accessible.role: Accessible.PageTab
     Accessible.name: root.item.badgeValue !== "" ? root.text + ", " + root.item.badgeValue : root.text
     Accessible.selected: root.selected
     Accessible.selectable: true
 
-    Keys.onReturnPressed: root.click()
-    Keys.onEnterPressed: root.click()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
 
     background: FocusRing {
         visible: root.visualFocus

@@ -16,6 +16,7 @@ ListView {
     boundsBehavior: Flickable.DragAndOvershootBounds
     cacheBuffer: 400
     Accessible.role: Accessible.List
+    Accessible.name: root.controller.title
 
     delegate: TableRow {
         table: root.controller.tableView

@@ -43,7 +43,6 @@ Item {
                 color: label.textColor
                 horizontalAlignment: label.textCentered ? Text.AlignHCenter : Text.AlignLeft
                 Accessible.role: Accessible.Heading
-                Accessible.name: text
             }
         }
     }
@@ -60,7 +59,7 @@ Item {
         focusPolicy: Qt.StrongFocus
         Accessible.name: remove.text
         onClicked: root.table.commitDelete(root.index)
-        Keys.onReturnPressed: remove.click()
+        Keys.onReturnPressed: remove.clicked()
 
         background: Rectangle {
             radius: 20
@@ -74,6 +73,7 @@ Item {
 
         contentItem: PlainText {
             text: remove.text
+            Accessible.ignored: true
             font: Appearance.boldFont(16)
             color: "white"
             horizontalAlignment: Text.AlignHCenter
@@ -102,8 +102,8 @@ Item {
                 root.table.select(root.index);
         }
         onPressAndHold: root.table.openRow(root.index)
-        Keys.onReturnPressed: content.click()
-        Keys.onEnterPressed: content.click()
+        Keys.onReturnPressed: content.clicked()
+        Keys.onEnterPressed: content.clicked()
         Keys.onDeletePressed: root.table.commitDelete(root.index)
         Keys.onMenuPressed: root.table.openRow(root.index)
 
