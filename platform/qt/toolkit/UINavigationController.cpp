@@ -120,7 +120,15 @@ void UINavigationController::run(double from, double to) {
       [this] { finish(); });
 }
 
+void UINavigationController::cancelGesture() {
+  transition_->gesture = false;
+  std::swap(transition_->leaving, transition_->arriving);
+  transition_->leaving->beginAppearanceTransition(false, true);
+  transition_->arriving->beginAppearanceTransition(true, true);
+}
+
 void UINavigationController::finish() {
+  if (transition_ && transition_->gesture) cancelGesture();
   const auto ended = std::exchange(transition_, nullptr);
   if (!ended) return;
   if (ended->pops) {
@@ -168,18 +176,21 @@ void UINavigationController::moveBackGesture(double topProgress) {
 
 void UINavigationController::endBackGesture(bool goesBack) {
   if (!transition_ || !transition_->gesture) return;
-  transition_->gesture = false;
-  if (goesBack) {
+  if (goesBack && !stack_.back()->navigationItem()->hidesBackButton()) {
+    transition_->gesture = false;
     transition_->pops = true;
     stack_.pop_back();
     emit stackChanged();
     run(topProgress_, 0);
   } else {
-    std::swap(transition_->leaving, transition_->arriving);
-    transition_->leaving->beginAppearanceTransition(false, true);
-    transition_->arriving->beginAppearanceTransition(true, true);
+    cancelGesture();
     run(topProgress_, 1);
   }
+}
+
+void UINavigationController::viewWillDisappear(bool animated) {
+  UIViewController::viewWillDisappear(animated);
+  if (transition_ && transition_->gesture) finish();
 }
 
 void UINavigationController::setTopProgress(double progress) {

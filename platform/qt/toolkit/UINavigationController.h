@@ -35,8 +35,8 @@ class UINavigationBar : public QObject {
   void layoutRequested();
 };
 
-/// A stack of screens, of which the top is seen. Pushing and popping take effect at once; animated, the
-/// appearance callbacks frame the time that the change takes on the screen.
+/// A stack of screens, of which the top is seen. Pushing and popping take effect at once; animated,
+/// the appearance callbacks frame the time that the change takes on the screen.
 class UINavigationController : public UIViewController {
   Q_OBJECT
   QML_ELEMENT
@@ -81,10 +81,13 @@ class UINavigationController : public UIViewController {
   [[nodiscard]] bool canGoBack() const;
   Q_INVOKABLE bool goBack() override;
 
-  /// The back gesture: began, moved to how far the page is still in (1 to 0), and let go.
+  /// The back gesture: began, moved to how far the page is still in (1 to 0), and let go. It does
+  /// not go back when the back button was hidden, the stack changed or went out of sight meanwhile.
   Q_INVOKABLE bool beginBackGesture();
   Q_INVOKABLE void moveBackGesture(double topProgress);
   Q_INVOKABLE void endBackGesture(bool goesBack);
+
+  void viewWillDisappear(bool animated) override;
 
   [[nodiscard]] std::vector<UIViewController*> visibleChildren() const override;
   [[nodiscard]] QUrl page() const override;
@@ -104,6 +107,7 @@ class UINavigationController : public UIViewController {
   void adopt(const UIViewControllerRef& controller);
   void change(const UIViewControllerRef& leaving, bool animated);
   void run(double from, double to);
+  void cancelGesture();
   void finish();
   void setTopProgress(double progress);
 

@@ -10,6 +10,7 @@ UITabBarItemAppearance& UITabBarItem::appearance() {
 }
 
 void UITabBarItem::setTitleAndImage(const QString& title, const QString& imageName) {
+  if (title_ == title && imageName_ == imageName) return;
   title_ = title;
   imageName_ = imageName;
   emit changed();

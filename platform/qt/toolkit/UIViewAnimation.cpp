@@ -5,6 +5,7 @@
 #include <QAbstractAnimation>
 #include <QEasingCurve>
 #include <QPointF>
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <utility>
@@ -62,14 +63,19 @@ class Timeline : public QAbstractAnimation {
   std::function<void(double)> step_;
 };
 
+// At least a millisecond, so that nothing completes inside the call that begins it.
+UIViewAnimationTiming lasting(UIViewAnimationTiming timing) {
+  timing.duration = std::max(timing.duration, 0.001);
+  return timing;
+}
+
 }  // namespace
 
 void animateWithDuration(const UIViewAnimationTiming& timing,
                          const std::function<void()>& animations,
                          std::function<void()> completion) {
   const auto block = std::make_shared<UIViewAnimationBlock>(animations);
-  auto* timeline =
-      new Timeline(timing, [block](double fraction) { block->show(fraction); });
+  auto* timeline = new Timeline(timing, [block](double fraction) { block->show(fraction); });
   QObject::connect(timeline, &QAbstractAnimation::finished, timeline,
                    [completion = std::move(completion)] {
                      if (completion) completion();
@@ -85,7 +91,7 @@ class ProgressAnimation::Clock final : public Timeline {
 ProgressAnimation::ProgressAnimation(const UIViewAnimationTiming& timing,
                                      std::function<void(double)> step,
                                      std::function<void()> completion)
-    : clock_(new Clock(timing, std::move(step))) {
+    : clock_(new Clock(lasting(timing), std::move(step))) {
   QObject::connect(clock_, &QAbstractAnimation::finished, clock_,
                    [completion = std::move(completion)] {
                      if (completion) completion();

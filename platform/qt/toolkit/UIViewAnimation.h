@@ -15,8 +15,8 @@ struct UIViewAnimationTiming {
   UIViewAnimationCurve curve = UIViewAnimationCurve::easeInOut;
 };
 
-/// Runs the closure now and shows its changes to views over time, beginning from what they show at the
-/// moment. The completion runs once, when the last step has been shown.
+/// Runs the closure now and shows its changes to views over time, beginning from what they show at
+/// the moment. The completion runs once, when the last step has been shown.
 void animateWithDuration(const UIViewAnimationTiming& timing,
                          const std::function<void()>& animations,
                          std::function<void()> completion = {});
@@ -25,7 +25,8 @@ void animateWithDuration(const UIViewAnimationTiming& timing,
 class ProgressAnimation {
  public:
   ProgressAnimation() = default;
-  /// Calls step with the fraction at each frame and at last with 1, then the completion.
+  /// Calls step with the fraction at each frame and at last with 1, then the completion, which
+  /// never runs inside this call.
   ProgressAnimation(const UIViewAnimationTiming& timing, std::function<void(double)> step,
                     std::function<void()> completion);
   ProgressAnimation(ProgressAnimation&& other) noexcept;
