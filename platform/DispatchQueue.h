@@ -16,8 +16,8 @@ class DispatchQueue {
   virtual ~DispatchQueue() = default;
   /// Runs the closure as soon as possible, after those given before.
   virtual void async(Closure closure) = 0;
-  /// Runs the closure once, when the delay is over; earlier deadlines first, equal ones in the order
-  /// given. A delay of 0 or less is over at once.
+  /// Runs the closure once, when the delay is over; earlier deadlines first, equal ones in the
+  /// order given. A delay of 0 or less is over at once.
   virtual void after(std::chrono::nanoseconds delay, Closure closure) = 0;
 };
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-// A premultiplied RGBA8 bitmap that is cheap to copy: its pixels lie in square tiles, and copies share
-// every tile until one of them writes to it.
+// A premultiplied RGBA8 bitmap that is cheap to copy: its pixels lie in square tiles, and copies
+// share every tile until one of them writes to it.
 //
 // Row 0 is the top row. Not for use from several threads at once.
 #pragma once

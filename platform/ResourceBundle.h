@@ -12,8 +12,8 @@ namespace kindora {
 class ResourceBundle {
  public:
   virtual ~ResourceBundle() = default;
-  /// The picture of that name; none, quietly, when there is no such resource. The same name gives the
-  /// same object.
+  /// The picture of that name; none, quietly, when there is no such resource. The same name gives
+  /// the same object.
   [[nodiscard]] virtual UIImageRef imageNamed(std::string_view name) = 0;
 };
 

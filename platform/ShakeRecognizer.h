@@ -9,8 +9,9 @@
 
 namespace kindora {
 
-/// Tells a shake from other movement: several strong swings to and fro within a second. Fed with the
-/// displacement or acceleration along one axis; knows no units, only the threshold it was given.
+/// Tells a shake from other movement: several strong swings to and fro within a second. Fed with
+/// the displacement or acceleration along one axis; knows no units, only the threshold it was
+/// given.
 class ShakeRecognizer final {
  public:
   using Time = std::chrono::milliseconds;
@@ -18,8 +19,8 @@ class ShakeRecognizer final {
   /// The least change of direction to direction that counts as a swing, in the unit of the samples.
   explicit ShakeRecognizer(double threshold) : threshold_(threshold) {}
 
-  /// Takes one sample, times not decreasing. True when this sample completes a shake; the next shake
-  /// then starts from nothing.
+  /// Takes one sample, times not decreasing. True when this sample completes a shake; the next
+  /// shake then starts from nothing.
   bool addSample(double value, Time time);
 
  private:

@@ -10,8 +10,8 @@
 
 namespace kindora {
 
-/// The question asked before a challenge is rejected or deleted; the caller presents it. Each closure
-/// may be empty and runs when its button was chosen and the alert has gone.
+/// The question asked before a challenge is rejected or deleted; the caller presents it. Each
+/// closure may be empty and runs when its button was chosen and the alert has gone.
 [[nodiscard]] std::shared_ptr<UIAlertController> rejectAlertForChallenge(
     const Challenge& challenge, std::function<void()> onReject,
     std::function<void()> onNeverMind = {});

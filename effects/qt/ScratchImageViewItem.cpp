@@ -15,7 +15,7 @@ namespace {
 
 constexpr double kPathStep = 12;      // points from one touch of scratchAway to the next
 constexpr double kPathSeconds = 1.8;  // for the whole cover
-constexpr int kMouse = -1;  // stands for the mouse among the fingers' ids
+constexpr int kMouse = -1;            // stands for the mouse among the fingers' ids
 
 CGPoint toPoint(QPointF point) { return {point.x(), point.y()}; }
 
@@ -25,7 +25,8 @@ class CoverNode final : public QSGNode {
   std::vector<QSGImageNode*> tiles;
 };
 
-// How much of a pixel lies inside the rounded rectangle, by the distance of its centre from the edge.
+// How much of a pixel lies inside the rounded rectangle, by the distance of its centre from the
+// edge.
 double coverage(double x, double y, double width, double height, double radius) {
   const double dx = std::max({radius - x, x - (width - radius), 0.0});
   const double dy = std::max({radius - y, y - (height - radius), 0.0});
@@ -80,10 +81,9 @@ QImage ScratchImageViewItem::tileImage(std::size_t column, std::size_t row) cons
   const auto width = static_cast<double>(shown_.width());
   const auto height = static_cast<double>(shown_.height());
   const double radius = radius_ * width / std::max(1.0, this->width());
-  const bool inCorner = (static_cast<double>(left) < radius ||
-                         static_cast<double>(left + side) > width - radius) &&
-                        (static_cast<double>(top) < radius ||
-                         static_cast<double>(top + side) > height - radius);
+  const bool inCorner =
+      (static_cast<double>(left) < radius || static_cast<double>(left + side) > width - radius) &&
+      (static_cast<double>(top) < radius || static_cast<double>(top + side) > height - radius);
   if (!inCorner) return image;
   for (std::size_t y = 0; y < tileHeight; ++y) {
     auto* line = reinterpret_cast<Rgba8*>(image.scanLine(static_cast<int>(y)));
@@ -135,8 +135,8 @@ QSGNode* ScratchImageViewItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData
       cover->tiles[place]->setTexture(window()->createTextureFromImage(image));
       constexpr auto side = static_cast<double>(Raster::kTileSide);
       cover->tiles[place]->setRect(static_cast<double>(column) * side * scaleX,
-                                   static_cast<double>(row) * side * scaleY,
-                                   image.width() * scaleX, image.height() * scaleY);
+                                   static_cast<double>(row) * side * scaleY, image.width() * scaleX,
+                                   image.height() * scaleY);
     }
   }
   return cover;

@@ -3,8 +3,8 @@
 // The record of a view: what the logic decides about it. It knows no pixels; an item above the line
 // draws it and reports the size that it was given.
 //
-// Inside an animation block (see UIViewAnimationBlock) a change of state takes effect on the model at
-// once, while what is shown moves there over time. Main thread only.
+// Inside an animation block (see UIViewAnimationBlock) a change of state takes effect on the model
+// at once, while what is shown moves there over time. Main thread only.
 #pragma once
 
 #include <functional>
@@ -27,7 +27,8 @@ struct UIViewState {
   double cornerRadius = 0;
   double shadowOpacity = 0;
   CGSize shadowOffset{0, -3};
-  double layout = 0;  ///< how many changes of its constraints it has laid out since the first layout
+  double layout =
+      0;  ///< how many changes of its constraints it has laid out since the first layout
   friend constexpr bool operator==(const UIViewState&, const UIViewState&) = default;
 };
 
@@ -60,11 +61,13 @@ class UIView : public std::enable_shared_from_this<UIView> {
   [[nodiscard]] const UIViewState& presentation() const { return presentation_; }
   void setPresentation(const UIViewState& presentation);
 
-  /// Drawn through a bitmap at rasterizationScale pixels a point, for shadows that are dear to draw.
+  /// Drawn through a bitmap at rasterizationScale pixels a point, for shadows that are dear to
+  /// draw.
   [[nodiscard]] bool shouldRasterize() const { return shouldRasterize_; }
   [[nodiscard]] double rasterizationScale() const { return rasterizationScale_; }
   void setShouldRasterize(bool on, double scale);
-  /// Corner radius of the rounded rectangle over the bounds that casts the shadow; none when negative.
+  /// Corner radius of the rounded rectangle over the bounds that casts the shadow; none when
+  /// negative.
   [[nodiscard]] double shadowPathRadius() const { return shadowPathRadius_; }
   void setShadowPathRadius(double radius);
 
@@ -90,7 +93,8 @@ class UIView : public std::enable_shared_from_this<UIView> {
   }
   void addConstraint(std::shared_ptr<NSLayoutConstraint> constraint);
   void removeConstraint(const std::shared_ptr<NSLayoutConstraint>& constraint);
-  /// Lays out at once what has changed. Whoever draws the view is told through layoutRequested first.
+  /// Lays out at once what has changed. Whoever draws the view is told through layoutRequested
+  /// first.
   void layoutIfNeeded();
   Observer layoutRequested;
 

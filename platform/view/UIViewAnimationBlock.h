@@ -13,8 +13,8 @@ namespace kindora {
 
 /// Catches the changes that a closure makes to views, so that they can be shown over time.
 ///
-/// Changes start from what each view shows at that moment. A later block that touches a view takes it
-/// over from an earlier one.
+/// Changes start from what each view shows at that moment. A later block that touches a view takes
+/// it over from an earlier one.
 class UIViewAnimationBlock {
  public:
   /// Runs the closure and records every view that it changes. Blocks do not nest.

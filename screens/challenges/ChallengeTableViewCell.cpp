@@ -8,7 +8,7 @@
 namespace kindora {
 namespace {
 
-constexpr double kPictureSide = 52;      // points
+constexpr double kPictureSide = 52;       // points
 constexpr double kHighlightAlpha = 0.25;  // of the black that darkens a pressed picture
 
 }  // namespace
@@ -53,10 +53,10 @@ void ChallengeTableViewCell::setHighlighted(bool highlighted, bool animated) {
   UITableViewCell::setHighlighted(highlighted, animated);
   if (profileImage_) {
     connected(profileImageView)
-        ->setImage(highlighted
-                       ? imageWithColorOverlay(profileImage_, UIColor::blackColor().colorWithAlphaComponent(
-                                                                  kHighlightAlpha))
-                       : profileImage_);
+        ->setImage(highlighted ? imageWithColorOverlay(
+                                     profileImage_,
+                                     UIColor::blackColor().colorWithAlphaComponent(kHighlightAlpha))
+                               : profileImage_);
   }
   const auto frame = pictureFrame();
   frame->setShadowOpacity(highlighted ? 0.25 : 0.5);

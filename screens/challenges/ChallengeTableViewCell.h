@@ -11,8 +11,8 @@
 
 namespace kindora {
 
-/// A challenge's row: a round picture in a shadowed frame, onto which it sinks when pressed, and two
-/// lines of text.
+/// A challenge's row: a round picture in a shadowed frame, onto which it sinks when pressed, and
+/// two lines of text.
 class ChallengeTableViewCell : public UITableViewCell {
   Q_OBJECT
 

@@ -13,15 +13,16 @@
 namespace kindora {
 namespace {
 
-constexpr std::size_t kBrushRadius = 50;     // pixels of the cover
-constexpr double kRevealProgress = 0.7;      // of the cover; above it the challenge shows
-constexpr double kStepSeconds = 0.25;        // each step of the reveal
-constexpr double kSpaceAboveButtons = 16;    // points
+constexpr std::size_t kBrushRadius = 50;   // pixels of the cover
+constexpr double kRevealProgress = 0.7;    // of the cover; above it the challenge shows
+constexpr double kStepSeconds = 0.25;      // each step of the reveal
+constexpr double kSpaceAboveButtons = 16;  // points
 constexpr double kAcceptedAlertSeconds = 2.5;
 
 }  // namespace
 
 void NewChallengeDetailViewController::connectOutlets() {
+  setTitle(QStringLiteral("New Challenge"));
   UIView& root = *view();
   connectOutlet(senderImageView, "senderImageView", root);
   connectOutlet(senderLabel, "senderLabel", root);
@@ -37,14 +38,14 @@ void NewChallengeDetailViewController::connectOutlets() {
     button.lock()->setAlpha(0);
     button.lock()->setEnabled(false);
   }
-  const auto constrain = [&](std::weak_ptr<NSLayoutConstraint>& outlet,
-                             NSLayoutAttribute attribute, double constant) {
-    auto constraint = std::make_shared<NSLayoutConstraint>(
-        NSLayoutConstraint{.firstItem = imageView,
-                           .firstAttribute = attribute,
-                           .secondItem = view(),
-                           .secondAttribute = attribute,
-                           .constant = constant});
+  const auto constrain = [&](std::weak_ptr<NSLayoutConstraint>& outlet, NSLayoutAttribute attribute,
+                             double constant) {
+    auto constraint =
+        std::make_shared<NSLayoutConstraint>(NSLayoutConstraint{.firstItem = imageView,
+                                                                .firstAttribute = attribute,
+                                                                .secondItem = view(),
+                                                                .secondAttribute = attribute,
+                                                                .constant = constant});
     outlet = constraint;
     root.addConstraint(std::move(constraint));
   };
@@ -76,9 +77,8 @@ void NewChallengeDetailViewController::viewDidLoad() {
 
 void NewChallengeDetailViewController::jxScratchImageView(JxScratchImageView& /*view*/,
                                                           double didChangeMaskingProgress) {
-  services().mainQueue->async(guarded([this, didChangeMaskingProgress] {
-    maskingProgressChanged(didChangeMaskingProgress);
-  }));
+  services().mainQueue->async(guarded(
+      [this, didChangeMaskingProgress] { maskingProgressChanged(didChangeMaskingProgress); }));
 }
 
 void NewChallengeDetailViewController::maskingProgressChanged(double progress) {
@@ -99,9 +99,9 @@ void NewChallengeDetailViewController::setDoneScratching(bool done) {
 // --- The reveal: each step starts when the one before has ended ---
 
 void NewChallengeDetailViewController::animateDoneScratching() {
-  animateWithDuration({.duration = kStepSeconds},
-                      [this] { connected(scratchImageView)->setAlpha(0); },
-                      guarded([this] { closeUpLayout(); }));
+  animateWithDuration(
+      {.duration = kStepSeconds}, [this] { connected(scratchImageView)->setAlpha(0); },
+      guarded([this] { closeUpLayout(); }));
 }
 
 void NewChallengeDetailViewController::closeUpLayout() {
@@ -115,17 +115,19 @@ void NewChallengeDetailViewController::closeUpLayout() {
                          .secondAttribute = NSLayoutAttribute::bottom,
                          .multiplier = 1,
                          .constant = kSpaceAboveButtons}));
-  animateWithDuration({.duration = kStepSeconds, .delay = 0.5},
-                      [&root] { root.layoutIfNeeded(); }, guarded([this] { showTexts(); }));
+  animateWithDuration(
+      {.duration = kStepSeconds, .delay = 0.5}, [&root] { root.layoutIfNeeded(); },
+      guarded([this] { showTexts(); }));
 }
 
 void NewChallengeDetailViewController::showTexts() {
-  animateWithDuration({.duration = kStepSeconds, .delay = 0.25},
-                      [this] {
-                        connected(challengeNameLabel)->setAlpha(1);
-                        connected(challengeDescriptionLabel)->setAlpha(1);
-                      },
-                      guarded([this] { showButtons(); }));
+  animateWithDuration(
+      {.duration = kStepSeconds, .delay = 0.25},
+      [this] {
+        connected(challengeNameLabel)->setAlpha(1);
+        connected(challengeDescriptionLabel)->setAlpha(1);
+      },
+      guarded([this] { showButtons(); }));
 }
 
 void NewChallengeDetailViewController::showButtons() {
@@ -147,8 +149,7 @@ void NewChallengeDetailViewController::accepted() {
       "This challenge is now in progress. Come back when you've completed it.",
       UIAlertControllerStyle::alert);
   presentViewController(alert, true);
-  runAfterDelay(kAcceptedAlertSeconds, *services().mainQueue,
-                guarded([this, alert] {
+  runAfterDelay(kAcceptedAlertSeconds, *services().mainQueue, guarded([this, alert] {
                   alert->dismissViewController(
                       true, guarded([this] { performSegueWithIdentifier(kUnwind); }));
                 }));

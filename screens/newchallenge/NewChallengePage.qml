@@ -14,6 +14,7 @@ Rectangle {
     required property NewChallengeDetailViewController controller
 
     readonly property real side: Math.max(140, Math.min(width - 48, 320, height - 256))
+    readonly property real buttonWidth: Math.max(side, 272) / 2 - 8
     readonly property real blockTop: sender.y + sender.height + 16
     readonly property real blockHeight: side + 16 + name.height + 8 + description.height + 16 + 50
     readonly property real centredY: Math.max(blockTop, (height - side) / 2)
@@ -133,7 +134,7 @@ Rectangle {
             anchors.topMargin: 16
             anchors.right: parent.horizontalCenter
             anchors.rightMargin: 8
-            width: root.side / 2 - 8
+            width: root.buttonWidth
             height: 50
 
             PillButton {
@@ -151,7 +152,7 @@ Rectangle {
             anchors.top: accept.top
             anchors.left: parent.horizontalCenter
             anchors.leftMargin: 8
-            width: root.side / 2 - 8
+            width: root.buttonWidth
             height: 50
 
             PillButton {

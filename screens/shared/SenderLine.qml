@@ -53,6 +53,8 @@ Row {
             verticalAlignment: Text.AlignVCenter
             text: sender.text
             points: 17
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
         }
     }
 }

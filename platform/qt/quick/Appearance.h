@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QFont>
 #include <QObject>
-#include <QtQml/qqmlregistration.h>
 
 #include "platform/UIFont.h"
 
@@ -35,8 +35,8 @@ class Appearance : public QObject {
   Q_INVOKABLE static QFont boldFont(double points);
 };
 
-/// The font asked for where the device has it; else Lato, in the weight that the name ends in. Sizes
-/// are points of the view, whatever the desktop's font settings.
+/// The font asked for where the device has it; else Lato, in the weight that the name ends in.
+/// Sizes are points of the view, whatever the desktop's font settings.
 [[nodiscard]] QFont resolvedFont(const UIFont& font);
 
 }  // namespace kindora

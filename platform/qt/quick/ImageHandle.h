@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QMetaType>
 #include <QtQml/qqmlregistration.h>
+#include <QMetaType>
 
 #include "platform/UIImage.h"
 

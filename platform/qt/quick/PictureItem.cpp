@@ -15,9 +15,7 @@
 
 namespace kindora {
 
-PictureItem::PictureItem(QQuickItem* parent) : QQuickItem(parent) {
-  setFlag(ItemHasContents);
-}
+PictureItem::PictureItem(QQuickItem* parent) : QQuickItem(parent) { setFlag(ItemHasContents); }
 
 void PictureItem::setImage(const ImageHandle& image) {
   if (image_ == image) return;
@@ -82,8 +80,7 @@ QImage PictureItem::drawn(QSize pixels, double ratio) const {
     return result;
   }
   const CGSize size = image_.image->size();
-  const double factor =
-      std::max(pixels.width() / size.width, pixels.height() / size.height);
+  const double factor = std::max(pixels.width() / size.width, pixels.height() / size.height);
   const QSize filled(std::max(1, static_cast<int>(std::lround(size.width * factor))),
                      std::max(1, static_cast<int>(std::lround(size.height * factor))));
   QImage picture = toQImage(image_.image->rendered(static_cast<std::size_t>(filled.width()),

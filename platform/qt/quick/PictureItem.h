@@ -10,8 +10,9 @@
 
 namespace kindora {
 
-/// Draws a picture in exactly the item's device pixels, so that it is crisp at any size: aspect fill
-/// inside a rectangle with rounded corners. Without a picture a neutral ground of the same shape.
+/// Draws a picture in exactly the item's device pixels, so that it is crisp at any size: aspect
+/// fill inside a rectangle with rounded corners. Without a picture a neutral ground of the same
+/// shape.
 class PictureItem : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT

@@ -8,10 +8,9 @@
 namespace kindora {
 
 double mainScreenScale() {
-  const QScreen* screen =
-      qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr
-          ? QGuiApplication::primaryScreen()
-          : nullptr;
+  const QScreen* screen = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr
+                              ? QGuiApplication::primaryScreen()
+                              : nullptr;
   return screen != nullptr ? screen->devicePixelRatio() : 1;
 }
 

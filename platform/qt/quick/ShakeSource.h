@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 #include <QQuickWindow>
 #include <QTimer>
-#include <QtQml/qqmlregistration.h>
 #include <array>
 #include <optional>
 
@@ -16,8 +16,8 @@
 
 namespace kindora {
 
-/// Hears that the phone, or on a desktop its window, is shaken, and tells the application. Reads the
-/// accelerometer only while somebody listens.
+/// Hears that the phone, or on a desktop its window, is shaken, and tells the application. Reads
+/// the accelerometer only while somebody listens.
 class ShakeSource : public QObject {
   Q_OBJECT
   QML_ELEMENT

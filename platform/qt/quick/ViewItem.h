@@ -14,8 +14,8 @@
 namespace kindora {
 
 /// Draws the view that an outlet names: takes alpha, scale, input and presence from it, offers the
-/// rest as properties, and reports to it the place that the storyboard gives to the item. Stops when
-/// the owner has no such outlet.
+/// rest as properties, and reports to it the place that the storyboard gives to the item. Stops
+/// when the owner has no such outlet.
 class ViewItem : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
@@ -44,7 +44,8 @@ class ViewItem : public QQuickItem {
   [[nodiscard]] QColor textColor() const;  ///< invalid when the storyboard is to choose
   [[nodiscard]] bool isTextCentered() const;
   [[nodiscard]] ImageHandle image() const;
-  /// Not removed from its superview and not fully transparent: only then is it drawn, pressed or read aloud.
+  /// Not removed from its superview and not fully transparent: only then is it drawn, pressed or
+  /// read aloud.
   [[nodiscard]] bool isShown() const;
   [[nodiscard]] double shadowOpacity() const;
   [[nodiscard]] QPointF shadowOffset() const;

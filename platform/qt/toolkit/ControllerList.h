@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
+#include <QAbstractListModel>
 #include <memory>
 #include <vector>
 
@@ -11,8 +11,8 @@ namespace kindora {
 
 class UIViewController;
 
-/// Controllers in drawing order, lowest first, as a list model: what is drawn comes and goes with its
-/// row and is never made anew for a row that stays.
+/// Controllers in drawing order, lowest first, as a list model: what is drawn comes and goes with
+/// its row and is never made anew for a row that stays.
 class ControllerList : public QAbstractListModel {
   Q_OBJECT
   QML_ELEMENT
@@ -30,7 +30,8 @@ class ControllerList : public QAbstractListModel {
   [[nodiscard]] const std::vector<Item>& items() const { return items_; }
   void append(const Item& item);
   void remove(const Item& item);
-  /// Makes the list hold just these; those that it holds already keep their rows where order allows.
+  /// Makes the list hold just these; those that it holds already keep their rows where order
+  /// allows.
   void assign(const std::vector<Item>& items);
 
  signals:

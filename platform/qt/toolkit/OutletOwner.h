@@ -26,7 +26,8 @@ template <typename View>
   return view;
 }
 
-/// Makes a view inside another and connects an outlet to it: what a storyboard does for each outlet.
+/// Makes a view inside another and connects an outlet to it: what a storyboard does for each
+/// outlet.
 template <typename View>
 std::shared_ptr<View> connectOutlet(std::weak_ptr<View>& outlet, std::string_view name,
                                     UIView& superview) {

@@ -42,7 +42,8 @@ class UIAlertController : public UIViewController {
   /// Before the alert is presented.
   void addAction(UIAlertAction action);
 
-  /// The user chose an action: closes the alert, then runs the handler. Only the first choice counts.
+  /// The user chose an action: closes the alert, then runs the handler. Only the first choice
+  /// counts.
   Q_INVOKABLE void choose(int index);
   /// Esc, the system's back or a tap beside a sheet: chooses the cancel action, if there is one.
   Q_INVOKABLE bool goBack() override;

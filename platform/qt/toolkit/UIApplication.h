@@ -10,7 +10,8 @@
 
 namespace kindora {
 
-/// The one application object: its key window, and the way by which motions reach the first responder.
+/// The one application object: its key window, and the way by which motions reach the first
+/// responder.
 class UIApplication final : public QObject {
   Q_OBJECT
 

@@ -29,9 +29,7 @@ void UINavigationItem::assign(Value& field, const Value& value) {
 void UINavigationItem::setTitle(const QString& title) { assign(title_, title); }
 void UINavigationItem::setPrompt(const QString& prompt) { assign(prompt_, prompt); }
 void UINavigationItem::setHidesBackButton(bool hides) { assign(hidesBackButton_, hides); }
-void UINavigationItem::setLeftBarButtonItem(const UIBarButtonItemRef& item) {
-  assign(left_, item);
-}
+void UINavigationItem::setLeftBarButtonItem(const UIBarButtonItemRef& item) { assign(left_, item); }
 void UINavigationItem::setRightBarButtonItem(const UIBarButtonItemRef& item) {
   assign(right_, item);
 }

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QObject>
 #include <QQmlListProperty>
 #include <QString>
-#include <QtQml/qqmlregistration.h>
 #include <functional>
 #include <memory>
 #include <vector>

@@ -8,8 +8,8 @@ namespace kindora {
 
 enum class UIEventSubtype { none, motionShake };
 
-/// Something that can hear events which have no place on the screen, such as a shake. At most one, the
-/// first responder, hears them.
+/// Something that can hear events which have no place on the screen, such as a shake. At most one,
+/// the first responder, hears them.
 class UIResponder : public QObject {
   Q_OBJECT
 

@@ -28,8 +28,8 @@ class UITabBarController : public UIViewController {
   [[nodiscard]] int selectedIndex() const { return selectedIndex_; }
   /// Shows that tab. An index that no tab has is ignored.
   void setSelectedIndex(int index);
-  /// The user pressed a tab: selects it, or pops the selected one to its root unless the way back is
-  /// hidden there. Nothing happens while the tab bar takes no input.
+  /// The user pressed a tab: selects it, or pops the selected one to its root unless the way back
+  /// is hidden there. Nothing happens while the tab bar takes no input.
   Q_INVOKABLE void pressTab(int index);
 
   [[nodiscard]] std::vector<UIViewController*> visibleChildren() const override;

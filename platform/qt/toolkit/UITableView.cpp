@@ -112,9 +112,8 @@ void UITableView::replace(std::vector<Row> next, bool animated) {
   for (std::size_t i = 0; i < next.size(); ++i) {
     const auto place = static_cast<int>(i);
     const auto here = rows_.begin() + place;
-    const auto found =
-        std::find_if(std::min(here, rows_.end()), rows_.end(),
-                     [&](const Row& row) { return row.sameAs(next[i]); });
+    const auto found = std::find_if(std::min(here, rows_.end()), rows_.end(),
+                                    [&](const Row& row) { return row.sameAs(next[i]); });
     if (found == rows_.end()) {
       Row row = std::move(next[i]);
       fill(row);
@@ -239,8 +238,8 @@ QVariant UITableView::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> UITableView::roleNames() const {
-  return {{kIsHeader, "isHeader"}, {kSection, "section"},      {kCell, "cell"},
-          {kHeader, "header"},     {kReuse, "reuseIdentifier"}, {kCanEdit, "canEdit"},
+  return {{kIsHeader, "isHeader"},  {kSection, "section"},       {kCell, "cell"},
+          {kHeader, "header"},      {kReuse, "reuseIdentifier"}, {kCanEdit, "canEdit"},
           {kDelete, "deleteTitle"}, {kPress, "pressable"}};
 }
 

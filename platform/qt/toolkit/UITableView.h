@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-// A sectioned table as a list model: the rows of all sections one below another, each section led by
-// its header. What it shows comes from a data source; a reload compares the rows by identity, so that
-// rows which stay are kept and only the others come and go.
+// A sectioned table as a list model: the rows of all sections one below another, each section led
+// by its header. What it shows comes from a data source; a reload compares the rows by identity, so
+// that rows which stay are kept and only the others come and go.
 #pragma once
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
+#include <QAbstractListModel>
 #include <functional>
 #include <map>
 #include <memory>

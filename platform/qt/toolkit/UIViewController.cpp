@@ -44,10 +44,9 @@ void UIViewController::loadViewIfNeeded() {
 }
 
 void UIViewController::beginAppearanceTransition(bool appearing, bool animated) {
-  const bool already = appearing ? appearance_ == Appearance::appearing ||
-                                       appearance_ == Appearance::appeared
-                                 : appearance_ == Appearance::disappearing ||
-                                       appearance_ == Appearance::disappeared;
+  const bool already =
+      appearing ? appearance_ == Appearance::appearing || appearance_ == Appearance::appeared
+                : appearance_ == Appearance::disappearing || appearance_ == Appearance::disappeared;
   if (already) return;
   loadViewIfNeeded();
   appearance_ = appearing ? Appearance::appearing : Appearance::disappearing;

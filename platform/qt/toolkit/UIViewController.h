@@ -6,10 +6,10 @@
 // Controllers are shared; make them with makeViewController. Main thread only.
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QPointer>
 #include <QString>
 #include <QUrl>
-#include <QtQml/qqmlregistration.h>
 #include <functional>
 #include <memory>
 #include <string_view>
@@ -39,8 +39,8 @@ class UIViewController : public UIResponder,
   Q_PROPERTY(QUrl page READ page CONSTANT)
   Q_PROPERTY(kindora::UINavigationItem* navigationItem READ navigationItem CONSTANT)
   Q_PROPERTY(kindora::UITabBarItem* tabBarItem READ tabBarItem CONSTANT)
-  Q_PROPERTY(double presentationProgress READ presentationProgress NOTIFY
-                 presentationProgressChanged)
+  Q_PROPERTY(
+      double presentationProgress READ presentationProgress NOTIFY presentationProgressChanged)
   Q_PROPERTY(bool coversPresenter READ coversPresenter CONSTANT)
 
  public:
@@ -96,7 +96,8 @@ class UIViewController : public UIResponder,
   [[nodiscard]] UIViewController* presentingViewController();
   /// How far this controller has come onto the screen, 0 to 1.
   [[nodiscard]] double presentationProgress() const { return presentationProgress_; }
-  /// True when what presents this one is out of sight below it, so that it hears that it disappears.
+  /// True when what presents this one is out of sight below it, so that it hears that it
+  /// disappears.
   [[nodiscard]] virtual bool coversPresenter() const { return true; }
   /// Seconds that coming and going take.
   [[nodiscard]] virtual double presentationDuration() const { return 0.4; }
@@ -153,8 +154,8 @@ class UIViewController : public UIResponder,
   const UIStoryboardScene* scene_ = nullptr;
 };
 
-/// Makes a controller that is deleted from the event loop once nobody holds it, since it may well be
-/// let go of inside one of its own calls.
+/// Makes a controller that is deleted from the event loop once nobody holds it, since it may well
+/// be let go of inside one of its own calls.
 template <typename Controller, typename... Arguments>
 [[nodiscard]] std::shared_ptr<Controller> makeViewController(Arguments&&... arguments) {
   return {new Controller(std::forward<Arguments>(arguments)...),

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QObject>
 #include <QtQml/qqmlregistration.h>
+#include <QObject>
 #include <memory>
 
 #include "platform/UIColor.h"
@@ -19,7 +19,8 @@ class UIWindow : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("windows are made at launch")
-  Q_PROPERTY(kindora::UIViewController* rootViewController READ root NOTIFY rootViewControllerChanged)
+  Q_PROPERTY(
+      kindora::UIViewController* rootViewController READ root NOTIFY rootViewControllerChanged)
   Q_PROPERTY(kindora::ControllerList* presentations READ presentations CONSTANT)
 
  public:
