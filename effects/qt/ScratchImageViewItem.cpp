@@ -30,6 +30,7 @@ class CoverNode final : public QSGNode {
 double coverage(double x, double y, double width, double height, double radius) {
   const double dx = std::max({radius - x, x - (width - radius), 0.0});
   const double dy = std::max({radius - y, y - (height - radius), 0.0});
+  if (dx == 0 || dy == 0) return 1;
   return std::clamp(radius - std::hypot(dx, dy) + 0.5, 0.0, 1.0);
 }
 

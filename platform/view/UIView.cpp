@@ -37,6 +37,7 @@ void UIView::setState(const UIViewState& state) {
   UIViewAnimationBlock* block = UIViewAnimationBlock::current();
   if (block != nullptr) block->willChange(shared_from_this());
   state_ = state;
+  ++stateRevision_;
   if (block == nullptr) presentation_ = state;
   changed();
 }

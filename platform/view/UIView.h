@@ -7,6 +7,7 @@
 // at once, while what is shown moves there over time. Main thread only.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -51,6 +52,8 @@ class UIView : public std::enable_shared_from_this<UIView> {
 
   [[nodiscard]] const UIViewState& state() const { return state_; }
   void setState(const UIViewState& state);
+  /// Grows with every change of state, so that an animation knows when a later one takes over.
+  [[nodiscard]] std::uint64_t stateRevision() const { return stateRevision_; }
   [[nodiscard]] double alpha() const { return state_.alpha; }
   void setAlpha(double alpha);
   void setTranslation(CGPoint translation);
@@ -125,6 +128,7 @@ class UIView : public std::enable_shared_from_this<UIView> {
   std::string name_;
   UIViewState state_;
   UIViewState presentation_;
+  std::uint64_t stateRevision_ = 0;
   bool shouldRasterize_ = false;
   double rasterizationScale_ = 1;
   double shadowPathRadius_ = -1;

@@ -17,21 +17,24 @@ UIViewAnimationBlock::UIViewAnimationBlock(const std::function<void()>& animatio
   animations();
   running = nullptr;
   for (auto& [key, track] : tracks_) {
-    if (const auto view = track.view.lock()) track.to = view->state();
+    if (const auto view = track.view.lock()) {
+      track.to = view->state();
+      track.revision = view->stateRevision();
+    }
   }
 }
 
 UIViewAnimationBlock* UIViewAnimationBlock::current() { return running; }
 
 void UIViewAnimationBlock::willChange(const std::shared_ptr<UIView>& view) {
-  tracks_.try_emplace(view.get(), Track{view, view->presentation(), {}});
+  tracks_.try_emplace(view.get(), Track{view, view->presentation(), {}, 0});
 }
 
 void UIViewAnimationBlock::show(double fraction) const {
   for (const auto& [key, track] : tracks_) {
     const auto view = track.view.lock();
-    // A state that has moved on since belongs to a later change.
-    if (!view || view->state() != track.to) continue;
+    // A state that was set since belongs to a later change.
+    if (!view || view->stateRevision() != track.revision) continue;
     view->setPresentation(fraction == 1 ? track.to : interpolated(track.from, track.to, fraction));
   }
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -33,6 +34,7 @@ class UIViewAnimationBlock {
     std::weak_ptr<UIView> view;
     UIViewState from;
     UIViewState to;
+    std::uint64_t revision = 0;  // of the view's state when the closure had run
   };
   std::map<const UIView*, Track> tracks_;
 };

@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/qt/toolkit/UIViewController.h"
+
+#include "tests/platform/toolkit/ToolkitFixture.h"
+
+namespace kindora {
+namespace {
+
+class UIViewControllerTest : public ToolkitFixture {};
+
+TEST_F(UIViewControllerTest, LoadsItsViewOnFirstUse) {
+  const auto a = screen("a");
+  EXPECT_FALSE(a->isViewLoaded());
+  const auto view = a->view();
+  EXPECT_NE(view, nullptr);
+  EXPECT_TRUE(a->isViewLoaded());
+  EXPECT_EQ(a->view(), view);
+  EXPECT_EQ(log(), (Lines{"a: loads"}));
+}
+
+TEST_F(UIViewControllerTest, LoadsBeforeItAppears) {
+  show(screen("a"));
+  EXPECT_EQ(log(), (Lines{"a: loads", "a: will appear", "a: did appear"}));
+}
+
+TEST_F(UIViewControllerTest, IsVisibleBetweenItsCallbacks) {
+  const auto a = screen("a");
+  a->beginAppearanceTransition(true, true);
+  EXPECT_FALSE(a->isVisible());
+  a->endAppearanceTransition();
+  EXPECT_TRUE(a->isVisible());
+  a->beginAppearanceTransition(false, true);
+  EXPECT_FALSE(a->isVisible());
+}
+
+TEST_F(UIViewControllerTest, EachCallbackComesOnce) {
+  const auto a = screen("a");
+  for (int i = 0; i < 2; ++i) a->beginAppearanceTransition(true, false);
+  for (int i = 0; i < 2; ++i) a->endAppearanceTransition();
+  for (int i = 0; i < 2; ++i) a->beginAppearanceTransition(false, false);
+  for (int i = 0; i < 2; ++i) a->endAppearanceTransition();
+  EXPECT_EQ(log(), (Lines{"a: loads", "a: will appear", "a: did appear", "a: will disappear",
+                          "a: did disappear"}));
+}
+
+TEST_F(UIViewControllerTest, WhatIsHiddenDoesNotDisappear) {
+  const auto a = screen("a");
+  a->beginAppearanceTransition(false, false);
+  a->endAppearanceTransition();
+  EXPECT_EQ(log(), (Lines{}));
+}
+
+TEST_F(UIViewControllerTest, AChangeThatTurnsRoundEndsWhereItTurnedTo) {
+  const auto a = screen("a");
+  a->beginAppearanceTransition(true, true);
+  a->beginAppearanceTransition(false, true);
+  a->endAppearanceTransition();
+  EXPECT_EQ(log(), (Lines{"a: loads", "a: will appear, animated", "a: will disappear, animated",
+                          "a: did disappear, animated"}));
+}
+
+TEST_F(UIViewControllerTest, TheTitleIsAlsoTheBars) {
+  UIViewController controller;
+  int changes = 0;
+  QObject::connect(&controller, &UIViewController::titleChanged, [&changes] { ++changes; });
+  controller.setTitle(QStringLiteral("Badges"));
+  EXPECT_EQ(controller.title(), QStringLiteral("Badges"));
+  EXPECT_EQ(controller.navigationItem()->title(), QStringLiteral("Badges"));
+  EXPECT_EQ(changes, 1);
+}
+
+TEST_F(UIViewControllerTest, TheSameTitleAgainIsNoChange) {
+  UIViewController controller;
+  controller.setTitle(QStringLiteral("Badges"));
+  int changes = 0;
+  QObject::connect(&controller, &UIViewController::titleChanged, [&changes] { ++changes; });
+  QObject::connect(controller.navigationItem(), &UINavigationItem::changed,
+                   [&changes] { ++changes; });
+  controller.setTitle(QStringLiteral("Badges"));
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(UIViewControllerTest, KnowsTheContainersThatHoldIt) {
+  const auto a = screen("a");
+  const auto navigation = makeViewController<UINavigationController>(a);
+  const auto tabs =
+      makeViewController<UITabBarController>(std::vector<UIViewControllerRef>{navigation});
+  EXPECT_EQ(a->parentViewController(), navigation.get());
+  EXPECT_EQ(a->navigationController(), navigation.get());
+  EXPECT_EQ(a->tabBarController(), tabs.get());
+  EXPECT_EQ(a->containmentRoot(), tabs.get());
+}
+
+TEST_F(UIViewControllerTest, AloneItIsItsOwnRoot) {
+  const auto a = screen("a");
+  EXPECT_EQ(a->navigationController(), nullptr);
+  EXPECT_EQ(a->tabBarController(), nullptr);
+  EXPECT_EQ(a->containmentRoot(), a.get());
+}
+
+TEST_F(UIViewControllerTest, OutlivesItsContainer) {
+  const auto a = screen("a");
+  auto navigation = makeViewController<UINavigationController>(a);
+  navigation.reset();
+  time.settle();
+  EXPECT_EQ(a->navigationController(), nullptr);
+}
+
+TEST_F(UIViewControllerTest, FindsOutletsByName) {
+  const auto a = screen("a");
+  std::weak_ptr<UIView> outlet;
+  connectOutlet(outlet, "picture", *a->view());
+  EXPECT_EQ(a->outlet("picture"), outlet.lock());
+  EXPECT_EQ(a->outlet("view"), a->view());
+  EXPECT_EQ(a->outlet("another"), nullptr);
+}
+
+TEST_F(UIViewControllerTest, HasNowhereToGoBackTo) { EXPECT_FALSE(screen("a")->goBack()); }
+
+TEST_F(UIViewControllerTest, AGuardedClosureRunsWhileTheControllerLives) {
+  const auto a = screen("a");
+  bool ran = false;
+  a->guarded([&ran] { ran = true; })();
+  EXPECT_TRUE(ran);
+}
+
+TEST_F(UIViewControllerTest, AGuardedClosureDoesNothingOnceTheControllerHasGone) {
+  auto a = screen("a");
+  bool ran = false;
+  const auto closure = a->guarded([&ran] { ran = true; });
+  a.reset();
+  closure();
+  EXPECT_FALSE(ran);
+}
+
+TEST_F(UIViewControllerTest, IsDeletedFromTheEventLoop) {
+  auto a = screen("a");
+  const QPointer<UIViewController> object = a.get();
+  a.reset();
+  EXPECT_FALSE(object.isNull());
+  time.settle();
+  EXPECT_TRUE(object.isNull());
+}
+
+TEST_F(UIViewControllerTest, ASegueWithoutAStoryboardStops) {
+  EXPECT_DEATH(screen("a")->performSegueWithIdentifier("anywhere"),
+               "fatal error: the screen has no segue \"anywhere\"");
+}
+
+TEST_F(UIViewControllerTest, AnUnconnectedOutletStopsWhenItIsUsed) {
+  const std::weak_ptr<UIView> nothing;
+  EXPECT_DEATH(static_cast<void>(connected(nothing)), "fatal error: an outlet is not connected");
+}
+
+}  // namespace
+}  // namespace kindora

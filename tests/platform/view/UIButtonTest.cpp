@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/view/UIButton.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace kindora {
+namespace {
+
+class UIButtonTest : public ::testing::Test {
+ protected:
+  const std::shared_ptr<UIButton> button = std::make_shared<UIButton>();
+  int changes = 0;
+  const UIView::Subscription subscription = button->observe([this] { ++changes; });
+};
+
+TEST_F(UIButtonTest, IsEnabledAtTheStart) {
+  EXPECT_TRUE(button->isEnabled());
+  EXPECT_EQ(button->title(), "");
+}
+
+TEST_F(UIButtonTest, TellsOnceThatItWasDisabled) {
+  button->setEnabled(false);
+  button->setEnabled(false);
+  EXPECT_FALSE(button->isEnabled());
+  EXPECT_EQ(changes, 1);
+}
+
+TEST_F(UIButtonTest, TellsANewTitleOnce) {
+  button->setTitle("Accept");
+  button->setTitle("Accept");
+  EXPECT_EQ(button->title(), "Accept");
+  EXPECT_EQ(changes, 1);
+}
+
+}  // namespace
+}  // namespace kindora
