@@ -7,7 +7,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 mapfile -d '' -t files < <(
-  git ls-files -z -- '*.h' '*.cpp' '*.qml' '*.js' '*.py' '*.sh' '*.svg' '*.cmake' '*CMakeLists.txt' \
+  git ls-files -z -- '*.h' '*.cpp' '*.qml' '*.js' '*.py' '*.sh' '*.cmake' '*CMakeLists.txt' \
     '*.desktop' .ci/run
 )
 if [[ ${#files[@]} -eq 0 ]]; then
