@@ -10,14 +10,16 @@
 namespace kindora {
 namespace {
 
-// Removes the first occurrence of the challenge; false when the list does not hold it.
-bool removeFirst(ChallengeData::List& list, const ChallengeRef& challenge) {
-  if (!challenge) return false;
-  const auto found = std::ranges::find_if(
-      list, [&](const ChallengeRef& element) { return element && *element == *challenge; });
-  if (found == list.end()) return false;
+// Takes the first occurrence of the challenge out of the list; none when the list does not hold it.
+// The caller's reference may be the very element that goes.
+ChallengeRef takeFirst(ChallengeData::List& list, const ChallengeRef& challenge) {
+  const auto found = std::ranges::find_if(list, [&](const ChallengeRef& element) {
+    return element && challenge && *element == *challenge;
+  });
+  if (found == list.end()) return nullptr;
+  ChallengeRef taken = std::move(*found);
   list.erase(found);
-  return true;
+  return taken;
 }
 
 }  // namespace
@@ -45,11 +47,11 @@ ChallengeData& ChallengeData::sharedInstance() {
 }
 
 void ChallengeData::rejectChallenge(const ChallengeRef& challenge) {
-  removeFirst(newChallenges, challenge);
+  takeFirst(newChallenges, challenge);
 }
 
 void ChallengeData::removeInProgressChallenge(const ChallengeRef& challenge) {
-  removeFirst(inProgressChallenges, challenge);
+  takeFirst(inProgressChallenges, challenge);
 }
 
 ChallengeRef ChallengeData::revealHiddenChallenge() {
@@ -61,21 +63,19 @@ ChallengeRef ChallengeData::revealHiddenChallenge() {
 }
 
 void ChallengeData::acceptChallenge(const ChallengeRef& challenge) {
-  // The caller's reference may be the very element that goes.
-  const ChallengeRef kept = challenge;
-  if (removeFirst(newChallenges, kept)) inProgressChallenges.push_back(kept);
+  if (ChallengeRef taken = takeFirst(newChallenges, challenge)) {
+    inProgressChallenges.push_back(std::move(taken));
+  }
 }
 
 void ChallengeData::completeChallenge(const ChallengeRef& challenge) {
-  const ChallengeRef kept = challenge;
-  if (removeFirst(inProgressChallenges, kept)) {
-    completedChallenges.insert(completedChallenges.begin(), kept);
+  if (ChallengeRef taken = takeFirst(inProgressChallenges, challenge)) {
+    completedChallenges.insert(completedChallenges.begin(), std::move(taken));
   }
 }
 
 void ChallengeData::addCreatedChallenge(const ChallengeRef& challenge) {
-  const ChallengeRef kept = challenge;
-  completedChallenges.insert(completedChallenges.begin(), kept);
+  completedChallenges.insert(completedChallenges.begin(), challenge);
 }
 
 }  // namespace kindora

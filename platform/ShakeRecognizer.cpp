@@ -3,26 +3,25 @@
 #include "platform/ShakeRecognizer.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace kindora {
 
 bool ShakeRecognizer::addSample(double value, Time time) {
-  if (!extreme_) extreme_ = value;
-  const double way = value - *extreme_;
-  if (direction_ == 0 ? std::abs(way) >= threshold_ : way * direction_ <= -threshold_) {
-    // Far enough from the furthest point: a swing the other way.
-    direction_ = way > 0 ? 1 : -1;
-    extreme_ = value;
+  if (!low_) low_ = high_ = value;
+  low_ = std::min(*low_, value);
+  high_ = std::max(high_, value);
+  const bool up = direction_ != 1 && value - *low_ >= threshold_;
+  const bool down = direction_ != -1 && high_ - value >= threshold_;
+  if (up || down) {
+    direction_ = up ? 1 : -1;
+    low_ = high_ = value;
     swings_.push_back(time);
-  } else if (way * direction_ > 0) {
-    extreme_ = value;
   }
   while (!swings_.empty() && time - swings_.front() > kWindow) swings_.pop_front();
   if (swings_.size() < kSwings) return false;
   swings_.clear();
   direction_ = 0;
-  extreme_ = value;
+  low_.reset();
   return true;
 }
 

@@ -28,9 +28,10 @@ class ShakeRecognizer final {
   static constexpr Time kWindow{1000};
 
   double threshold_;
-  std::optional<double> extreme_;  // the furthest point of the swing under way
-  int direction_ = 0;              // of that swing: 1 up, -1 down, 0 not known yet
-  std::deque<Time> swings_;        // when the direction last turned
+  std::optional<double> low_;  // the furthest points either way since the last turn
+  double high_ = 0;
+  int direction_ = 0;        // of the swing under way: 1 up, -1 down, 0 not known yet
+  std::deque<Time> swings_;  // when each swing began
 };
 
 }  // namespace kindora

@@ -103,6 +103,8 @@ TEST(JxScratchImageView, HugestRadiusGivesNoCells) {
   const auto view = scratchView(cover(300, 200), std::numeric_limits<std::size_t>::max());
   EXPECT_EQ(view->tilesX(), 0u);
   EXPECT_EQ(view->tilesY(), 0u);
+  view->touchesBegan({began({150, 100})});
+  EXPECT_EQ(view->image()->raster().pixels(), std::vector<Rgba8>(300 * 200));
 }
 
 TEST(JxScratchImageView, BitmapHoldsTheWholeCoverTheRightWayUp) {

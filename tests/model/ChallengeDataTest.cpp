@@ -52,6 +52,7 @@ TEST_F(ChallengeDataTest, SixteenThreadsGetTheSameSharedInstance) {
   std::vector<ChallengeData*> seen(kThreads);
   std::latch start(kThreads);
   std::vector<std::thread> threads;
+  threads.reserve(kThreads);
   for (ChallengeData*& mine : seen) {
     threads.emplace_back([&start, &mine] {
       start.arrive_and_wait();

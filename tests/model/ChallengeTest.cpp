@@ -74,10 +74,10 @@ TEST(Challenge, AbsentTextIsNotEmptyText) {
 }
 
 TEST(Challenge, EqualsItself) {
-  const auto challenge = std::make_shared<Challenge>();
-  const ChallengeRef other = challenge;
-  EXPECT_TRUE(*challenge == *challenge);
-  EXPECT_TRUE(*challenge == *other);
+  const Challenge challenge;
+  const Challenge& same = challenge;
+  EXPECT_TRUE(challenge == challenge);
+  EXPECT_TRUE(challenge == same);
 }
 
 TEST(Challenge, DiffersFromOneWithTheSameFields) {

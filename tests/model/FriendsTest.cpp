@@ -78,6 +78,7 @@ TEST_F(FriendsTest, SixteenThreadsGetTheSameSharedList) {
   std::vector<Friends*> seen(kThreads);
   std::latch start(kThreads);
   std::vector<std::thread> threads;
+  threads.reserve(kThreads);
   for (Friends*& mine : seen) {
     threads.emplace_back([&start, &mine] {
       start.arrive_and_wait();

@@ -65,6 +65,7 @@ TEST(PrefetchQueue, LosesNobodyWhenManyThreadsAppendWhileOneTakes) {
   PrefetchQueue queue;
   std::latch start(kThreads + 1);
   std::vector<std::thread> threads;
+  threads.reserve(kThreads);
   for (int thread = 0; thread < kThreads; ++thread) {
     threads.emplace_back([&queue, &start, thread] {
       start.arrive_and_wait();

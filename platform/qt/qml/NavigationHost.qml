@@ -73,9 +73,6 @@ FocusScope {
         DragHandler {
             id: edge
 
-            property real start: 0
-            property real speed: 0
-
             target: null
             yAxis.enabled: false
             onActiveChanged: {

@@ -10,7 +10,7 @@
 namespace kindora {
 namespace {
 
-constexpr qint64 kLargestBody = 1024 * 1024;
+constexpr qint64 kLargestBody = qint64{1024} * 1024;
 
 QNetworkRequest networkRequest(const QUrl& url, const HttpRequest& request) {
   QNetworkRequest result(url);

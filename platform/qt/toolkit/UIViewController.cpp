@@ -144,11 +144,11 @@ void UIViewController::presentViewController(const UIViewControllerRef& controll
 }
 
 void UIViewController::endPresenting(UIViewController& presented) {
+  // Whatever is told here may dismiss at once what has just come.
+  const Completion completion = std::exchange(presentation_->presentedCompletion, {});
   if (presented.coversPresenter()) endAppearanceTransition();
   presented.endAppearanceTransition();
-  if (const Completion completion = std::exchange(presentation_->presentedCompletion, {})) {
-    completion();
-  }
+  if (completion) completion();
 }
 
 void UIViewController::dismissViewController(bool animated, Completion completion) {
@@ -168,6 +168,7 @@ void UIViewController::dismissPresented(bool animated, Completion completion) {
   if (presented->presentation_) presented->dismissPresented(false, {});
   presentation_->animation = {};
   endPresenting(*presented);
+  if (!presentation_ || presentation_->dismissing) return;
   presentation_->dismissing = true;
   presented->beginAppearanceTransition(false, animated);
   if (presented->coversPresenter()) beginAppearanceTransition(true, animated);

@@ -195,6 +195,33 @@ TEST_F(PresentationTest, DismissedBeforeItsFirstStepItGoesAtOnce) {
   EXPECT_TRUE(a->isVisible());
 }
 
+TEST_F(PresentationTest, TheCompletionOfThePresentationMayDismiss) {
+  a->presentViewController(p, true, [this] { a->dismissViewController(false); });
+  time.advance(0.5);
+  EXPECT_EQ(presentations(), (Presented{}));
+  EXPECT_TRUE(a->isVisible());
+}
+
+TEST_F(PresentationTest, DismissedOnTheWayInItMayBeDismissedByItsCompletionToo) {
+  a->presentViewController(p, true, [this] { a->dismissViewController(false); });
+  time.advance(0.1);
+  a->dismissViewController(true, noted("dismissed"));
+  EXPECT_EQ(log().back(), "dismissed");
+  EXPECT_EQ(presentations(), (Presented{}));
+  EXPECT_TRUE(a->isVisible());
+}
+
+TEST_F(PresentationTest, APageMayDismissItselfAsSoonAsItAppears) {
+  class Shy final : public UIViewController {
+    void viewDidAppear(bool /*animated*/) override { dismissViewController(false); }
+  };
+  a->presentViewController(makeViewController<Shy>(), true, noted("presented"));
+  time.advance(0.5);
+  EXPECT_EQ(presentations(), (Presented{}));
+  EXPECT_EQ(log().back(), "presented");
+  EXPECT_TRUE(a->isVisible());
+}
+
 TEST_F(PresentationTest, WhatStandsAboveGoesWithIt) {
   a->presentViewController(p, false);
   p->presentViewController(q, false);
