@@ -14,6 +14,8 @@
 namespace kindora {
 namespace {
 
+using UnsignedInts = std::uint32_t __attribute__((vector_size(16)));
+
 constexpr Floats kSteps{0, 1, 2, 3};
 
 Floats all(float value) { return Floats{value, value, value, value}; }
@@ -48,7 +50,7 @@ Floats squareRoot(Floats value) {
   const auto nearer = [half](Floats inverse) {
     return inverse * (1.5F - half * inverse * inverse);
   };
-  const Ints guess = 0x5f3759df - (std::bit_cast<Ints>(value) >> 1);
+  const UnsignedInts guess = 0x5f3759df - (std::bit_cast<UnsignedInts>(value) >> 1);
   return value * nearer(nearer(nearer(std::bit_cast<Floats>(guess))));
 }
 
@@ -117,6 +119,8 @@ void CapsuleSide::arc(Centre centre, int first, int begin, int end, float* out) 
 Crossings::Crossings(const CapsuleSide& side, int first, int count)
     : limit_(side.limit()), far_(side.isFar()), count_(count) {
   side.depths(first, count + 1, depth_.data());
+  // Vectors reach beyond the last step: there, too, shall be numbers that can be computed with.
+  store(depth_.data() + count + 1, all(depth_[static_cast<std::size_t>(count)]));
 }
 
 void Crossings::findWhole() {
