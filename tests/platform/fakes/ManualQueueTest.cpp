@@ -104,6 +104,7 @@ TEST_F(ManualQueueTest, ReleasesAClosureOnceItHasRun) {
 
 TEST_F(ManualQueueTest, TakesClosuresFromManyThreads) {
   std::vector<std::thread> threads;
+  threads.reserve(4);
   for (int i = 0; i < 4; ++i) {
     threads.emplace_back([this] {
       for (int k = 0; k < 100; ++k) queue.async(log("x"));

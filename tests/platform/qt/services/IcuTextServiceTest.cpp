@@ -85,8 +85,9 @@ TEST_F(IcuTextServiceTest, MalformedTextDoesNoHarm) {
 }
 
 TEST_F(IcuTextServiceTest, MayBeUsedByManyThreadsAtOnce) {
-  std::vector<std::thread> threads;
   std::vector<int> signs(8);
+  std::vector<std::thread> threads;
+  threads.reserve(signs.size());
   for (int& sign : signs) {
     threads.emplace_back(
         [this, &sign] { sign = text.compare("anna", text.capitalized("zed")) < 0 ? -1 : 1; });

@@ -58,16 +58,17 @@ TEST_F(MainQueueTest, RunsClosuresInTheOrderGiven) {
 }
 
 TEST_F(MainQueueTest, RunsOnTheMainThreadWhatOtherThreadsGiveInTheirOrder) {
-  constexpr int kThreads = 4;
-  constexpr int kEach = 100;
-  std::vector<std::vector<int>> seen(kThreads);
+  constexpr std::size_t kThreads = 4;
+  constexpr std::size_t kEach = 100;
+  std::vector<std::vector<std::size_t>> seen(kThreads);
   int elsewhere = 0;
   std::vector<std::thread> threads;
-  for (int thread = 0; thread < kThreads; ++thread) {
+  threads.reserve(kThreads);
+  for (std::size_t thread = 0; thread < kThreads; ++thread) {
     threads.emplace_back([&, thread, main = std::this_thread::get_id()] {
-      for (int i = 0; i < kEach; ++i) {
+      for (std::size_t i = 0; i < kEach; ++i) {
         queue.async([&, thread, i, main] {
-          seen[static_cast<std::size_t>(thread)].push_back(i);
+          seen[thread].push_back(i);
           if (std::this_thread::get_id() != main) ++elsewhere;
         });
       }

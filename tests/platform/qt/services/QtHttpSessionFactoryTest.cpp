@@ -28,7 +28,7 @@ using ::testing::HasSubstr;
 using ::testing::Not;
 using ::testing::StartsWith;
 
-constexpr std::size_t kMebibyte = 1024 * 1024;
+constexpr std::size_t kMebibyte = std::size_t{1024} * 1024;
 
 // Sends the request and waits for its outcome.
 HttpResult outcome(HttpSessionFactory& factory, const HttpRequest& request) {
@@ -296,6 +296,7 @@ TEST(QtHttpSession, RequestsOfManyThreadsAreAllAnswered) {
   std::atomic<int> good = 0;
   QtHttpSessionFactory factory;
   std::vector<std::thread> threads;
+  threads.reserve(kThreads);
   for (int i = 0; i < kThreads; ++i) {
     threads.emplace_back([&] {
       factory.makeSession()->dataTask({.url = server.url()}, [&](const HttpResult& result) {
@@ -311,8 +312,9 @@ TEST(QtHttpSession, RequestsOfManyThreadsAreAllAnswered) {
 
 // Leaves the program with a request in flight; the completion must not run any more.
 void leaveWithARequestInFlight(bool endApplicationFirst) {
-  std::promise<void> arrived;
-  const TestServer server([&](const std::string&) {
+  static std::promise<void> arrived;
+  // Static, so that the connection stays open until the network thread has ended.
+  static const TestServer server([](const std::string&) {
     arrived.set_value();
     return TestReply{.bytes = "", .keepsOpen = true};
   });
@@ -331,17 +333,17 @@ TEST(QtHttpSessionDeathTest, ExitIsQuietWithARequestInFlight) {
   EXPECT_EXIT(leaveWithARequestInFlight(false), ::testing::ExitedWithCode(0), "^$");
 }
 
+void requestAfterTheApplication() {
+  static const TestServer server(httpReply("200 OK", ""));
+  outcome(server.url());
+  delete QCoreApplication::instance();
+  QtHttpSessionFactory().makeSession()->dataTask({.url = server.url()},
+                                                 [](const HttpResult&) { std::_Exit(1); });
+  std::exit(0);
+}
+
 TEST(QtHttpSessionDeathTest, ARequestAfterTheApplicationIsDropped) {
-  EXPECT_EXIT(
-      {
-        const TestServer server(httpReply("200 OK", ""));
-        outcome(server.url());
-        delete QCoreApplication::instance();
-        QtHttpSessionFactory().makeSession()->dataTask({.url = server.url()},
-                                                       [](const HttpResult&) { std::_Exit(1); });
-        std::exit(0);
-      },
-      ::testing::ExitedWithCode(0), "^$");
+  EXPECT_EXIT(requestAfterTheApplication(), ::testing::ExitedWithCode(0), "^$");
 }
 
 }  // namespace
