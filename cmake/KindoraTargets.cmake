@@ -45,11 +45,11 @@ function(kindora_library NAME)
   target_link_libraries(kindora_${NAME} PUBLIC ${ARG_LINKS} PRIVATE kindora_options)
 endfunction()
 
-# kindora_qml_module(NAME URI uri SOURCES file... QML file... [LINKS target...])
+# kindora_qml_module(NAME URI uri SOURCES file... QML file... [IMPORTS uri...] [LINKS target...])
 # Makes kindora_NAME with the alias Kindora::NAME, a static library that is a QML module too. QML files
-# are compiled ahead of time. A program that uses the module links kindora_NAMEplugin besides.
+# are compiled ahead of time. IMPORTS names the modules whose types the C++ classes derive from. A program that uses the module links kindora_NAMEplugin besides.
 function(kindora_qml_module NAME)
-  cmake_parse_arguments(ARG "" "URI" "SOURCES;QML;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "" "URI" "SOURCES;QML;IMPORTS;LINKS" ${ARGN})
   foreach(FILE IN LISTS ARG_QML)
     get_filename_component(BASE ${FILE} NAME)
     set_source_files_properties(${FILE} PROPERTIES QT_RESOURCE_ALIAS ${BASE})
@@ -77,6 +77,7 @@ function(kindora_qml_module NAME)
     RESOURCE_PREFIX /qt/qml
     OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${FOLDER}
     IMPORT_PATH ${CMAKE_BINARY_DIR}/qml
+    DEPENDENCIES QtQuick ${ARG_IMPORTS}
     SOURCES ${ARG_SOURCES}
     QML_FILES ${ARG_QML})
   # Our own sources obey the strict flags; generated ones are not ours to mend.

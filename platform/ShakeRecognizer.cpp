@@ -21,7 +21,6 @@ bool ShakeRecognizer::addSample(double value, Time time) {
   if (swings_.size() < kSwings) return false;
   swings_.clear();
   direction_ = 0;
-  low_.reset();
   return true;
 }
 

@@ -15,7 +15,7 @@ namespace kindora {
 /// Draws a scratch-off view and feeds it fingers and the mouse. Only the tiles of the cover that a
 /// scratch has changed are uploaded again. Takes the pointer for itself, so that nothing around it
 /// scrolls meanwhile.
-class ScratchImageViewItem : public ViewItem {
+class ScratchImageViewItem : public kindora::ViewItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY radiusChanged)

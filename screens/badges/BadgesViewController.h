@@ -7,7 +7,7 @@
 namespace kindora {
 
 /// The second tab: the badges of completed and created challenges.
-class BadgesViewController : public UIViewController {
+class BadgesViewController : public kindora::UIViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("controllers come from the storyboard")

@@ -13,7 +13,7 @@ namespace kindora {
 
 /// A challenge's row: a round picture in a shadowed frame, onto which it sinks when pressed, and
 /// two lines of text.
-class ChallengeTableViewCell : public UITableViewCell {
+class ChallengeTableViewCell : public kindora::UITableViewCell {
   Q_OBJECT
 
  public:

@@ -14,7 +14,7 @@ namespace kindora {
 ///
 /// It shows copies of the store's lists, taken when it loads or appears, after a shake and after a
 /// rejection.
-class ChallengesTableViewController : public UITableViewController {
+class ChallengesTableViewController : public kindora::UITableViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("controllers come from the storyboard")

@@ -8,7 +8,7 @@
 namespace kindora {
 
 /// The one row of a section that has nothing to show: a message.
-class PlaceholderTableViewCell : public UITableViewCell {
+class PlaceholderTableViewCell : public kindora::UITableViewCell {
   Q_OBJECT
 
  public:

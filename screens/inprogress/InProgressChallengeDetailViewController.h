@@ -10,7 +10,7 @@
 namespace kindora {
 
 /// A challenge that the user has accepted and not yet done.
-class InProgressChallengeDetailViewController : public UIViewController {
+class InProgressChallengeDetailViewController : public kindora::UIViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("controllers come from the storyboard")

@@ -16,7 +16,7 @@ namespace kindora {
 /// A new challenge under its cover. Once most of the cover is scratched away the challenge shows,
 /// and the user accepts or rejects it. From the first scratch on there is no way back without
 /// deciding.
-class NewChallengeDetailViewController : public UIViewController,
+class NewChallengeDetailViewController : public kindora::UIViewController,
                                          public JxScratchImageViewDelegate {
   Q_OBJECT
   QML_ELEMENT

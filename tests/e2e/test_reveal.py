@@ -14,7 +14,7 @@ class Reveal(ChallengeTest):
     def setUp(self):
         super().setUp()
         self.open(BOB)
-        self.app.wait_for(f"{BOB} challenged you!")
+        self.app.wait_still(self.app.wait_for(f"{BOB} challenged you!"))
 
     def scratch_by_finger(self):
         """Rubs over the card to and fro, line by line."""

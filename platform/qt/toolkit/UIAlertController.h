@@ -21,7 +21,7 @@ struct UIAlertAction {
 };
 
 /// A question or a message above everything else. Without actions only the program can close it.
-class UIAlertController : public UIViewController {
+class UIAlertController : public kindora::UIViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("alerts are made by controllers")

@@ -37,7 +37,7 @@ class UINavigationBar : public QObject {
 
 /// A stack of screens, of which the top is seen. Pushing and popping take effect at once; animated,
 /// the appearance callbacks frame the time that the change takes on the screen.
-class UINavigationController : public UIViewController {
+class UINavigationController : public kindora::UIViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("controllers come from the storyboard")

@@ -8,7 +8,7 @@
 namespace kindora {
 
 /// Screens side by side, one of them selected by the tab bar below.
-class UITabBarController : public UIViewController {
+class UITabBarController : public kindora::UIViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("controllers come from the storyboard")

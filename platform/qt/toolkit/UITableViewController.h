@@ -8,7 +8,7 @@
 namespace kindora {
 
 /// A screen that is one table, and the table's data source.
-class UITableViewController : public UIViewController, public UITableViewDataSource {
+class UITableViewController : public kindora::UIViewController, public UITableViewDataSource {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("controllers come from the storyboard")

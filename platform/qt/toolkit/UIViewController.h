@@ -29,7 +29,7 @@ class UITabBarController;
 class UIViewController;
 using UIViewControllerRef = std::shared_ptr<UIViewController>;
 
-class UIViewController : public UIResponder,
+class UIViewController : public kindora::UIResponder,
                          public OutletOwner,
                          public std::enable_shared_from_this<UIViewController> {
   Q_OBJECT
