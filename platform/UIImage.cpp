@@ -48,7 +48,10 @@ struct Sum {
     alpha += pixel.alpha * weight;
   }
   [[nodiscard]] Rgba8 rounded() const {
-    const auto byte = [](double value) { return static_cast<std::uint8_t>(value + 0.5); };
+    const auto byte = [](double value) {
+      const double above = value + 0.5;
+      return static_cast<std::uint8_t>(above);
+    };
     return {byte(red), byte(green), byte(blue), byte(alpha)};
   }
 };

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <memory>
 #include <utility>
@@ -19,7 +20,7 @@ class ChannelOver {
   ChannelOver(double component, double alpha) {
     for (std::size_t below = 0; below < results_.size(); ++below) {
       const double over = 255 * component * alpha + static_cast<double>(below) * (1 - alpha);
-      results_[below] = static_cast<std::uint8_t>(over + 0.5);
+      results_[below] = static_cast<std::uint8_t>(std::lround(over));
     }
   }
   [[nodiscard]] std::uint8_t operator()(std::uint8_t below) const { return results_[below]; }

@@ -7,6 +7,7 @@
 #include <array>
 #include <bit>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <utility>
@@ -35,7 +36,7 @@ class Tiles {
         column_(static_cast<unsigned>(left) / kTile),
         row_(static_cast<unsigned>(top) / kTile),
         columns_(static_cast<unsigned>(right) / kTile - column_ + 1),
-        tiles_(columns_ * (static_cast<unsigned>(bottom) / kTile - row_ + 1)) {}
+        tiles_(std::size_t{columns_} * (static_cast<unsigned>(bottom) / kTile - row_ + 1)) {}
 
   // Tiles beside or below each other. Small and copied into the loops, which could not tell
   // otherwise that writing pixels leaves it as it is.
@@ -43,7 +44,7 @@ class Tiles {
    public:
     // The pixels of the tile at a position across (in a row) or down (in a column).
     [[nodiscard]] Rgba8* operator[](unsigned position) const {
-      Rgba8*& tile = first_[position / kTile * stride_];
+      Rgba8*& tile = first_[std::size_t{position / kTile} * stride_];
       if (tile == nullptr) [[unlikely]] {
         owner_->open(tile);
       }
@@ -60,7 +61,7 @@ class Tiles {
     unsigned stride_;
   };
 
-  [[nodiscard]] Line row(unsigned y) { return {this, y / kTile * columns_, 1}; }
+  [[nodiscard]] Line row(unsigned y) { return {this, std::size_t{y / kTile} * columns_, 1}; }
   [[nodiscard]] Line column(unsigned x) { return {this, x / kTile, columns_}; }
   [[nodiscard]] int originX() const { return static_cast<int>(column_ * kTile); }
   [[nodiscard]] int originY() const { return static_cast<int>(row_ * kTile); }

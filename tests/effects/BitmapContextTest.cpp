@@ -67,7 +67,7 @@ TEST(BitmapContext, RasterTakenEarlierDoesNotChange) {
   BitmapContext context = coveredContext(100, 80);
   const Raster before = context.raster();
   context.fillDisc({50, 40}, 30);
-  EXPECT_EQ(before.pixels(), std::vector<Rgba8>(100 * 80, kCoverColor));
+  EXPECT_EQ(before.pixels(), std::vector<Rgba8>(8000, kCoverColor));
 }
 
 TEST(BitmapContext, WithoutPixelsDrawsNothing) {

@@ -113,7 +113,7 @@ TEST(JxScratchImageViewTouch, OtherPhasesDoNothing) {
   }
   EXPECT_EQ(view->tilesFilled(), 0);
   EXPECT_TRUE(ear->heard.empty());
-  EXPECT_EQ(view->image()->raster().pixels(), std::vector<Rgba8>(300 * 200, kCoverColor));
+  EXPECT_EQ(view->image()->raster().pixels(), std::vector<Rgba8>(60000, kCoverColor));
 }
 
 TEST(JxScratchImageViewTouch, PhaseDecidesWhateverTheOperation) {
@@ -310,7 +310,7 @@ TEST(JxScratchImageViewTouch, ViewWithoutASizeErasesNothing) {
         view->touchesMoved({moved({x, y}, {0, 3})});
       }
     }
-    EXPECT_EQ(view->image()->raster().pixels(), std::vector<Rgba8>(300 * 200, kCoverColor));
+    EXPECT_EQ(view->image()->raster().pixels(), std::vector<Rgba8>(60000, kCoverColor));
     EXPECT_EQ(markedCells(*view).size(), static_cast<std::size_t>(view->tilesFilled()));
   }
 }

@@ -4,9 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace kindora {
@@ -91,7 +93,8 @@ TEST(UIImage, RenderedAtItsOwnSizeSharesThePixels) {
 
 TEST(UIImage, ResamplingKeepsAPlainColour) {
   const auto image = UIImage::imageWithRaster(filled(20, 10, {40, 30, 20, 50}));
-  for (const auto& [width, height] : {std::pair(7u, 3u), std::pair(1u, 1u), std::pair(50u, 31u)}) {
+  using Size = std::pair<std::size_t, std::size_t>;
+  for (const auto& [width, height] : {Size{7, 3}, Size{1, 1}, Size{50, 31}}) {
     EXPECT_EQ(image->rendered(width, height).pixels(),
               std::vector<Rgba8>(width * height, Rgba8{40, 30, 20, 50}));
   }
