@@ -135,9 +135,10 @@ Item {
 
         DragHandler {
             id: swipe
-            enabled: root.canEdit
+            // Also where there is nothing to swipe open: a swipe is no tap.
+            enabled: !root.isHeader
             yAxis.enabled: false
-            xAxis.minimum: -root.openWidth * 1.25
+            xAxis.minimum: root.canEdit ? -root.openWidth * 1.25 : 0
             xAxis.maximum: 0
             dragThreshold: 10
             cursorShape: Qt.ArrowCursor
