@@ -25,6 +25,15 @@ struct CGRect {
   friend constexpr bool operator==(const CGRect&, const CGRect&) = default;
 };
 
+[[nodiscard]] constexpr CGPoint centerOf(const CGRect& rect) {
+  return {rect.origin.x + rect.size.width / 2, rect.origin.y + rect.size.height / 2};
+}
+
+/// A rectangle of that size about a centre.
+[[nodiscard]] constexpr CGRect rectAround(CGPoint center, CGSize size) {
+  return {{center.x - size.width / 2, center.y - size.height / 2}, size};
+}
+
 /// A row of a sectioned list. Signed, because a caller may ask for a section that does not exist.
 struct IndexPath {
   int section = 0;

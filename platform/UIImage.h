@@ -25,6 +25,11 @@ class ImageSource {
   [[nodiscard]] virtual Raster render(std::size_t width, std::size_t height) const = 0;
 };
 
+enum class UIImageRenderingMode {
+  automatic,       ///< as it is
+  alwaysTemplate,  ///< its shape alone, in the tint colour of whoever shows it
+};
+
 class UIImage final {
  public:
   /// A picture of the raster's pixels; its size in points is the pixel size divided by the scale.
@@ -35,11 +40,15 @@ class UIImage final {
   [[nodiscard]] static UIImageRef imageWithSource(std::shared_ptr<const ImageSource> source,
                                                   CGSize size, double scale);
 
+  /// The same picture, to be drawn in that mode.
+  [[nodiscard]] UIImageRef imageWithRenderingMode(UIImageRenderingMode mode) const;
+
   UIImage(const UIImage&) = delete;
   UIImage& operator=(const UIImage&) = delete;
 
   [[nodiscard]] CGSize size() const { return size_; }
   [[nodiscard]] double scale() const { return scale_; }
+  [[nodiscard]] UIImageRenderingMode renderingMode() const { return renderingMode_; }
   /// The pixel size as a real number: size times scale, not rounded.
   [[nodiscard]] CGSize pixelSize() const { return {size_.width * scale_, size_.height * scale_}; }
 
@@ -60,6 +69,7 @@ class UIImage final {
   std::shared_ptr<const ImageSource> source_;
   CGSize size_;
   double scale_;
+  UIImageRenderingMode renderingMode_ = UIImageRenderingMode::automatic;
 };
 
 /// A number of pixels rounded up to whole ones, forgiving the rounding of size times scale: a

@@ -8,6 +8,10 @@ namespace kindora {
 
 inline constexpr std::string_view kShowNewChallenge = "showNewChallenge";
 inline constexpr std::string_view kShowInProgressChallenge = "showInProgressChallenge";
+inline constexpr std::string_view kShowBadgeDetail = "showBadgeDetail";
+inline constexpr std::string_view kKindora = "kindora";
+inline constexpr std::string_view kInviteFriend = "inviteFriend";
 inline constexpr std::string_view kUnwind = "unwind";
+inline constexpr std::string_view kUnwindToKindora = "unwindToKindora";
 
 }  // namespace kindora

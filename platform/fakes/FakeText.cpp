@@ -23,6 +23,17 @@ int FakeText::compare(std::string_view a, std::string_view b) const {
   return folded != 0 ? folded : a.compare(b);
 }
 
+std::string FakeText::caseFolded(std::string_view text) const {
+  std::string result = lowered(text);
+  // One letter beyond ASCII, which is enough to tell folding by bytes from folding by letters.
+  constexpr std::string_view kCapital = "\u00c9";
+  constexpr std::string_view kSmall = "\u00e9";
+  for (std::size_t at = 0; (at = result.find(kCapital, at)) != std::string::npos;) {
+    result.replace(at, kCapital.size(), kSmall);
+  }
+  return result;
+}
+
 std::string FakeText::capitalized(std::string_view text) const {
   std::string result = lowered(text);
   for (std::size_t i = 0; i < result.size(); ++i) {

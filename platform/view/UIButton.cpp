@@ -4,16 +4,12 @@
 
 namespace kindora {
 
-void UIButton::setEnabled(bool enabled) {
-  if (enabled_ == enabled) return;
-  enabled_ = enabled;
-  changed();
-}
-
 void UIButton::setTitle(const std::string& title) {
   if (title_ == title) return;
   title_ = title;
   changed();
 }
+
+void UIButton::setImage(const UIImageRef& image) { imageView_->setImage(image); }
 
 }  // namespace kindora

@@ -10,4 +10,16 @@ void UIImageView::setImage(const UIImageRef& image) {
   changed();
 }
 
+void UIImageView::setContentMode(UIViewContentMode mode) {
+  if (contentMode_ == mode) return;
+  contentMode_ = mode;
+  changed();
+}
+
+void UIImageView::setTintColor(const UIColor& color) {
+  if (tintColor_ == color) return;
+  tintColor_ = color;
+  changed();
+}
+
 }  // namespace kindora

@@ -12,14 +12,22 @@ namespace kindora {
 UIViewState interpolated(const UIViewState& from, const UIViewState& to, double fraction) {
   // Not std::lerp: at 0 and 1 this is exact for the finite values that views hold.
   const auto mix = [fraction](double a, double b) { return a * (1 - fraction) + b * fraction; };
-  return {.alpha = mix(from.alpha, to.alpha),
-          .translation = {mix(from.translation.x, to.translation.x),
-                          mix(from.translation.y, to.translation.y)},
+  const auto point = [&mix](CGPoint a, CGPoint b) { return CGPoint{mix(a.x, b.x), mix(a.y, b.y)}; };
+  const auto size = [&mix](CGSize a, CGSize b) {
+    return CGSize{mix(a.width, b.width), mix(a.height, b.height)};
+  };
+  const UIColor& before = from.backgroundColor;
+  const UIColor& after = to.backgroundColor;
+  return {.frame = {point(from.frame.origin, to.frame.origin), size(from.frame.size, to.frame.size)},
+          .alpha = mix(from.alpha, to.alpha),
+          .backgroundColor = {mix(before.red, after.red), mix(before.green, after.green),
+                              mix(before.blue, after.blue), mix(before.alpha, after.alpha)},
+          .translation = point(from.translation, to.translation),
           .scaling = mix(from.scaling, to.scaling),
           .cornerRadius = mix(from.cornerRadius, to.cornerRadius),
           .shadowOpacity = mix(from.shadowOpacity, to.shadowOpacity),
-          .shadowOffset = {mix(from.shadowOffset.width, to.shadowOffset.width),
-                           mix(from.shadowOffset.height, to.shadowOffset.height)},
+          .shadowOffset = size(from.shadowOffset, to.shadowOffset),
+          .curl = mix(from.curl, to.curl),
           .layout = mix(from.layout, to.layout)};
 }
 
@@ -39,11 +47,69 @@ void UIView::setState(const UIViewState& state) {
   state_ = state;
   ++stateRevision_;
   if (block == nullptr) presentation_ = state;
+  updateShown();
   changed();
+}
+
+void UIView::updateShown() {
+  shown_ = presentation_;
+  if (keyframes_.opacity) shown_.alpha = *keyframes_.opacity;
+  if (keyframes_.position) shown_.frame = rectAround(*keyframes_.position, shown_.frame.size);
+}
+
+void UIView::setKeyframeValues(const UIViewKeyframeValues& values) {
+  if (keyframes_ == values) return;
+  keyframes_ = values;
+  updateShown();
+  changed();
+}
+
+void UIView::setFrame(CGRect frame) {
+  animatable([frame](UIViewState& state) { state.frame = frame; });
+}
+
+void UIView::setCenter(CGPoint center) {
+  animatable([center](UIViewState& state) { state.frame = rectAround(center, state.frame.size); });
+}
+
+void UIView::setSize(CGSize size) {
+  animatable([size](UIViewState& state) { state.frame = rectAround(centerOf(state.frame), size); });
+}
+
+void UIView::reportFrame(CGRect frame) {
+  state_.frame = frame;
+  presentation_.frame = frame;
+  updateShown();
+}
+
+CGPoint UIView::originInWindow() const {
+  const std::optional<CGPoint> drawn = locateInWindow ? locateInWindow() : std::nullopt;
+  if (drawn) return *drawn;
+  const std::shared_ptr<UIView> parent = superview();
+  const CGPoint base = parent ? parent->originInWindow() : CGPoint{};
+  return {base.x + state_.frame.origin.x, base.y + state_.frame.origin.y};
+}
+
+CGPoint UIView::convertPoint(CGPoint point, const UIView& from) const {
+  const CGPoint there = from.originInWindow();
+  const CGPoint here = originInWindow();
+  return {point.x + there.x - here.x, point.y + there.y - here.y};
 }
 
 void UIView::setAlpha(double alpha) {
   animatable([alpha](UIViewState& state) { state.alpha = alpha; });
+}
+
+void UIView::setBackgroundColor(const UIColor& color) {
+  animatable([&color](UIViewState& state) { state.backgroundColor = color; });
+}
+
+void UIView::setScaling(double factor) {
+  animatable([factor](UIViewState& state) { state.scaling = factor; });
+}
+
+void UIView::setCurl(double curl) {
+  animatable([curl](UIViewState& state) { state.curl = curl; });
 }
 
 void UIView::setTranslation(CGPoint translation) {
@@ -65,6 +131,12 @@ void UIView::setCornerRadius(double radius) {
 void UIView::setPresentation(const UIViewState& presentation) {
   if (presentation_ == presentation) return;
   presentation_ = presentation;
+  updateShown();
+  changed();
+}
+
+void UIView::setClipsToBounds(bool clips) {
+  clipsToBounds_ = clips;
   changed();
 }
 
@@ -85,15 +157,16 @@ void UIView::setUserInteractionEnabled(bool enabled) {
   changed();
 }
 
-// Tells nobody: it comes from whoever draws the view.
-void UIView::setFrame(CGRect frame) { frame_ = frame; }
+void UIView::addSubview(const std::shared_ptr<UIView>& view) { insertSubviewAbove(view, nullptr); }
 
-void UIView::addSubview(const std::shared_ptr<UIView>& view) {
+void UIView::insertSubviewAbove(const std::shared_ptr<UIView>& view, const UIView* sibling) {
   view->removeFromSuperview();
   view->superview_ = weak_from_this();
   view->removed_ = false;
-  subviews_.push_back(view);
+  const auto below = std::ranges::find(subviews_, sibling, &std::shared_ptr<UIView>::get);
+  subviews_.insert(below == subviews_.end() ? below : below + 1, view);
   view->changed();
+  changed();
 }
 
 void UIView::removeFromSuperview() {
@@ -104,6 +177,7 @@ void UIView::removeFromSuperview() {
   removed_ = true;
   std::erase(parent->subviews_, self);
   changed();
+  parent->changed();
 }
 
 std::shared_ptr<UIView> UIView::viewWithName(std::string_view name) {
@@ -147,6 +221,13 @@ UIView::Subscription UIView::observe(Observer observer) {
   const int id = nextObserver_++;
   observers_[id] = std::move(observer);
   return {weak_from_this(), id};
+}
+
+bool hasCoveringSubview(const UIView& view) {
+  return std::ranges::any_of(view.subviews(), [&](const auto& subview) {
+    return subview->isMadeInCode() && subview->isUserInteractionEnabled() &&
+           subview->frame() == view.bounds();
+  });
 }
 
 UIView::Subscription::Subscription(Subscription&& other) noexcept

@@ -11,26 +11,38 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/Geometry.h"
+#include "platform/UIColor.h"
 #include "platform/view/NSLayoutConstraint.h"
 
 namespace kindora {
 
 /// Everything about a view that an animation can move.
 struct UIViewState {
+  CGRect frame;  ///< in the superview's space, before the transform
   double alpha = 1;
+  UIColor backgroundColor = UIColor::clearColor();
   CGPoint translation;  ///< transform: points by which the view is displaced
   double scaling = 1;   ///< transform: factor about the view's centre
   double cornerRadius = 0;
   double shadowOpacity = 0;
   CGSize shadowOffset{0, -3};
-  double layout =
-      0;  ///< how many changes of its constraints it has laid out since the first layout
+  double curl = 1;    ///< how far it is laid over what lies below, like a page: 0 to 1
+  double layout = 0;  ///< how many changes of its constraints it has laid out since the first
   friend constexpr bool operator==(const UIViewState&, const UIViewState&) = default;
+};
+
+/// What a keyframe animation shows in place of the state while it is attached.
+struct UIViewKeyframeValues {
+  std::optional<double> opacity;
+  std::optional<CGPoint> position;  ///< of the centre, in the superview's space
+  friend constexpr bool operator==(const UIViewKeyframeValues&,
+                                   const UIViewKeyframeValues&) = default;
 };
 
 /// The state between two states, at fraction 0 the first and at 1 the second, not clamped.
@@ -56,13 +68,18 @@ class UIView : public std::enable_shared_from_this<UIView> {
   [[nodiscard]] std::uint64_t stateRevision() const { return stateRevision_; }
   [[nodiscard]] double alpha() const { return state_.alpha; }
   void setAlpha(double alpha);
+  void setBackgroundColor(const UIColor& color);
   void setTranslation(CGPoint translation);
+  void setScaling(double factor);
   void setShadowOpacity(double opacity);
   void setShadowOffset(CGSize offset);
   void setCornerRadius(double radius);
-  /// What is shown now: the state, or where a running animation has moved it.
-  [[nodiscard]] const UIViewState& presentation() const { return presentation_; }
+  void setCurl(double curl);
+  /// What is shown now: the state, or where running animations have moved it.
+  [[nodiscard]] const UIViewState& presentation() const { return shown_; }
   void setPresentation(const UIViewState& presentation);
+  [[nodiscard]] const UIViewKeyframeValues& keyframeValues() const { return keyframes_; }
+  void setKeyframeValues(const UIViewKeyframeValues& values);
 
   /// Drawn through a bitmap at rasterizationScale pixels a point, for shadows that are dear to
   /// draw.
@@ -77,14 +94,37 @@ class UIView : public std::enable_shared_from_this<UIView> {
   [[nodiscard]] bool isUserInteractionEnabled() const { return userInteractionEnabled_; }
   void setUserInteractionEnabled(bool enabled);
 
-  /// In the superview's space, as the item that draws the view reports it.
-  [[nodiscard]] CGRect frame() const { return frame_; }
+  /// Subviews are cut off at the bounds, with the corner radius.
+  [[nodiscard]] bool clipsToBounds() const { return clipsToBounds_; }
+  void setClipsToBounds(bool clips);
+
+  /// In the superview's space, before the transform.
+  [[nodiscard]] CGRect frame() const { return state_.frame; }
   void setFrame(CGRect frame);
-  [[nodiscard]] CGRect bounds() const { return {{0, 0}, frame_.size}; }
+  /// Keep the size, or the centre.
+  void setCenter(CGPoint center);
+  void setSize(CGSize size);
+  [[nodiscard]] CGPoint center() const { return centerOf(state_.frame); }
+  [[nodiscard]] CGRect bounds() const { return {{0, 0}, state_.frame.size}; }
+  /// The place that an item gave to a view which a storyboard lays out. Not animated; nobody is
+  /// told.
+  void reportFrame(CGRect frame);
+
+  /// Where the view's origin lies in the window: asked of whoever draws it, else the sum of the
+  /// frames' origins.
+  [[nodiscard]] CGPoint originInWindow() const;
+  std::function<std::optional<CGPoint>()> locateInWindow;
+  /// A point of another view's space in this view's.
+  [[nodiscard]] CGPoint convertPoint(CGPoint point, const UIView& from) const;
 
   [[nodiscard]] std::shared_ptr<UIView> superview() const { return superview_.lock(); }
+  /// Lowest first.
   [[nodiscard]] const std::vector<std::shared_ptr<UIView>>& subviews() const { return subviews_; }
   void addSubview(const std::shared_ptr<UIView>& view);
+  /// Directly above a subview that is there, else on top.
+  void insertSubviewAbove(const std::shared_ptr<UIView>& view, const UIView* sibling);
+  /// True for a view that no storyboard knows: its place is the record's, not the item's.
+  [[nodiscard]] bool isMadeInCode() const { return name_.empty(); }
   void removeFromSuperview();
   /// True once it was taken out of its superview and not put anywhere since. A root view never is.
   [[nodiscard]] bool isRemoved() const { return removed_; }
@@ -122,18 +162,21 @@ class UIView : public std::enable_shared_from_this<UIView> {
 
  private:
   void constraintsChanged();
+  void updateShown();
   template <typename Change>
   void animatable(Change change);
 
   std::string name_;
   UIViewState state_;
-  UIViewState presentation_;
+  UIViewState presentation_;  // without keyframes
+  UIViewState shown_;
+  UIViewKeyframeValues keyframes_;
   std::uint64_t stateRevision_ = 0;
   bool shouldRasterize_ = false;
   double rasterizationScale_ = 1;
   double shadowPathRadius_ = -1;
   bool userInteractionEnabled_ = true;
-  CGRect frame_;
+  bool clipsToBounds_ = false;
   std::weak_ptr<UIView> superview_;
   bool removed_ = false;
   std::vector<std::shared_ptr<UIView>> subviews_;
@@ -143,5 +186,8 @@ class UIView : public std::enable_shared_from_this<UIView> {
   std::map<int, Observer> observers_;
   int nextObserver_ = 1;
 };
+
+/// True while a subview that was made in code takes all input from what lies below it.
+[[nodiscard]] bool hasCoveringSubview(const UIView& view);
 
 }  // namespace kindora

@@ -35,7 +35,10 @@ void UIViewAnimationBlock::show(double fraction) const {
     const auto view = track.view.lock();
     // A state that was set since belongs to a later change.
     if (!view || view->stateRevision() != track.revision) continue;
-    view->setPresentation(fraction == 1 ? track.to : interpolated(track.from, track.to, fraction));
+    UIViewState shown = fraction == 1 ? track.to : interpolated(track.from, track.to, fraction);
+    // A storyboard may lay the view out anew meanwhile.
+    if (track.from.frame == track.to.frame) shown.frame = view->state().frame;
+    view->setPresentation(shown);
   }
 }
 

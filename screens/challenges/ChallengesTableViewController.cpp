@@ -12,7 +12,7 @@
 #include "platform/qt/toolkit/UINavigationController.h"
 #include "screens/SegueIdentifiers.h"
 #include "screens/challenges/ChallengeTableViewCell.h"
-#include "screens/challenges/PlaceholderTableViewCell.h"
+#include "screens/shared/PlaceholderTableViewCell.h"
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
 

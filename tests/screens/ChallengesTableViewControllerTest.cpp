@@ -5,7 +5,7 @@
 #include "app/AppColors.h"
 #include "platform/qt/toolkit/UIApplication.h"
 #include "screens/challenges/ChallengeTableViewCell.h"
-#include "screens/challenges/PlaceholderTableViewCell.h"
+#include "screens/shared/PlaceholderTableViewCell.h"
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
 #include "tests/support/AppFixture.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include "screens/challenges/PlaceholderTableViewCell.h"
+#include "screens/shared/PlaceholderTableViewCell.h"
 
 #include <gtest/gtest.h>
 

@@ -22,7 +22,6 @@ FocusScope {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        clip: true
         color: root.controller.backgroundColor
 
         Repeater {

@@ -9,12 +9,14 @@ FocusScope {
 
     required property UITabBarController controller
 
+    // Above the bar, so that a page can send something flying into a tab.
     Item {
         id: area
         width: parent.width
         anchors.top: parent.top
         anchors.bottom: bar.top
-        clip: true
+        z: 1
+        enabled: !overlay.covered
 
         Repeater {
             model: root.controller.pages
@@ -42,39 +44,65 @@ FocusScope {
         }
     }
 
-    Rectangle {
+    ViewItem {
         id: bar
         objectName: "tabBar"
+        owner: root.controller.tabBar
+        outlet: objectName
         width: parent.width
         height: 49
         anchors.bottom: parent.bottom
-        color: Qt.rgba(0.985, 0.985, 0.985, 1)
-        enabled: root.controller.tabBar.userInteractionEnabled
         Accessible.role: Accessible.PageTabList
 
         Rectangle {
-            width: parent.width
-            height: 1
-            color: Qt.rgba(0.88, 0.88, 0.88, 1)
+            anchors.fill: parent
+            color: Qt.rgba(0.985, 0.985, 0.985, 1)
         }
 
-        Row {
-            anchors.fill: parent
+        ViewItem {
+            owner: root.controller.tabBar
+            outlet: "hairline"
+            width: parent.width
+            height: 1
 
-            Repeater {
-                model: root.controller.pages
+            Rectangle {
+                anchors.fill: parent
+                color: Qt.rgba(0.88, 0.88, 0.88, 1)
+            }
+        }
 
-                delegate: TabButton {
-                    required property int index
-                    required property UIViewController controller
+        Repeater {
+            model: root.controller.pages
 
-                    width: bar.width / root.controller.pages.count
-                    height: bar.height
-                    item: controller.tabBarItem
-                    selected: index === root.controller.selectedIndex
-                    onClicked: root.controller.pressTab(index)
+            delegate: ViewItem {
+                id: tab
+
+                required property int index
+                required property UIViewController controller
+
+                owner: root.controller.tabBar
+                outlet: "tab" + index
+                x: index * width
+                width: bar.width / root.controller.pages.count
+                height: bar.height
+
+                TabButton {
+                    anchors.fill: parent
+                    enabled: !overlay.covered
+                    item: tab.controller.tabBarItem
+                    selected: tab.index === root.controller.selectedIndex
+                    onClicked: root.controller.pressTab(tab.index)
                 }
             }
         }
+    }
+
+    // What controllers lay over everything.
+    SubviewsItem {
+        id: overlay
+        owner: root.controller
+        outlet: "view"
+        anchors.fill: parent
+        z: 2
     }
 }

@@ -7,4 +7,6 @@ import Kindora.Platform
 Item {
     property UITableViewCell cell
     property string spoken
+    // Between this row and the next.
+    property real spaceBelow: 8
 }

@@ -24,6 +24,15 @@ ListView {
         width: root.width
     }
 
+    header: Loader {
+        width: root.width
+        height: active ? root.controller.tableView.tableHeaderView.height : 0
+        active: root.controller.tableView.tableHeaderView !== null
+        sourceComponent: SearchBar {
+            bar: root.controller.tableView.tableHeaderView
+        }
+    }
+
     onMovementStarted: root.controller.tableView.closeRow()
 
     add: Transition {

@@ -22,7 +22,7 @@ Item {
     readonly property bool open: root.table.editingRow === root.index
     readonly property real openWidth: 104
 
-    height: root.isHeader ? 44 : content.implicitHeight + 8
+    height: root.isHeader ? 44 : content.implicitHeight + ((prototype.item as TableCell)?.spaceBelow ?? 0)
 
     Loader {
         active: root.isHeader

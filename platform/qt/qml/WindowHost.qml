@@ -9,6 +9,9 @@ FocusScope {
 
     required property UIWindow host
 
+    // Pages come in from the side.
+    clip: true
+
     PageLoader {
         anchors.fill: parent
         focus: root.host.presentations.count === 0

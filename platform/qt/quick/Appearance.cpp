@@ -25,6 +25,8 @@ QColor Appearance::tint() {
   return window != nullptr ? toQColor(window->tintColor()) : QColor();
 }
 
+QColor Appearance::tintedText() { return tint().darker(165); }
+
 QColor Appearance::barTint() { return toQColor(UINavigationBar::appearance().barTintColor); }
 QColor Appearance::barForeground() { return toQColor(UINavigationBar::appearance().tintColor); }
 QColor Appearance::barTitle() { return toQColor(UINavigationBar::appearance().titleColor); }

@@ -17,6 +17,7 @@ class Appearance : public QObject {
   QML_ELEMENT
   QML_SINGLETON
   Q_PROPERTY(QColor tint READ tint CONSTANT)
+  Q_PROPERTY(QColor tintedText READ tintedText CONSTANT)
   Q_PROPERTY(QColor barTint READ barTint CONSTANT)
   Q_PROPERTY(QColor barForeground READ barForeground CONSTANT)
   Q_PROPERTY(QColor barTitle READ barTitle CONSTANT)
@@ -25,6 +26,8 @@ class Appearance : public QObject {
 
  public:
   [[nodiscard]] static QColor tint();
+  /// The tint, as much darker as small text on white needs to be readable.
+  [[nodiscard]] static QColor tintedText();
   [[nodiscard]] static QColor barTint();
   [[nodiscard]] static QColor barForeground();
   [[nodiscard]] static QColor barTitle();

@@ -52,6 +52,13 @@ void PictureItem::setRadius(double radius) {
   redraw();
 }
 
+void PictureItem::setFits(bool fits) {
+  if (fits_ == fits) return;
+  fits_ = fits;
+  emit fitsChanged();
+  redraw();
+}
+
 void PictureItem::redraw() {
   dirty_ = true;
   update();
@@ -80,7 +87,9 @@ QImage PictureItem::drawn(QSize pixels, double ratio) const {
     return result;
   }
   const CGSize size = image_.image->size();
-  const double factor = std::max(pixels.width() / size.width, pixels.height() / size.height);
+  const double across = pixels.width() / size.width;
+  const double down = pixels.height() / size.height;
+  const double factor = fits_ ? std::min(across, down) : std::max(across, down);
   const QSize filled(std::max(1, static_cast<int>(std::lround(size.width * factor))),
                      std::max(1, static_cast<int>(std::lround(size.height * factor))));
   QImage picture = toQImage(image_.image->rendered(static_cast<std::size_t>(filled.width()),

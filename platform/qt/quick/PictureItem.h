@@ -11,8 +11,8 @@
 namespace kindora {
 
 /// Draws a picture in exactly the item's device pixels, so that it is crisp at any size: aspect
-/// fill inside a rectangle with rounded corners. Without a picture a neutral ground of the same
-/// shape.
+/// fill inside a rectangle with rounded corners, or all of it as large as it fits. Without a
+/// picture a neutral ground of the same shape.
 class PictureItem : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
@@ -21,6 +21,7 @@ class PictureItem : public QQuickItem {
   Q_PROPERTY(QColor tint READ tint WRITE setTint NOTIFY tintChanged)
   Q_PROPERTY(QColor ground READ ground WRITE setGround NOTIFY groundChanged)
   Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY radiusChanged)
+  Q_PROPERTY(bool fits READ fits WRITE setFits NOTIFY fitsChanged)
 
  public:
   explicit PictureItem(QQuickItem* parent = nullptr);
@@ -38,6 +39,9 @@ class PictureItem : public QQuickItem {
   void setGround(const QColor& ground);
   [[nodiscard]] double radius() const { return radius_; }
   void setRadius(double radius);
+  /// Whether the whole picture shows, rather than fills the item.
+  [[nodiscard]] bool fits() const { return fits_; }
+  void setFits(bool fits);
 
  signals:
   void imageChanged();
@@ -45,6 +49,7 @@ class PictureItem : public QQuickItem {
   void tintChanged();
   void groundChanged();
   void radiusChanged();
+  void fitsChanged();
 
  protected:
   QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
@@ -60,6 +65,7 @@ class PictureItem : public QQuickItem {
   QColor tint_;
   QColor ground_ = Qt::transparent;
   double radius_ = 0;
+  bool fits_ = false;
   bool dirty_ = true;
 };
 

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "platform/qt/quick/ViewItem.h"
 
+#include <QPointer>
+
 #include "platform/FatalError.h"
+#include "platform/qt/quick/Appearance.h"
 #include "platform/qt/quick/Colors.h"
 #include "platform/qt/toolkit/OutletOwner.h"
 #include "platform/view/UIButton.h"
@@ -10,6 +13,14 @@
 #include "platform/view/UILabel.h"
 
 namespace kindora {
+
+QColor templateTint(const UIImageView& view) {
+  if (!view.image() || view.image()->renderingMode() != UIImageRenderingMode::alwaysTemplate) {
+    return {};
+  }
+  if (view.tintColor()) return toQColor(*view.tintColor());
+  return Appearance::tint();
+}
 
 ViewItem::ViewItem(QQuickItem* parent) : QQuickItem(parent) {}
 
@@ -39,7 +50,12 @@ void ViewItem::connectView() {
     view_ = owner->outlet(outlet_.toStdString());
     if (!view_) fatalError("no outlet \"" + outlet_.toStdString() + "\"");
     subscription_ = view_->observe([this] { viewDidChange(); });
-    view_->setFrame({{x(), y()}, {width(), height()}});
+    view_->reportFrame({{x(), y()}, {width(), height()}});
+    view_->locateInWindow = [item = QPointer<ViewItem>(this)]() -> std::optional<CGPoint> {
+      if (!item) return std::nullopt;
+      const QPointF origin = item->mapToScene({0, 0});
+      return CGPoint{origin.x(), origin.y()};
+    };
   }
   viewDidChange();
 }
@@ -48,8 +64,8 @@ void ViewItem::viewDidChange() {
   if (view_) {
     setOpacity(view_->presentation().alpha);
     setScale(view_->presentation().scaling);
-    const auto* button = dynamic_cast<const UIButton*>(view_.get());
-    setEnabled(button != nullptr ? button->isEnabled() : view_->isUserInteractionEnabled());
+    const auto* control = dynamic_cast<const UIControl*>(view_.get());
+    setEnabled(view_->isUserInteractionEnabled() && (control == nullptr || control->isEnabled()));
   }
   setVisible(isShown());
   emit viewChanged();
@@ -57,7 +73,7 @@ void ViewItem::viewDidChange() {
 
 void ViewItem::geometryChange(const QRectF& now, const QRectF& before) {
   QQuickItem::geometryChange(now, before);
-  if (view_) view_->setFrame({{now.x(), now.y()}, {now.width(), now.height()}});
+  if (view_) view_->reportFrame({{now.x(), now.y()}, {now.width(), now.height()}});
 }
 
 QString ViewItem::text() const {
@@ -75,14 +91,35 @@ QColor ViewItem::textColor() const {
   return label != nullptr && label->textColor() ? toQColor(*label->textColor()) : QColor();
 }
 
+QFont ViewItem::textFont() const {
+  const auto* label = dynamic_cast<const UILabel*>(view_.get());
+  return label != nullptr && label->font() ? resolvedFont(*label->font()) : Appearance::font(16);
+}
+
 bool ViewItem::isTextCentered() const {
   const auto* label = dynamic_cast<const UILabel*>(view_.get());
   return label != nullptr && label->textAlignment() == NSTextAlignment::center;
 }
 
 ImageHandle ViewItem::image() const {
-  const auto* imageView = dynamic_cast<const UIImageView*>(view_.get());
-  return {imageView != nullptr ? imageView->image() : nullptr};
+  const UIImageView* picture = imageView();
+  return {picture != nullptr ? picture->image() : nullptr};
+}
+
+QColor ViewItem::imageTint() const {
+  const UIImageView* picture = imageView();
+  return picture != nullptr ? templateTint(*picture) : QColor();
+}
+
+bool ViewItem::imageFits() const {
+  const UIImageView* picture = imageView();
+  return picture != nullptr && picture->contentMode() == UIViewContentMode::scaleAspectFit;
+}
+
+// The view itself, or the picture inside a button.
+const UIImageView* ViewItem::imageView() const {
+  const auto* button = dynamic_cast<const UIButton*>(view_.get());
+  return button != nullptr ? &button->imageView() : dynamic_cast<const UIImageView*>(view_.get());
 }
 
 bool ViewItem::isShown() const {

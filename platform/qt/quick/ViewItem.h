@@ -13,6 +13,11 @@
 
 namespace kindora {
 
+class UIImageView;
+
+/// The colour in which a view shows its template image; invalid for any other image.
+[[nodiscard]] QColor templateTint(const UIImageView& view);
+
 /// Draws the view that an outlet names: takes alpha, scale, input and presence from it, offers the
 /// rest as properties, and reports to it the place that the storyboard gives to the item. Stops
 /// when the owner has no such outlet.
@@ -23,8 +28,11 @@ class ViewItem : public QQuickItem {
   Q_PROPERTY(QString outlet READ outlet WRITE setOutlet NOTIFY outletChanged REQUIRED)
   Q_PROPERTY(QString text READ text NOTIFY viewChanged)
   Q_PROPERTY(QColor textColor READ textColor NOTIFY viewChanged)
+  Q_PROPERTY(QFont textFont READ textFont NOTIFY viewChanged)
   Q_PROPERTY(bool textCentered READ isTextCentered NOTIFY viewChanged)
   Q_PROPERTY(kindora::ImageHandle image READ image NOTIFY viewChanged)
+  Q_PROPERTY(QColor imageTint READ imageTint NOTIFY viewChanged)
+  Q_PROPERTY(bool imageFits READ imageFits NOTIFY viewChanged)
   Q_PROPERTY(bool shown READ isShown NOTIFY viewChanged)
   Q_PROPERTY(double shadowOpacity READ shadowOpacity NOTIFY viewChanged)
   Q_PROPERTY(QPointF shadowOffset READ shadowOffset NOTIFY viewChanged)
@@ -42,8 +50,13 @@ class ViewItem : public QQuickItem {
 
   [[nodiscard]] QString text() const;
   [[nodiscard]] QColor textColor() const;  ///< invalid when the storyboard is to choose
+  [[nodiscard]] QFont textFont() const;    ///< 16 points when the storyboard is to choose
   [[nodiscard]] bool isTextCentered() const;
   [[nodiscard]] ImageHandle image() const;
+  /// Of a template image; invalid for any other.
+  [[nodiscard]] QColor imageTint() const;
+  /// Whether all of the image is to show, rather than fill the view.
+  [[nodiscard]] bool imageFits() const;
   /// Not removed from its superview and not fully transparent: only then is it drawn, pressed or
   /// read aloud.
   [[nodiscard]] bool isShown() const;
@@ -67,6 +80,7 @@ class ViewItem : public QQuickItem {
 
  private:
   void connectView();
+  [[nodiscard]] const UIImageView* imageView() const;
 
   QObject* owner_ = nullptr;
   QString outlet_;

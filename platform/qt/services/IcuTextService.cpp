@@ -34,6 +34,12 @@ int IcuTextService::compare(std::string_view a, std::string_view b) const {
   return rootCollator().compareUTF8(piece(a), piece(b), status);
 }
 
+std::string IcuTextService::caseFolded(std::string_view text) const {
+  std::string result;
+  icu::UnicodeString::fromUTF8(piece(text)).foldCase().toUTF8String(result);
+  return result;
+}
+
 std::string IcuTextService::capitalized(std::string_view text) const {
   std::string result;
   icu::UnicodeString::fromUTF8(piece(text))

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "platform/qt/toolkit/UITabBar.h"
 
+#include <algorithm>
+
+#include "platform/view/UIControl.h"
+
 namespace kindora {
 
 UITabBarItemAppearance& UITabBarItem::appearance() {
@@ -22,10 +26,28 @@ void UITabBarItem::setBadgeValue(const QString& value) {
   emit changed();
 }
 
+UITabBar::UITabBar() {
+  view_->setName("tabBar");
+  std::weak_ptr<UIView> hairline;
+  connectOutlet(hairline, "hairline", *view_);
+}
+
 void UITabBar::setUserInteractionEnabled(bool enabled) {
-  if (userInteractionEnabled_ == enabled) return;
-  userInteractionEnabled_ = enabled;
+  if (isUserInteractionEnabled() == enabled) return;
+  view_->setUserInteractionEnabled(enabled);
   emit userInteractionEnabledChanged();
+}
+
+void UITabBar::addTab() {
+  const auto controls = std::ranges::count_if(view_->subviews(), [](const auto& view) {
+    return dynamic_cast<const UIControl*>(view.get()) != nullptr;
+  });
+  std::weak_ptr<UIControl> tab;
+  connectOutlet(tab, "tab" + std::to_string(controls), *view_);
+}
+
+std::shared_ptr<UIView> UITabBar::outlet(std::string_view name) {
+  return view_->viewWithName(name);
 }
 
 }  // namespace kindora

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "platform/UIFont.h"
+#include "platform/qt/toolkit/OutletOwner.h"
 
 namespace kindora {
 
@@ -44,8 +45,9 @@ class UITabBarItem : public QObject {
   QString badgeValue_;
 };
 
-/// The bar that holds a tab bar controller's tabs.
-class UITabBar : public QObject {
+/// The bar that holds a tab bar controller's tabs: a view with one control for each tab, whose
+/// outlets are "tab0", "tab1" and so on; its own is "tabBar".
+class UITabBar : public QObject, public OutletOwner {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("owned by tab bar controllers")
@@ -53,14 +55,21 @@ class UITabBar : public QObject {
                  userInteractionEnabledChanged)
 
  public:
-  [[nodiscard]] bool isUserInteractionEnabled() const { return userInteractionEnabled_; }
+  UITabBar();
+
+  [[nodiscard]] const UIView& view() const { return *view_; }
+  [[nodiscard]] bool isUserInteractionEnabled() const { return view_->isUserInteractionEnabled(); }
   void setUserInteractionEnabled(bool enabled);
+  /// Adds the control of one more tab, to the right of the others.
+  void addTab();
+
+  [[nodiscard]] std::shared_ptr<UIView> outlet(std::string_view name) override;
 
  signals:
   void userInteractionEnabledChanged();
 
  private:
-  bool userInteractionEnabled_ = true;
+  std::shared_ptr<UIView> view_ = std::make_shared<UIView>();
 };
 
 }  // namespace kindora

@@ -10,6 +10,7 @@ UITabBarController::UITabBarController(const std::vector<UIViewControllerRef>& v
   for (const auto& controller : viewControllers) {
     controller->parent_ = this;
     pages_.append(controller);
+    tabBar_.addTab();
   }
 }
 
@@ -36,7 +37,7 @@ void UITabBarController::setSelectedIndex(int index) {
 }
 
 void UITabBarController::pressTab(int index) {
-  if (!tabBar_.isUserInteractionEnabled()) return;
+  if (!tabBar_.isUserInteractionEnabled() || hasCoveringSubview(*view())) return;
   if (index != selectedIndex_) {
     setSelectedIndex(index);
   } else if (auto* navigation = qobject_cast<UINavigationController*>(selected().get());
@@ -49,7 +50,9 @@ std::vector<UIViewController*> UITabBarController::visibleChildren() const {
   return {selected().get()};
 }
 
-bool UITabBarController::goBack() { return selected()->goBack(); }
+bool UITabBarController::goBack() {
+  return hasCoveringSubview(*view()) || selected()->goBack();
+}
 
 QUrl UITabBarController::page() const {
   return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Platform/TabHost.qml"));

@@ -4,9 +4,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <set>
+#include <tuple>
 #include <utility>
-
-#include "platform/FatalError.h"
 
 namespace kindora {
 namespace {
@@ -15,39 +15,18 @@ enum Role { kIsHeader = Qt::UserRole, kSection, kCell, kHeader, kReuse, kCanEdit
 
 }  // namespace
 
-bool UITableView::Row::sameAs(const Row& other) const {
-  if (section != other.section || (row < 0) != (other.row < 0)) return false;
-  if (identity == nullptr && other.identity == nullptr) return row == other.row;
-  return identity == other.identity;
+// Rows of a section are told by identity, those without one by position.
+std::tuple<int, bool, const void*, int> UITableView::Row::key() const {
+  return {section, row < 0, identity, identity == nullptr ? row : 0};
 }
 
 UITableView::UITableView(UITableViewDataSource& source) : source_(source) {}
 
-void UITableView::registerCell(std::string_view reuseIdentifier, CellMaker maker) {
-  makers_[std::string(reuseIdentifier)] = std::move(maker);
-}
-
-UITableViewCellRef UITableView::dequeueReusableCell(std::string_view reuseIdentifier) {
-  // The one put back last: a row that is filled anew gets its own cell again.
-  if (const auto [first, last] = reusable_.equal_range(reuseIdentifier); first != last) {
-    const auto latest = std::prev(last);
-    UITableViewCellRef cell = std::move(latest->second);
-    reusable_.erase(latest);
-    return cell;
-  }
-  const auto maker = makers_.find(reuseIdentifier);
-  if (maker == makers_.end()) {
-    fatalError("no cell is registered as \"" + std::string(reuseIdentifier) + "\"");
-  }
-  UITableViewCellRef cell = maker->second();
-  cell->setReuseIdentifier(reuseIdentifier);
-  cell->awakeFromNib();
-  return cell;
-}
-
 std::vector<UITableView::Row> UITableView::rowsOfSection(int section) {
   std::vector<Row> rows;
-  rows.push_back({.section = section});
+  if (!source_.tableViewTitleForHeaderInSection(section).empty()) {
+    rows.push_back({.section = section});
+  }
   const int count = source_.tableViewNumberOfRowsInSection(section);
   for (int row = 0; row < count; ++row) {
     rows.push_back({.section = section,
@@ -83,10 +62,7 @@ void UITableView::fill(Row& row) {
 }
 
 void UITableView::recycle(Row& row) {
-  if (!row.cell) return;
-  if (row.cell->isHighlighted()) row.cell->setHighlighted(false, false);
-  std::string identifier = row.cell->reuseIdentifier();
-  reusable_.emplace(std::move(identifier), std::exchange(row.cell, nullptr));
+  if (row.cell) cells_.recycle(std::exchange(row.cell, nullptr));
 }
 
 void UITableView::replace(std::vector<Row> next, bool animated) {
@@ -95,9 +71,10 @@ void UITableView::replace(std::vector<Row> next, bool animated) {
     emit animatesChangesChanged();
   }
   setEditingRow(-1);
-  const auto wanted = [&](const Row& row) {
-    return std::ranges::any_of(next, [&](const Row& other) { return other.sameAs(row); });
-  };
+  // A set, because a search over many friends reloads at every letter.
+  std::set<std::tuple<int, bool, const void*, int>> keys;
+  for (const Row& row : next) keys.insert(row.key());
+  const auto wanted = [&](const Row& row) { return keys.contains(row.key()); };
   // Cells of rows that leave are reused last, since they stay in sight for a while.
   std::vector<Row> gone;
   const auto removeRow = [&](int place) {
@@ -113,7 +90,7 @@ void UITableView::replace(std::vector<Row> next, bool animated) {
     const auto place = static_cast<int>(i);
     const auto here = rows_.begin() + place;
     const auto found = std::find_if(std::min(here, rows_.end()), rows_.end(),
-                                    [&](const Row& row) { return row.sameAs(next[i]); });
+                                    [&](const Row& row) { return row.key() == next[i].key(); });
     if (found == rows_.end()) {
       Row row = std::move(next[i]);
       fill(row);
@@ -180,6 +157,23 @@ void UITableView::select(int row) {
   if (pressed == nullptr) return;
   selected_ = IndexPath{pressed->section, pressed->row};
   source_.tableViewDidSelectRowAtIndexPath(*selected_);
+}
+
+void UITableView::deselectRowAtIndexPath(IndexPath path, bool /*animated*/) {
+  if (selected_ == path) selected_.reset();
+}
+
+UITableViewCellRef UITableView::cellForRowAtIndexPath(IndexPath path) const {
+  const auto found = std::ranges::find_if(rows_, [path](const Row& row) {
+    return row.section == path.section && row.row == path.row;
+  });
+  return found != rows_.end() && path.row >= 0 ? found->cell : nullptr;
+}
+
+void UITableView::setTableHeaderView(UISearchBar* header) {
+  if (headerView_ == header) return;
+  headerView_ = header;
+  emit tableHeaderViewChanged();
 }
 
 void UITableView::setHighlighted(int row, bool highlighted) {

@@ -7,14 +7,15 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
-#include <functional>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "platform/Geometry.h"
+#include "platform/qt/toolkit/CellPool.h"
+#include "platform/qt/toolkit/UISearchBar.h"
 #include "platform/qt/toolkit/UITableViewCell.h"
 
 namespace kindora {
@@ -30,7 +31,8 @@ class UITableViewDataSource {
   virtual ~UITableViewDataSource() = default;
   [[nodiscard]] virtual int numberOfSectionsInTableView() = 0;
   [[nodiscard]] virtual int tableViewNumberOfRowsInSection(int section) = 0;
-  [[nodiscard]] virtual std::string tableViewTitleForHeaderInSection(int section) = 0;
+  /// A section with an empty title has no header.
+  [[nodiscard]] virtual std::string tableViewTitleForHeaderInSection(int /*section*/) { return {}; }
   virtual void tableViewWillDisplayHeaderViewForSection(UITableViewHeaderFooterView& /*view*/,
                                                         int /*section*/) {}
   [[nodiscard]] virtual UITableViewCellRef tableViewCellForRowAtIndexPath(IndexPath path) = 0;
@@ -58,22 +60,34 @@ class UITableView : public QAbstractListModel {
   QML_UNCREATABLE("owned by table view controllers")
   Q_PROPERTY(int editingRow READ editingRow NOTIFY editingRowChanged)
   Q_PROPERTY(bool animatesChanges READ animatesChanges NOTIFY animatesChangesChanged)
+  Q_PROPERTY(kindora::UISearchBar* tableHeaderView READ tableHeaderView NOTIFY
+                 tableHeaderViewChanged)
 
  public:
-  using CellMaker = std::function<UITableViewCellRef()>;
+  using CellMaker = CellPool<UITableViewCell>::Maker;
 
   explicit UITableView(UITableViewDataSource& source);
 
   /// How cells of that kind are made: the prototype's class with its outlets connected.
-  void registerCell(std::string_view reuseIdentifier, CellMaker maker);
+  void registerCell(std::string_view reuseIdentifier, CellMaker maker) {
+    cells_.registerCell(reuseIdentifier, std::move(maker));
+  }
   /// A cell that is no longer shown, or a new one. Stops when nobody registered the kind.
-  [[nodiscard]] UITableViewCellRef dequeueReusableCell(std::string_view reuseIdentifier);
+  [[nodiscard]] UITableViewCellRef dequeueReusableCell(std::string_view reuseIdentifier) {
+    return cells_.dequeue(reuseIdentifier);
+  }
 
   void reloadData();
   void reloadSections(const std::vector<int>& sections, UITableViewRowAnimation animation);
   /// Opens nothing: with false it closes the row that was swiped open.
   void setEditing(bool editing, bool animated);
   [[nodiscard]] std::optional<IndexPath> indexPathForSelectedRow() const { return selected_; }
+  void deselectRowAtIndexPath(IndexPath path, bool animated);
+  /// The cell that shows the row now; null when there is no such row.
+  [[nodiscard]] UITableViewCellRef cellForRowAtIndexPath(IndexPath path) const;
+  /// A search bar above all rows, which scrolls with them; null for none.
+  [[nodiscard]] UISearchBar* tableHeaderView() const { return headerView_; }
+  void setTableHeaderView(UISearchBar* header);
 
   // --- What the user does; rows count over the whole list, headers included ---
   Q_INVOKABLE void select(int row);
@@ -93,6 +107,7 @@ class UITableView : public QAbstractListModel {
  signals:
   void editingRowChanged();
   void animatesChangesChanged();
+  void tableHeaderViewChanged();
 
  private:
   struct Row {
@@ -104,7 +119,8 @@ class UITableView : public QAbstractListModel {
     bool canEdit = false;
     bool highlights = false;
     std::string deleteTitle;
-    [[nodiscard]] bool sameAs(const Row& other) const;
+    /// What makes it the same row as before.
+    [[nodiscard]] std::tuple<int, bool, const void*, int> key() const;
   };
 
   [[nodiscard]] std::vector<Row> rowsOfSection(int section);
@@ -116,10 +132,10 @@ class UITableView : public QAbstractListModel {
   [[nodiscard]] Row* rowAt(int row);
 
   UITableViewDataSource& source_;
-  std::map<std::string, CellMaker, std::less<>> makers_;
-  std::multimap<std::string, UITableViewCellRef, std::less<>> reusable_;
+  CellPool<UITableViewCell> cells_;
   std::vector<Row> rows_;
   std::optional<IndexPath> selected_;
+  UISearchBar* headerView_ = nullptr;
   int editingRow_ = -1;
   bool animatesChanges_ = false;
 };

@@ -6,12 +6,24 @@
 
 namespace kindora {
 
-UITableViewCell::UITableViewCell() {
-  QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+void UITableViewCell::setAccessoryType(UITableViewCellAccessoryType type) {
+  if (accessoryType_ == type) return;
+  accessoryType_ = type;
+  emit lookChanged();
 }
 
-std::shared_ptr<UIView> UITableViewCell::outlet(std::string_view name) {
-  return contentView_->viewWithName(name);
+void UITableViewCell::setSelectionStyle(UITableViewCellSelectionStyle style) {
+  if (selectionStyle_ == style) return;
+  selectionStyle_ = style;
+  emit lookChanged();
+}
+
+bool UITableViewCell::showsSelection() const {
+  return isHighlighted() && selectionStyle_ != UITableViewCellSelectionStyle::none;
+}
+
+bool UITableViewCell::hasCheckmark() const {
+  return accessoryType_ == UITableViewCellAccessoryType::checkmark;
 }
 
 UITableViewHeaderFooterView::UITableViewHeaderFooterView() {

@@ -2,38 +2,36 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QtQml/qqmlregistration.h>
-#include <QObject>
-#include <string>
-
-#include "platform/qt/toolkit/OutletOwner.h"
+#include "platform/qt/toolkit/UIReusableCell.h"
 #include "platform/view/UILabel.h"
 
 namespace kindora {
 
-/// A row of a table: its views and how it looks when pressed. Reused for other rows of its kind.
-class UITableViewCell : public QObject, public OutletOwner {
+enum class UITableViewCellAccessoryType { none, checkmark };
+enum class UITableViewCellSelectionStyle { none, standard };
+
+/// A row of a table.
+class UITableViewCell : public kindora::UIReusableCell {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("cells come from the table")
+  Q_PROPERTY(bool showsSelection READ showsSelection NOTIFY lookChanged)
+  Q_PROPERTY(bool hasCheckmark READ hasCheckmark NOTIFY lookChanged)
 
  public:
-  UITableViewCell();
+  /// What stands at the row's end.
+  [[nodiscard]] UITableViewCellAccessoryType accessoryType() const { return accessoryType_; }
+  void setAccessoryType(UITableViewCellAccessoryType type);
+  /// Whether a press shows on the row.
+  [[nodiscard]] UITableViewCellSelectionStyle selectionStyle() const { return selectionStyle_; }
+  void setSelectionStyle(UITableViewCellSelectionStyle style);
 
-  [[nodiscard]] const std::string& reuseIdentifier() const { return reuseIdentifier_; }
-  void setReuseIdentifier(std::string_view identifier) { reuseIdentifier_ = identifier; }
-  [[nodiscard]] UIView& contentView() { return *contentView_; }
-  [[nodiscard]] std::shared_ptr<UIView> outlet(std::string_view name) override;
-
-  /// Called once, when the outlets have been connected.
-  virtual void awakeFromNib() {}
-  virtual void setHighlighted(bool highlighted, bool /*animated*/) { highlighted_ = highlighted; }
-  [[nodiscard]] bool isHighlighted() const { return highlighted_; }
+  [[nodiscard]] bool showsSelection() const;
+  [[nodiscard]] bool hasCheckmark() const;
 
  private:
-  std::string reuseIdentifier_;
-  std::shared_ptr<UIView> contentView_ = std::make_shared<UIView>();
-  bool highlighted_ = false;
+  UITableViewCellAccessoryType accessoryType_ = UITableViewCellAccessoryType::none;
+  UITableViewCellSelectionStyle selectionStyle_ = UITableViewCellSelectionStyle::standard;
 };
 
 /// The line above a section.

@@ -36,13 +36,25 @@ QEasingCurve easing(UIViewAnimationCurve curve) {
   return result;
 }
 
+// The way covered at each fraction of the duration.
+std::function<double(double)> pace(const UIViewAnimationTiming& timing) {
+  if (timing.spring) {
+    return [spring = *timing.spring, length = timing.duration](double fraction) {
+      return springProgress(spring, length, fraction * length);
+    };
+  }
+  return [curve = easing(timing.curve)](double fraction) {
+    return curve.valueForProgress(fraction);
+  };
+}
+
 // Delay and way in one animation, so that both are measured by the same clock.
 class Timeline : public QAbstractAnimation {
  public:
   Timeline(const UIViewAnimationTiming& timing, std::function<void(double)> step)
       : delay_(milliseconds(timing.delay)),
         length_(milliseconds(timing.duration)),
-        easing_(easing(timing.curve)),
+        pace_(pace(timing)),
         step_(std::move(step)) {}
 
   int duration() const override { return delay_ + length_; }
@@ -52,14 +64,14 @@ class Timeline : public QAbstractAnimation {
     if (time >= delay_ + length_) {
       step_(1);
     } else if (time > delay_) {
-      step_(easing_.valueForProgress(static_cast<double>(time - delay_) / length_));
+      step_(pace_(static_cast<double>(time - delay_) / length_));
     }
   }
 
  private:
   int delay_;
   int length_;
-  QEasingCurve easing_;
+  std::function<double(double)> pace_;
   std::function<void(double)> step_;
 };
 
@@ -81,6 +93,20 @@ void animateWithDuration(const UIViewAnimationTiming& timing,
                      if (completion) completion();
                    });
   timeline->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void transitionFromView(const std::shared_ptr<UIView>& from, const std::shared_ptr<UIView>& to,
+                        double duration, std::function<void()> completion) {
+  to->setCurl(0);
+  if (const std::shared_ptr<UIView> container = from->superview()) {
+    container->insertSubviewAbove(to, from.get());
+  }
+  animateWithDuration(
+      {.duration = duration}, [&to] { to->setCurl(1); },
+      [from, completion = std::move(completion)] {
+        from->removeFromSuperview();
+        if (completion) completion();
+      });
 }
 
 class ProgressAnimation::Clock final : public Timeline {

@@ -4,6 +4,11 @@
 #pragma once
 
 #include <functional>
+#include <memory>
+#include <optional>
+
+#include "platform/view/SpringTiming.h"
+#include "platform/view/UIView.h"
 
 namespace kindora {
 
@@ -13,6 +18,7 @@ struct UIViewAnimationTiming {
   double duration = 0;  ///< seconds
   double delay = 0;     ///< seconds before the first change is shown
   UIViewAnimationCurve curve = UIViewAnimationCurve::easeInOut;
+  std::optional<UISpring> spring = std::nullopt;  ///< takes the curve's place
 };
 
 /// Runs the closure now and shows its changes to views over time, beginning from what they show at
@@ -20,6 +26,11 @@ struct UIViewAnimationTiming {
 void animateWithDuration(const UIViewAnimationTiming& timing,
                          const std::function<void()>& animations,
                          std::function<void()> completion = {});
+
+/// Lays a view over another like a page that curls down, and takes the other out of their superview
+/// at the end.
+void transitionFromView(const std::shared_ptr<UIView>& from, const std::shared_ptr<UIView>& to,
+                        double duration, std::function<void()> completion = {});
 
 /// A number on its way from 0 to 1 (eased), for what is no view. Stops when the handle goes.
 class ProgressAnimation {

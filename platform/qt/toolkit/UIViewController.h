@@ -94,6 +94,10 @@ class UIViewController : public kindora::UIResponder,
   void dismissViewController(bool animated, Completion completion = {});
   [[nodiscard]] UIViewControllerRef presentedViewController();
   [[nodiscard]] UIViewController* presentingViewController();
+  /// Whether what is presented from inside this controller stays inside it. Kept for those who ask;
+  /// presentations cover the whole container either way.
+  [[nodiscard]] bool definesPresentationContext() const { return definesPresentationContext_; }
+  void setDefinesPresentationContext(bool defines) { definesPresentationContext_ = defines; }
   /// How far this controller has come onto the screen, 0 to 1.
   [[nodiscard]] double presentationProgress() const { return presentationProgress_; }
   /// True when what presents this one is out of sight below it, so that it hears that it
@@ -150,6 +154,7 @@ class UIViewController : public kindora::UIResponder,
   std::unique_ptr<Presentation> presentation_;
   QPointer<UIViewController> presenting_;
   double presentationProgress_ = 0;
+  bool definesPresentationContext_ = false;
   const UIStoryboard* storyboard_ = nullptr;
   const UIStoryboardScene* scene_ = nullptr;
 };

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QColor>
+#include <QObject>
+#include <QString>
+
+#include "platform/Geometry.h"
+#include "platform/UIColor.h"
+
+namespace kindora {
+
+enum class UISearchBarStyle { standard, minimal };
+
+/// A line in which the user types what to look for. It is first responder while it has the
+/// keyboard.
+class UISearchBar : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("owned by search controllers")
+  Q_PROPERTY(QString text READ text NOTIFY textChanged)
+  Q_PROPERTY(QColor backgroundColor READ background NOTIFY lookChanged)
+  Q_PROPERTY(double height READ height NOTIFY lookChanged)
+  Q_PROPERTY(bool firstResponder READ isFirstResponder NOTIFY firstResponderChanged)
+  Q_PROPERTY(bool showsCancelButton READ showsCancelButton NOTIFY showsCancelButtonChanged)
+
+ public:
+  [[nodiscard]] const QString& text() const { return text_; }
+  void setText(const QString& text);
+  [[nodiscard]] CGRect frame() const { return frame_; }
+  void setFrame(CGRect frame);
+  [[nodiscard]] UISearchBarStyle searchBarStyle() const { return style_; }
+  void setSearchBarStyle(UISearchBarStyle style) { style_ = style; }
+  [[nodiscard]] const UIColor& backgroundColor() const { return backgroundColor_; }
+  void setBackgroundColor(const UIColor& color);
+  [[nodiscard]] bool showsCancelButton() const { return showsCancelButton_; }
+  void setShowsCancelButton(bool shows);
+
+  [[nodiscard]] bool isFirstResponder() const { return firstResponder_; }
+  void resignFirstResponder() { setFirstResponder(false); }
+
+  // --- What the user does ---
+  Q_INVOKABLE void edit(const QString& text);
+  Q_INVOKABLE void setFirstResponder(bool first);
+  Q_INVOKABLE void cancel() { emit cancelled(); }
+
+  [[nodiscard]] QColor background() const;
+  [[nodiscard]] double height() const { return frame_.size.height; }
+
+ signals:
+  void textChanged();
+  void lookChanged();
+  void firstResponderChanged();
+  void showsCancelButtonChanged();
+  void edited();
+  void cancelled();
+
+ private:
+  QString text_;
+  CGRect frame_{{0, 0}, {0, 44}};
+  UISearchBarStyle style_ = UISearchBarStyle::standard;
+  UIColor backgroundColor_ = UIColor::whiteColor();
+  bool showsCancelButton_ = false;
+  bool firstResponder_ = false;
+};
+
+}  // namespace kindora

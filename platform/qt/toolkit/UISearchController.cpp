@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/qt/toolkit/UISearchController.h"
+
+namespace kindora {
+
+UISearchController::UISearchController() {
+  connect(&searchBar_, &UISearchBar::firstResponderChanged, this, [this] {
+    if (searchBar_.isFirstResponder()) setActive(true);
+  });
+  connect(&searchBar_, &UISearchBar::edited, this, [this] {
+    setActive(true);
+    update();
+  });
+  connect(&searchBar_, &UISearchBar::cancelled, this, [this] { setActive(false); });
+}
+
+void UISearchController::setActive(bool active) {
+  if (active_ == active) return;
+  active_ = active;
+  searchBar_.setShowsCancelButton(active);
+  if (active) {
+    update();
+    return;
+  }
+  searchBar_.setText({});
+  searchBar_.resignFirstResponder();
+  if (delegate != nullptr) delegate->didDismissSearchController(*this);
+}
+
+void UISearchController::update() {
+  if (searchResultsUpdater != nullptr) {
+    searchResultsUpdater->updateSearchResultsForSearchController(*this);
+  }
+}
+
+}  // namespace kindora

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Platform
+
+// A friend's row: the face, the name, and a tick when chosen.
+TableCell {
+    id: root
+
+    readonly property bool chosen: root.cell?.hasCheckmark ?? false
+
+    implicitHeight: 60
+    spaceBelow: 0
+    spoken: name.text + (root.chosen ? ", " + qsTr("selected") : "")
+
+    Rectangle {
+        anchors.fill: parent
+        color: root.cell?.showsSelection ? Qt.rgba(0.92, 0.92, 0.92, 1) : "white"
+    }
+
+    ViewItem {
+        id: picture
+        owner: root.cell
+        outlet: "friendImageView"
+        x: 16
+        width: 44
+        height: 44
+        anchors.verticalCenter: parent.verticalCenter
+
+        PictureItem {
+            anchors.fill: parent
+            radius: width / 2
+            image: picture.image
+            ground: Qt.rgba(0.88, 0.88, 0.88, 1)
+        }
+    }
+
+    ViewItem {
+        id: name
+        owner: root.cell
+        outlet: "nameLabel"
+        anchors.left: picture.right
+        anchors.leftMargin: 16
+        anchors.right: tick.left
+        anchors.rightMargin: 12
+        height: parent.height
+
+        PlainText {
+            anchors.fill: parent
+            text: name.text
+            points: 17
+            verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
+        }
+    }
+
+    PictureItem {
+        id: tick
+        anchors.right: parent.right
+        anchors.rightMargin: 20
+        anchors.verticalCenter: parent.verticalCenter
+        width: 22
+        height: 22
+        imageName: "checkmark"
+        tint: Appearance.tint
+        scale: root.chosen ? 1 : 0
+        visible: scale > 0
+
+        Behavior on scale {
+            NumberAnimation { duration: 180; easing.type: Easing.OutBack }
+        }
+    }
+
+    Rectangle {
+        anchors.bottom: parent.bottom
+        anchors.right: parent.right
+        anchors.left: name.left
+        height: 1
+        color: Qt.rgba(0.9, 0.9, 0.9, 1)
+    }
+}

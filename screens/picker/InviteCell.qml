@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Platform
+
+// The last row of the picker, which leads to the invitation.
+TableCell {
+    id: root
+
+    implicitHeight: 60
+    spaceBelow: 0
+    spoken: message.text
+
+    Rectangle {
+        anchors.fill: parent
+        color: "white"
+    }
+
+    ViewItem {
+        id: message
+        owner: root.cell
+        outlet: "messageLabel"
+        anchors.fill: parent
+
+        PlainText {
+            anchors.centerIn: parent
+            text: message.text
+            font: message.textFont
+            color: message.textColor
+            Accessible.ignored: true
+        }
+    }
+}
