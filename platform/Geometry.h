@@ -3,6 +3,7 @@
 // Points, sizes and rectangles in the y-down space of views, in points.
 #pragma once
 
+#include <compare>
 #include <cstddef>
 
 namespace kindora {
@@ -34,11 +35,33 @@ struct CGRect {
   return {{center.x - size.width / 2, center.y - size.height / 2}, size};
 }
 
-/// A row of a sectioned list. Signed, because a caller may ask for a section that does not exist.
+/// The rectangle with its edges moved inwards; negative distances move them outwards.
+[[nodiscard]] constexpr CGRect CGRectInset(const CGRect& rect, double dx, double dy) {
+  return {{rect.origin.x + dx, rect.origin.y + dy},
+          {rect.size.width - 2 * dx, rect.size.height - 2 * dy}};
+}
+
+/// Whether two rectangles overlap; touching edges do not.
+[[nodiscard]] constexpr bool CGRectIntersectsRect(const CGRect& a, const CGRect& b) {
+  return a.origin.x < b.origin.x + b.size.width && b.origin.x < a.origin.x + a.size.width &&
+         a.origin.y < b.origin.y + b.size.height && b.origin.y < a.origin.y + a.size.height;
+}
+
+/// Distances from the four edges of a rectangle.
+struct UIEdgeInsets {
+  double top = 0;
+  double left = 0;
+  double bottom = 0;
+  double right = 0;
+  friend constexpr bool operator==(const UIEdgeInsets&, const UIEdgeInsets&) = default;
+};
+
+/// A row of a sectioned list or an item of a collection, first by section in order. Signed, because
+/// a caller may ask for a section that does not exist.
 struct IndexPath {
   int section = 0;
   int row = 0;
-  friend constexpr bool operator==(const IndexPath&, const IndexPath&) = default;
+  friend constexpr auto operator<=>(const IndexPath&, const IndexPath&) = default;
 };
 
 }  // namespace kindora

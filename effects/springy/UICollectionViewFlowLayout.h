@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+// A grid of cells that flows like text; see FlowSection for how lines are filled.
+//
+// What the collection view's delegate says comes before the layout's own sizes and spacings. A
+// section whose items have one size is laid out by arithmetic: its price in time and memory does
+// not grow with the number of items.
+#pragma once
+
+#include <vector>
+
+#include "effects/springy/FlowSection.h"
+#include "effects/springy/UICollectionViewLayout.h"
+
+namespace kindora {
+
+class UICollectionViewFlowLayout : public UICollectionViewLayout {
+ public:
+  [[nodiscard]] double minimumInteritemSpacing() const { return minimumInteritemSpacing_; }
+  void setMinimumInteritemSpacing(double points);
+  [[nodiscard]] double minimumLineSpacing() const { return minimumLineSpacing_; }
+  void setMinimumLineSpacing(double points);
+  [[nodiscard]] CGSize itemSize() const { return itemSize_; }
+  void setItemSize(CGSize size);
+  [[nodiscard]] UIEdgeInsets sectionInset() const { return sectionInset_; }
+  void setSectionInset(UIEdgeInsets insets);
+
+  void invalidateLayout() override;
+  /// Asks for counts, sizes and spacings when the layout was invalidated, and invalidates it first
+  /// when the width is no longer that of the last time.
+  void prepareLayout() override;
+  [[nodiscard]] CGSize collectionViewContentSize() const override;
+  [[nodiscard]] std::vector<UICollectionViewLayoutAttributesRef> layoutAttributesForElementsInRect(
+      const CGRect& rect) const override;
+  [[nodiscard]] UICollectionViewLayoutAttributesRef layoutAttributesForItemAtIndexPath(
+      IndexPath path) const override;
+  /// True when the width changes.
+  [[nodiscard]] bool shouldInvalidateLayoutForBoundsChange(const CGRect& newBounds) override;
+
+ private:
+  [[nodiscard]] FlowMetrics metricsOfSection(int section) const;
+
+  double minimumInteritemSpacing_ = 10;
+  double minimumLineSpacing_ = 10;
+  CGSize itemSize_{50, 50};
+  UIEdgeInsets sectionInset_;
+  bool prepared_ = false;
+  double preparedWidth_ = 0;
+  std::vector<FlowSection> sections_;
+};
+
+}  // namespace kindora
