@@ -4,10 +4,12 @@
 
 #include "platform/qt/toolkit/UINavigationController.h"
 #include "screens/SegueIdentifiers.h"
+#include "screens/badges/BadgeInfoViewController.h"
 #include "screens/badges/BadgesViewController.h"
 #include "screens/challenges/ChallengesTableViewController.h"
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
+#include "screens/picker/KindoraTableViewController.h"
 
 namespace kindora {
 namespace {
@@ -16,6 +18,8 @@ constexpr const char* kChallenges = "ChallengesTableViewController";
 constexpr const char* kNewChallenge = "NewChallengeDetailViewController";
 constexpr const char* kInProgressChallenge = "InProgressChallengeDetailViewController";
 constexpr const char* kBadges = "BadgesViewController";
+constexpr const char* kBadgeInfo = "BadgeInfoViewController";
+constexpr const char* kPicker = "KindoraTableViewController";
 
 QUrl page(const char* name) {
   return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Screens/%1.qml").arg(QLatin1String(name)));
@@ -31,6 +35,15 @@ void connectOutlets(UIViewController& controller) {
   dynamic_cast<Controller&>(controller).connectOutlets();
 }
 
+template <typename Controller>
+UIStoryboardUnwindAction unwindAction(std::string_view action,
+                                      void (Controller::*perform)(const UIStoryboardSegue&)) {
+  return {std::string(action),
+          [perform](UIViewController& controller, const UIStoryboardSegue& segue) {
+            (dynamic_cast<Controller&>(controller).*perform)(segue);
+          }};
+}
+
 std::vector<UIStoryboardScene> scenes() {
   using Kind = UIStoryboardSegueKind;
   const UIStoryboardSegueTemplate backToList{std::string(kUnwind), Kind::unwind,
@@ -41,10 +54,7 @@ std::vector<UIStoryboardScene> scenes() {
        .page = page("ChallengesPage"),
        .segues = {{std::string(kShowNewChallenge), Kind::show, kNewChallenge},
                   {std::string(kShowInProgressChallenge), Kind::show, kInProgressChallenge}},
-       .unwindActions = {{std::string(kUnwind),
-                          [](UIViewController& list, const UIStoryboardSegue& segue) {
-                            dynamic_cast<ChallengesTableViewController&>(list).unwind(segue);
-                          }}}},
+       .unwindActions = {unwindAction(kUnwind, &ChallengesTableViewController::unwind)}},
       {.identifier = kNewChallenge,
        .make = make<NewChallengeDetailViewController>,
        .connectOutlets = connectOutlets<NewChallengeDetailViewController>,
@@ -55,7 +65,24 @@ std::vector<UIStoryboardScene> scenes() {
        .connectOutlets = connectOutlets<InProgressChallengeDetailViewController>,
        .page = page("InProgressChallengePage"),
        .segues = {backToList}},
-      {.identifier = kBadges, .make = make<BadgesViewController>, .page = page("BadgesPage")},
+      {.identifier = kBadges,
+       .make = make<BadgesViewController>,
+       .connectOutlets = connectOutlets<BadgesViewController>,
+       .page = page("BadgesPage"),
+       .segues = {{std::string(kShowBadgeDetail), Kind::show, kBadgeInfo}},
+       .unwindActions = {unwindAction("unwindToBadges", &BadgesViewController::unwindToBadges)}},
+      {.identifier = kBadgeInfo,
+       .make = make<BadgeInfoViewController>,
+       .connectOutlets = connectOutlets<BadgeInfoViewController>,
+       .page = page("BadgeInfoPage"),
+       .segues = {{std::string(kKindora), Kind::show, kPicker}},
+       .unwindActions = {unwindAction("unwindToBadgeInfo",
+                                      &BadgeInfoViewController::unwindToBadgeInfo)}},
+      {.identifier = kPicker,
+       .make = make<KindoraTableViewController>,
+       .page = page("KindoraPage"),
+       .unwindActions = {unwindAction(kUnwindToKindora,
+                                      &KindoraTableViewController::unwindToKindora)}},
   };
 }
 

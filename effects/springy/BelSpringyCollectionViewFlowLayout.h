@@ -44,6 +44,9 @@ class BelSpringyCollectionViewFlowLayout final : public UICollectionViewFlowLayo
   /// Moves the springs for the scroll from the present bounds to the new ones. Always false.
   [[nodiscard]] bool shouldInvalidateLayoutForBoundsChange(const CGRect& newBounds) override;
 
+  bool advance(double seconds) override { return dynamicAnimator_->advance(seconds); }
+  [[nodiscard]] bool isResting() const override { return dynamicAnimator_->isResting(); }
+
  private:
   void removeSpringsOutside(const std::set<IndexPath>& paths);
   void addSpring(const UICollectionViewLayoutAttributesRef& item, CGPoint touch);

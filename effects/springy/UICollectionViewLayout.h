@@ -37,6 +37,11 @@ class UICollectionViewLayout {
   /// Told before the bounds change; true when everything is to be laid out anew for it.
   [[nodiscard]] virtual bool shouldInvalidateLayoutForBoundsChange(const CGRect& newBounds) = 0;
 
+  /// Moves on by that many seconds what moves by itself; true when any cell moved.
+  virtual bool advance(double /*seconds*/) { return false; }
+  /// True when no further advance would move anything.
+  [[nodiscard]] virtual bool isResting() const { return true; }
+
  private:
   const UICollectionView* collectionView_ = nullptr;
 };

@@ -18,17 +18,18 @@ UIViewState interpolated(const UIViewState& from, const UIViewState& to, double 
   };
   const UIColor& before = from.backgroundColor;
   const UIColor& after = to.backgroundColor;
-  return {.frame = {point(from.frame.origin, to.frame.origin), size(from.frame.size, to.frame.size)},
-          .alpha = mix(from.alpha, to.alpha),
-          .backgroundColor = {mix(before.red, after.red), mix(before.green, after.green),
-                              mix(before.blue, after.blue), mix(before.alpha, after.alpha)},
-          .translation = point(from.translation, to.translation),
-          .scaling = mix(from.scaling, to.scaling),
-          .cornerRadius = mix(from.cornerRadius, to.cornerRadius),
-          .shadowOpacity = mix(from.shadowOpacity, to.shadowOpacity),
-          .shadowOffset = size(from.shadowOffset, to.shadowOffset),
-          .curl = mix(from.curl, to.curl),
-          .layout = mix(from.layout, to.layout)};
+  return {
+      .frame = {point(from.frame.origin, to.frame.origin), size(from.frame.size, to.frame.size)},
+      .alpha = mix(from.alpha, to.alpha),
+      .backgroundColor = {mix(before.red, after.red), mix(before.green, after.green),
+                          mix(before.blue, after.blue), mix(before.alpha, after.alpha)},
+      .translation = point(from.translation, to.translation),
+      .scaling = mix(from.scaling, to.scaling),
+      .cornerRadius = mix(from.cornerRadius, to.cornerRadius),
+      .shadowOpacity = mix(from.shadowOpacity, to.shadowOpacity),
+      .shadowOffset = size(from.shadowOffset, to.shadowOffset),
+      .curl = mix(from.curl, to.curl),
+      .layout = mix(from.layout, to.layout)};
 }
 
 UIView::~UIView() = default;
@@ -44,11 +45,19 @@ void UIView::setState(const UIViewState& state) {
   if (state_ == state && presentation_ == state) return;
   UIViewAnimationBlock* block = UIViewAnimationBlock::current();
   if (block != nullptr) block->willChange(shared_from_this());
+  const bool resized = state_.frame.size != state.frame.size;
   state_ = state;
   ++stateRevision_;
   if (block == nullptr) presentation_ = state;
   updateShown();
   changed();
+  if (resized) resizeSubviews();
+}
+
+void UIView::resizeSubviews() {
+  for (const auto& view : subviews_) {
+    if (view->fillsSuperview_) view->setFrame(bounds());
+  }
 }
 
 void UIView::updateShown() {
@@ -80,6 +89,7 @@ void UIView::reportFrame(CGRect frame) {
   state_.frame = frame;
   presentation_.frame = frame;
   updateShown();
+  resizeSubviews();
 }
 
 CGPoint UIView::originInWindow() const {
@@ -149,6 +159,29 @@ void UIView::setShouldRasterize(bool on, double scale) {
 void UIView::setShadowPathRadius(double radius) {
   shadowPathRadius_ = radius;
   changed();
+}
+
+void UIView::setHidden(bool hidden) {
+  if (hidden_ == hidden) return;
+  hidden_ = hidden;
+  changed();
+}
+
+void UIView::setLayerAnimation(std::string_view key,
+                               std::shared_ptr<UIViewLayerAnimation> animation) {
+  // The earlier one goes last, since its end may be heard by somebody who asks about this view.
+  const auto found = layerAnimations_.find(key);
+  std::shared_ptr<UIViewLayerAnimation> earlier;
+  if (found != layerAnimations_.end()) {
+    earlier = std::move(found->second);
+    layerAnimations_.erase(found);
+  }
+  if (animation) layerAnimations_.emplace(key, std::move(animation));
+}
+
+std::shared_ptr<UIViewLayerAnimation> UIView::layerAnimation(std::string_view key) const {
+  const auto found = layerAnimations_.find(key);
+  return found != layerAnimations_.end() ? found->second : nullptr;
 }
 
 void UIView::setUserInteractionEnabled(bool enabled) {
@@ -226,7 +259,7 @@ UIView::Subscription UIView::observe(Observer observer) {
 bool hasCoveringSubview(const UIView& view) {
   return std::ranges::any_of(view.subviews(), [&](const auto& subview) {
     return subview->isMadeInCode() && subview->isUserInteractionEnabled() &&
-           subview->frame() == view.bounds();
+           subview->fillsSuperview();
   });
 }
 

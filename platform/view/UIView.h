@@ -16,6 +16,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/CATransform3D.h"
 #include "platform/Geometry.h"
 #include "platform/UIColor.h"
 #include "platform/view/NSLayoutConstraint.h"
@@ -40,7 +41,8 @@ struct UIViewState {
 /// What a keyframe animation shows in place of the state while it is attached.
 struct UIViewKeyframeValues {
   std::optional<double> opacity;
-  std::optional<CGPoint> position;  ///< of the centre, in the superview's space
+  std::optional<CGPoint> position;         ///< of the centre, in the superview's space
+  std::optional<CATransform3D> transform;  ///< about the centre
   friend constexpr bool operator==(const UIViewKeyframeValues&,
                                    const UIViewKeyframeValues&) = default;
 };
@@ -48,6 +50,12 @@ struct UIViewKeyframeValues {
 /// The state between two states, at fraction 0 the first and at 1 the second, not clamped.
 [[nodiscard]] UIViewState interpolated(const UIViewState& from, const UIViewState& to,
                                        double fraction);
+
+/// An animation that plays on a view for as long as the view keeps it.
+class UIViewLayerAnimation {
+ public:
+  virtual ~UIViewLayerAnimation() = default;
+};
 
 class UIView : public std::enable_shared_from_this<UIView> {
  public:
@@ -81,6 +89,14 @@ class UIView : public std::enable_shared_from_this<UIView> {
   [[nodiscard]] const UIViewKeyframeValues& keyframeValues() const { return keyframes_; }
   void setKeyframeValues(const UIViewKeyframeValues& values);
 
+  /// Not drawn, pressed or read aloud while it is hidden.
+  [[nodiscard]] bool isHidden() const { return hidden_; }
+  void setHidden(bool hidden);
+
+  /// Keeps the animation under the key, in place of an earlier one of that key; null keeps none.
+  void setLayerAnimation(std::string_view key, std::shared_ptr<UIViewLayerAnimation> animation);
+  [[nodiscard]] std::shared_ptr<UIViewLayerAnimation> layerAnimation(std::string_view key) const;
+
   /// Drawn through a bitmap at rasterizationScale pixels a point, for shadows that are dear to
   /// draw.
   [[nodiscard]] bool shouldRasterize() const { return shouldRasterize_; }
@@ -109,6 +125,10 @@ class UIView : public std::enable_shared_from_this<UIView> {
   /// The place that an item gave to a view which a storyboard lays out. Not animated; nobody is
   /// told.
   void reportFrame(CGRect frame);
+
+  /// Follows the superview's size, from the next change of it on.
+  [[nodiscard]] bool fillsSuperview() const { return fillsSuperview_; }
+  void setFillsSuperview(bool fills) { fillsSuperview_ = fills; }
 
   /// Where the view's origin lies in the window: asked of whoever draws it, else the sum of the
   /// frames' origins.
@@ -163,6 +183,7 @@ class UIView : public std::enable_shared_from_this<UIView> {
  private:
   void constraintsChanged();
   void updateShown();
+  void resizeSubviews();
   template <typename Change>
   void animatable(Change change);
 
@@ -171,12 +192,15 @@ class UIView : public std::enable_shared_from_this<UIView> {
   UIViewState presentation_;  // without keyframes
   UIViewState shown_;
   UIViewKeyframeValues keyframes_;
+  std::map<std::string, std::shared_ptr<UIViewLayerAnimation>, std::less<>> layerAnimations_;
   std::uint64_t stateRevision_ = 0;
   bool shouldRasterize_ = false;
   double rasterizationScale_ = 1;
   double shadowPathRadius_ = -1;
   bool userInteractionEnabled_ = true;
+  bool hidden_ = false;
   bool clipsToBounds_ = false;
+  bool fillsSuperview_ = false;
   std::weak_ptr<UIView> superview_;
   bool removed_ = false;
   std::vector<std::shared_ptr<UIView>> subviews_;

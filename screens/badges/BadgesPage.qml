@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
+import Kindora.Effects
 import Kindora.Platform
 import Kindora.Screens
 
-// The badge shelf, empty as yet.
+// The badge shelf.
 Rectangle {
     id: root
 
@@ -12,25 +13,47 @@ Rectangle {
 
     color: Qt.rgba(0.96, 0.96, 0.96, 1)
 
-    Column {
+    onWidthChanged: root.controller.viewWillLayoutSubviews()
+
+    CollectionGrid {
+        objectName: "badgesGrid"
+        anchors.fill: parent
+        focus: true
+        collectionView: root.controller.collectionView
+        Accessible.name: root.controller.title
+        prototype: Component {
+            BadgeCell {}
+        }
+    }
+
+    ViewItem {
+        id: empty
+        owner: root.controller
+        outlet: "emptyLabel"
         anchors.centerIn: parent
         width: parent.width - 64
-        spacing: 24
+        height: shelf.height
 
-        PictureItem {
-            width: 240
-            height: 180
-            anchors.horizontalCenter: parent.horizontalCenter
-            imageName: "emptyBadges"
-        }
-
-        PlainText {
+        Column {
+            id: shelf
             width: parent.width
-            text: "No badges yet.\nComplete or create a challenge to earn one!"
-            color: Qt.rgba(0.45, 0.45, 0.45, 1)
-            wrapMode: Text.Wrap
-            lineHeight: 1.2
-            horizontalAlignment: Text.AlignHCenter
+            spacing: 24
+
+            PictureItem {
+                width: 240
+                height: 180
+                anchors.horizontalCenter: parent.horizontalCenter
+                imageName: "emptyBadges"
+            }
+
+            PlainText {
+                width: parent.width
+                text: empty.text
+                color: Qt.rgba(0.45, 0.45, 0.45, 1)
+                wrapMode: Text.Wrap
+                lineHeight: 1.2
+                horizontalAlignment: Text.AlignHCenter
+            }
         }
     }
 }

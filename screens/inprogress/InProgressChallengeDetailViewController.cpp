@@ -2,9 +2,33 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 
+#include "app/MedalFlight.h"
+#include "app/RunAfterDelay.h"
+#include "app/shell/RejectAlert.h"
+#include "effects/qt/LayerAnimations.h"
+#include "model/ChallengeData.h"
 #include "platform/FatalError.h"
+#include "platform/Services.h"
+#include "platform/qt/toolkit/UINavigationController.h"
+#include "platform/qt/toolkit/UITabBarController.h"
+#include "screens/SegueIdentifiers.h"
+#include "screens/shared/PassOnFromBadges.h"
 
 namespace kindora {
+namespace {
+
+constexpr std::string_view kCompleteButton = "completeButton";
+constexpr int kBadgesTab = 1;
+constexpr double kCardRadius = 20;  // points
+constexpr double kMedalSide = 80;
+constexpr double kPeakAboveStart = 100;
+constexpr double kFlightSetUpSeconds = 0.75;
+constexpr double kStampScale = 1.5;
+constexpr double kStampSeconds = 0.2;
+constexpr double kStampDelay = 0.5;
+constexpr double kAlertDelay = 0.5;
+
+}  // namespace
 
 void InProgressChallengeDetailViewController::connectOutlets() {
   UIView& root = *view();
@@ -13,6 +37,10 @@ void InProgressChallengeDetailViewController::connectOutlets() {
   connectOutlet(imageView, "imageView", root);
   connectOutlet(challengeNameLabel, "challengeNameLabel", root);
   connectOutlet(challengeDescriptionLabel, "challengeDescriptionLabel", root);
+  std::weak_ptr<UIButton> completeButton;
+  connectOutlet(completeButton, kCompleteButton, root)->setTitle("Complete");
+  navigationItem()->setRightBarButtonItem(std::make_shared<UIBarButtonItem>(
+      QStringLiteral("Delete"), QStringLiteral("bin"), [this] { deleteChallenge(); }));
 }
 
 void InProgressChallengeDetailViewController::viewDidLoad() {
@@ -27,6 +55,158 @@ void InProgressChallengeDetailViewController::viewDidLoad() {
       ->setText(sender != nullptr ? sender->name + " sent you this challenge."
                                   : "Someone sent you this challenge.");
   setTitle(QString::fromStdString(challenge->title.value_or("")));
+}
+
+void InProgressChallengeDetailViewController::viewWillDisappear(bool animated) {
+  if (frozen_) tabs().tabBar()->setUserInteractionEnabled(true);
+  frozen_ = false;
+  UIViewController::viewWillDisappear(animated);
+}
+
+UITabBarController& InProgressChallengeDetailViewController::tabs() const {
+  UITabBarController* controller = tabBarController();
+  if (controller == nullptr) fatalError("the screen is in no tab");
+  return *controller;
+}
+
+// --- The ceremony ---
+
+void InProgressChallengeDetailViewController::completePressed() {
+  completeChallenge(dynamic_cast<UIButton&>(*outlet(kCompleteButton)));
+}
+
+void InProgressChallengeDetailViewController::completeChallenge(UIButton& button) {
+  ChallengeData::sharedInstance().completeChallenge(challenge);
+  freezeNavigation();
+  button.setEnabled(false);
+  button.setAlpha(0.5);
+  button.imageView().setContentMode(UIViewContentMode::scaleAspectFit);
+  const UIImageRef checkmark = services().bundle->imageNamed("checkmark");
+  button.setImage(checkmark
+                      ? checkmark->imageWithRenderingMode(UIImageRenderingMode::alwaysTemplate)
+                      : nullptr);
+  button.setTitle("");
+  insertMedal();
+  animateWithDuration(
+      {.duration = kFlightSetUpSeconds}, [this] { launchMedal(); },
+      guarded([this] { dropStamp(); }));
+}
+
+void InProgressChallengeDetailViewController::freezeNavigation() {
+  frozen_ = true;
+  tabs().tabBar()->setUserInteractionEnabled(false);
+  navigationItem()->setHidesBackButton(true);
+  if (UINavigationController* navigation = navigationController()) {
+    navigation->navigationBar()->setNeedsLayout();
+  }
+  navigationItem()->setRightBarButtonItem(nullptr);
+}
+
+void InProgressChallengeDetailViewController::insertMedal() {
+  const auto card = connected(imageView);
+  const auto medal = std::make_shared<UIView>();
+  medal->setFrame(card->frame());
+  medal->setCornerRadius(kCardRadius);
+  medal->setShadowOpacity(0);
+  medal->setShadowOffset({0, 3});
+  medal->setUserInteractionEnabled(false);
+
+  const auto picture = std::make_shared<UIImageView>();
+  picture->setImage(card->image());
+  picture->setFillsSuperview(true);
+  picture->setFrame(medal->bounds());
+  picture->setCornerRadius(kCardRadius);
+  picture->setClipsToBounds(true);
+  picture->setBackgroundColor({0.88, 0.88, 0.88, 1});  // shows when there is no picture
+  medal->addSubview(picture);
+  view()->insertSubviewAbove(medal, card.get());
+  medalAnimationView = medal;
+}
+
+void InProgressChallengeDetailViewController::launchMedal() {
+  UIView& medal = *medalAnimationView;
+  for (const auto& round : {medalAnimationView, medal.subviews().front()}) {
+    round->setCornerRadius(kMedalSide / 2);
+  }
+  medal.setShadowOpacity(0.5);
+  medal.setFrame(rectAround(connected(imageView)->center(), {kMedalSide, kMedalSide}));
+  const UITabBar& bar = *tabs().tabBar();
+  const CGPoint end =
+      view()->convertPoint(medalDestination(frameForTabInTabBar(bar, kBadgesTab)), bar.view());
+  const CGPoint start = medal.center();
+  addAnimation(medalAnimationView, *animationForFlyFromPoint(start, end, start.y - kPeakAboveStart),
+               "position");
+}
+
+CGRect InProgressChallengeDetailViewController::frameForTabInTabBar(const UITabBar& tabBar,
+                                                                    int index) const {
+  return kindora::frameForTabInTabBar(tabBar.view(), index);
+}
+
+std::shared_ptr<UIBezierPath> InProgressChallengeDetailViewController::bezierPathForFlyFromPoint(
+    CGPoint from, CGPoint to, double peakHeight) const {
+  return kindora::bezierPathForFlyFromPoint(from, to, peakHeight);
+}
+
+std::shared_ptr<CAKeyframeAnimation>
+InProgressChallengeDetailViewController::animationForFlyFromPoint(CGPoint from, CGPoint to,
+                                                                  double peakHeight) {
+  auto animation = kindora::animationForFlyFromPoint(from, to, peakHeight);
+  animation->setDelegate(
+      std::static_pointer_cast<InProgressChallengeDetailViewController>(shared_from_this()));
+  return animation;
+}
+
+void InProgressChallengeDetailViewController::animationDidStop(CAKeyframeAnimation& /*animation*/,
+                                                               bool /*finished*/) {
+  if (medalAnimationView) medalAnimationView->removeFromSuperview();
+  medalAnimationView = nullptr;
+  const auto& controllers = tabs().viewControllers();
+  if (controllers.size() <= kBadgesTab) return;
+  UITabBarItem& badges = *controllers[kBadgesTab]->tabBarItem();
+  const std::string value = badges.badgeValue().toStdString();
+  badges.setBadgeValue(QString::fromStdString(raisedBadgeValue(value)));
+}
+
+void InProgressChallengeDetailViewController::dropStamp() {
+  const auto stamp = std::make_shared<UIImageView>();
+  stamp->setImage(services().bundle->imageNamed("completed"));
+  stamp->setContentMode(UIViewContentMode::scaleAspectFit);
+  stamp->setFrame(connected(imageView)->frame());
+  stamp->setScaling(kStampScale);
+  stamp->setAlpha(0);
+  view()->addSubview(stamp);
+  animateWithDuration(
+      {.duration = kStampSeconds, .delay = kStampDelay, .curve = UIViewAnimationCurve::easeIn},
+      [&stamp] {
+        stamp->setScaling(1);
+        stamp->setAlpha(1);
+      },
+      guarded([this] { askToPassOn(); }));
+}
+
+void InProgressChallengeDetailViewController::askToPassOn() {
+  const auto alert = makeViewController<UIAlertController>(
+      "Congrats!", "Would you like to pass this challenge on to a friend?",
+      UIAlertControllerStyle::alert);
+  alert->addAction({"Later", UIAlertActionStyle::cancel,
+                    guarded([this] { performSegueWithIdentifier(kUnwind); })});
+  alert->addAction({"Kindora!", UIAlertActionStyle::normal, guarded([this] {
+                      passOnFromBadges(challenge);
+                      performSegueWithIdentifier(kUnwind);
+                    })});
+  runAfterDelay(kAlertDelay, *services().mainQueue,
+                guarded([this, alert] { presentViewController(alert, true); }));
+}
+
+// --- Deleting ---
+
+void InProgressChallengeDetailViewController::deleteChallenge() {
+  presentViewController(rejectAlertForChallenge(*challenge, guarded([this] {
+                          ChallengeData::sharedInstance().removeInProgressChallenge(challenge);
+                          performSegueWithIdentifier(kUnwind);
+                        })),
+                        true);
 }
 
 }  // namespace kindora

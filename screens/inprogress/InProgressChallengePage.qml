@@ -10,7 +10,7 @@ Rectangle {
 
     required property InProgressChallengeDetailViewController controller
 
-    readonly property real side: Math.max(140, Math.min(width - 48, 320, height - 256))
+    readonly property real side: Math.max(140, Math.min(width - 48, 320, height - 300))
 
     color: Qt.rgba(0.96, 0.96, 0.96, 1)
 
@@ -63,5 +63,35 @@ Rectangle {
         x: 24
         width: root.width - 48
         color: Qt.rgba(0.45, 0.45, 0.45, 1)
+    }
+
+    ViewItem {
+        id: complete
+        owner: root.controller
+        outlet: "completeButton"
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 24
+        width: Math.max(root.side, 272)
+        height: 50
+
+        PillButton {
+            objectName: "completeButton"
+            anchors.fill: parent
+            // The finished mark is drawn in the tint, which does not show on itself.
+            filled: complete.text !== ""
+            text: complete.text
+            picture: complete.image
+            pictureTint: complete.imageTint
+            Accessible.name: complete.text !== "" ? complete.text : qsTr("Completed")
+            onClicked: root.controller.completePressed()
+        }
+    }
+
+    // The medal and the stamp.
+    SubviewsItem {
+        owner: root.controller
+        outlet: "view"
+        anchors.fill: parent
     }
 }

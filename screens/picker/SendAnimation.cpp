@@ -34,6 +34,7 @@ void SendAnimation::run(const std::shared_ptr<UIView>& over, const UIImageRef& p
 void SendAnimation::build(UIView& over, const UIImageRef& picture) {
   overlay_ = std::make_shared<UIView>();
   overlay_->setFrame(over.bounds());
+  overlay_->setFillsSuperview(true);
   overlay_->setBackgroundColor(UIColor::blackColor().colorWithAlphaComponent(0));
 
   card_ = std::make_shared<UIView>();
@@ -91,7 +92,10 @@ void SendAnimation::pack() {
 
 void SendAnimation::gatherWay() {
   animateWithDuration(
-      {.duration = 0.2}, [this] { card_->setTranslation({0, kWindUp}); },
+      {.duration = 0.2},
+      [this] {
+        card_->setTranslation({0, kWindUp});
+      },
       [self = shared_from_this()] { self->flyAway(); });
 }
 

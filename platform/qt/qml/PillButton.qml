@@ -9,6 +9,9 @@ T.Button {
     id: root
 
     property bool filled: true
+    // Stands in the middle, for a button without text.
+    property alias picture: glyph.image
+    property alias pictureTint: glyph.tint
     property color textColor: root.filled ? "white" : Appearance.tint
 
     implicitHeight: 50
@@ -43,14 +46,27 @@ T.Button {
         }
     }
 
-    contentItem: PlainText {
-        id: label
-        text: root.text
-        Accessible.ignored: true
-        font: Appearance.boldFont(17)
-        color: root.textColor
-        horizontalAlignment: Text.AlignHCenter
-        verticalAlignment: Text.AlignVCenter
+    contentItem: Item {
+        implicitWidth: label.implicitWidth
+
+        PlainText {
+            id: label
+            anchors.fill: parent
+            text: root.text
+            Accessible.ignored: true
+            font: Appearance.boldFont(17)
+            color: root.textColor
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+        }
+
+        PictureItem {
+            id: glyph
+            anchors.centerIn: parent
+            width: 28
+            height: 28
+            fits: true
+        }
     }
 
     Behavior on scale {

@@ -30,10 +30,13 @@ CodeViewItem::~CodeViewItem() = default;
 
 void CodeViewItem::viewDidChange() {
   const UIViewState& shown = view_->presentation();
-  setPosition({shown.frame.origin.x + shown.translation.x, shown.frame.origin.y + shown.translation.y});
+  setPosition(
+      {shown.frame.origin.x + shown.translation.x, shown.frame.origin.y + shown.translation.y});
   setSize({shown.frame.size.width, shown.frame.size.height});
   setOpacity(shown.alpha);
   setScale(shown.scaling);
+  setVisible(!view_->isHidden());
+  keyframeTransform_.set(view_->keyframeValues().transform, *this);
   const bool blocks = view_->isUserInteractionEnabled();
   setAcceptedMouseButtons(blocks ? Qt::AllButtons : Qt::NoButton);
   setAcceptTouchEvents(blocks);

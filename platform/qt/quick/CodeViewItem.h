@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+#include "platform/qt/quick/KeyframeTransform.h"
 #include "platform/view/UIImageView.h"
 #include "platform/view/UIView.h"
 
@@ -44,6 +45,7 @@ class CodeViewItem final : public QQuickItem {
   PageCurlItem* curl_ = nullptr;
   std::vector<std::unique_ptr<CodeViewItem>> drawn_;
   UIView::Subscription subscription_;
+  KeyframeTransform keyframeTransform_;
 };
 
 /// Makes the items show the subviews made in code, lowest first; items of views that stay are kept.

@@ -64,6 +64,7 @@ void ViewItem::viewDidChange() {
   if (view_) {
     setOpacity(view_->presentation().alpha);
     setScale(view_->presentation().scaling);
+    keyframeTransform_.set(view_->keyframeValues().transform, *this);
     const auto* control = dynamic_cast<const UIControl*>(view_.get());
     setEnabled(view_->isUserInteractionEnabled() && (control == nullptr || control->isEnabled()));
   }
@@ -123,7 +124,7 @@ const UIImageView* ViewItem::imageView() const {
 }
 
 bool ViewItem::isShown() const {
-  return view_ && !view_->isRemoved() && view_->presentation().alpha > 0;
+  return view_ && !view_->isRemoved() && !view_->isHidden() && view_->presentation().alpha > 0;
 }
 
 double ViewItem::shadowOpacity() const { return view_ ? view_->presentation().shadowOpacity : 0; }

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "platform/qt/quick/ImageHandle.h"
+#include "platform/qt/quick/KeyframeTransform.h"
 #include "platform/view/UIView.h"
 
 namespace kindora {
@@ -86,6 +87,7 @@ class ViewItem : public QQuickItem {
   QString outlet_;
   std::shared_ptr<UIView> view_;
   UIView::Subscription subscription_;
+  KeyframeTransform keyframeTransform_;
 };
 
 }  // namespace kindora

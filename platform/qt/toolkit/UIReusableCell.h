@@ -28,7 +28,7 @@ class UIReusableCell : public QObject, public OutletOwner {
 
   /// Called once, when the outlets have been connected.
   virtual void awakeFromNib() {}
-  virtual void setHighlighted(bool highlighted, bool animated);
+  Q_INVOKABLE virtual void setHighlighted(bool highlighted, bool animated);
   [[nodiscard]] bool isHighlighted() const { return highlighted_; }
 
  signals:

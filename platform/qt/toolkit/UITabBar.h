@@ -32,7 +32,7 @@ class UITabBarItem : public QObject {
   [[nodiscard]] const QString& title() const { return title_; }
   [[nodiscard]] const QString& imageName() const { return imageName_; }
   void setTitleAndImage(const QString& title, const QString& imageName);
-  /// A null text is no badge.
+  /// A null text is no badge; an empty one neither shows.
   [[nodiscard]] const QString& badgeValue() const { return badgeValue_; }
   void setBadgeValue(const QString& value);
 

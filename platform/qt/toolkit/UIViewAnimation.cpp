@@ -15,7 +15,11 @@
 namespace kindora {
 namespace {
 
-int milliseconds(double seconds) { return static_cast<int>(std::lround(seconds * 1000)); }
+// Clamped, since an animation may be meant never to end.
+int milliseconds(double seconds) {
+  constexpr double kMost = 1e9;
+  return static_cast<int>(std::lround(std::min(seconds * 1000, kMost)));
+}
 
 // The phone's timing curves as cubic Bézier control points.
 QEasingCurve easing(UIViewAnimationCurve curve) {
@@ -43,9 +47,8 @@ std::function<double(double)> pace(const UIViewAnimationTiming& timing) {
       return springProgress(spring, length, fraction * length);
     };
   }
-  return [curve = easing(timing.curve)](double fraction) {
-    return curve.valueForProgress(fraction);
-  };
+  return
+      [curve = easing(timing.curve)](double fraction) { return curve.valueForProgress(fraction); };
 }
 
 // Delay and way in one animation, so that both are measured by the same clock.

@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "effects/qt/LayerAnimations.h"
+
+#include <string>
+#include <utility>
+
+#include "effects/keyframes/KeyframePlayback.h"
+#include "platform/qt/toolkit/UIViewAnimation.h"
+
+namespace kindora {
+namespace {
+
+class Playing final : public UIViewLayerAnimation {
+ public:
+  Playing(const std::shared_ptr<UIView>& view, std::shared_ptr<CAKeyframeAnimation> animation,
+          std::string_view key)
+      : view_(view),
+        animation_(std::move(animation)),
+        key_(key),
+        property_(animation_->keyPath().value_or(key_)),
+        playback_(*animation_) {}
+
+  ~Playing() override {
+    show({});
+    tellDelegate(false);
+  }
+  Playing(const Playing&) = delete;
+  Playing& operator=(const Playing&) = delete;
+
+  void start() {
+    show(playback_.valueAt(0));
+    const double length = playback_.length();
+    clock_ = ProgressAnimation(
+        {.duration = length, .curve = UIViewAnimationCurve::linear},
+        [this, length](double fraction) { show(playback_.valueAt(fraction * length)); },
+        [this] { finish(); });
+  }
+
+ private:
+  void show(const NSValue& value) {
+    const std::shared_ptr<UIView> view = view_.lock();
+    if (!view) return;
+    UIViewKeyframeValues values = view->keyframeValues();
+    if (property_ == "opacity") {
+      values.opacity = value.isNumber() ? std::optional(value.doubleValue()) : std::nullopt;
+    } else if (property_ == "position") {
+      values.position =
+          value.objCType() == kCGPointEncoding ? std::optional(value.CGPointValue()) : std::nullopt;
+    } else if (property_ == "transform") {
+      values.transform = value.objCType() == kCATransform3DEncoding
+                             ? std::optional(value.CATransform3DValue())
+                             : std::nullopt;
+    }
+    view->setKeyframeValues(values);
+  }
+
+  void finish() {
+    const std::shared_ptr<UIView> view = view_.lock();
+    // Keeps this alive, should the view let go of it here.
+    const std::shared_ptr<UIViewLayerAnimation> self = view ? view->layerAnimation(key_) : nullptr;
+    if (self.get() == this && animation_->isRemovedOnCompletion()) {
+      view->setLayerAnimation(key_, nullptr);
+      show({});
+    }
+    tellDelegate(true);
+  }
+
+  void tellDelegate(bool finished) {
+    if (std::exchange(told_, true)) return;
+    if (const auto delegate = animation_->delegate()) {
+      delegate->animationDidStop(*animation_, finished);
+    }
+  }
+
+  std::weak_ptr<UIView> view_;
+  std::shared_ptr<CAKeyframeAnimation> animation_;
+  std::string key_;
+  std::string property_;
+  KeyframePlayback playback_;
+  ProgressAnimation clock_;
+  bool told_ = false;
+};
+
+}  // namespace
+
+void addAnimation(const std::shared_ptr<UIView>& view, const CAKeyframeAnimation& animation,
+                  std::string_view key) {
+  const auto playing = std::make_shared<Playing>(view, animation.copy(), key);
+  view->setLayerAnimation(key, playing);
+  playing->start();
+}
+
+void removeAnimationForKey(UIView& view, std::string_view key) {
+  view.setLayerAnimation(key, nullptr);
+}
+
+}  // namespace kindora

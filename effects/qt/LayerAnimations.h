@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "effects/keyframes/CAKeyframeAnimation.h"
+#include "platform/view/UIView.h"
+
+namespace kindora {
+
+/// Plays a copy of the animation on a view, on Qt's animation clock, in place of what plays there
+/// under the same key. It acts on the property that its key path names, else the key: "opacity" (a
+/// number), "position" (a point, of the centre) or "transform" (a matrix); values of another kind
+/// and other names show nothing. While it plays, the property's own value does not show; nor after
+/// its end when it stays and fills forwards.
+///
+/// The animation's delegate hears of its end exactly once: at the end, or unfinished when the
+/// animation is replaced or removed, or the view goes.
+void addAnimation(const std::shared_ptr<UIView>& view, const CAKeyframeAnimation& animation,
+                  std::string_view key);
+
+/// Takes away what plays, or stays, under the key.
+void removeAnimationForKey(UIView& view, std::string_view key);
+
+}  // namespace kindora

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "screens/badges/BadgeCollectionViewCell.h"
+
+#include "platform/UIImageColorOverlay.h"
+#include "platform/qt/quick/Screen.h"
+
+namespace kindora {
+namespace {
+
+constexpr double kCornerRadius = 16;      // points
+constexpr double kHighlightAlpha = 0.25;  // of the black that darkens a pressed picture
+constexpr UIColor kGray{0.5, 0.5, 0.5, 1};
+
+}  // namespace
+
+std::shared_ptr<BadgeCollectionViewCell> BadgeCollectionViewCell::fromPrototype() {
+  auto cell = std::make_shared<BadgeCollectionViewCell>();
+  const auto container =
+      connectOutlet(cell->imageContainerView, "imageContainerView", cell->contentView());
+  container->setShadowOffset({0, 3});
+  connectOutlet(cell->badgeImageView, "badgeImageView", *container);
+  connectOutlet(cell->badgeLabel, "badgeLabel", cell->contentView());
+  return cell;
+}
+
+void BadgeCollectionViewCell::awakeFromNib() {
+  UICollectionViewCell::awakeFromNib();
+  const auto container = connected(imageContainerView);
+  container->setShouldRasterize(true, mainScreenScale());
+  container->setShadowPathRadius(kCornerRadius);
+  setHighlighted(false, false);
+}
+
+void BadgeCollectionViewCell::setChallenge(const ChallengeRef& challenge) {
+  challenge_ = challenge;
+  connected(badgeLabel)->setText(challenge ? challenge->title : std::nullopt);
+  setHighlighted(isHighlighted(), false);
+}
+
+void BadgeCollectionViewCell::setHighlighted(bool highlighted, bool animated) {
+  UICollectionViewCell::setHighlighted(highlighted, animated);
+  const UIImageRef picture = challenge_ ? challenge_->challengeImage : nullptr;
+  connected(badgeImageView)
+      ->setImage(highlighted && picture
+                     ? imageWithColorOverlay(
+                           picture, UIColor::blackColor().colorWithAlphaComponent(kHighlightAlpha))
+                     : picture);
+  const auto container = connected(imageContainerView);
+  container->setShadowOpacity(highlighted ? 0.25 : 0.5);
+  container->setTranslation({0, highlighted ? 2.5 : 0});
+  connected(badgeLabel)->setTextColor(highlighted ? kGray : UIColor::blackColor());
+}
+
+}  // namespace kindora

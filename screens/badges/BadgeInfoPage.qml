@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Platform
+import Kindora.Screens
+
+// A badge's page: the stamped card, what the user did with it, and the way to pass it on.
+Rectangle {
+    id: root
+
+    required property BadgeInfoViewController controller
+
+    readonly property real side: Math.max(120, Math.min(width - 48, 220, height - 300))
+
+    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+
+    PictureCard {
+        id: picture
+        owner: root.controller
+        width: root.side
+        height: root.side
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 32
+
+        ShadowItem {
+            z: -1
+            anchors.fill: parent
+            anchors.topMargin: 3
+            anchors.bottomMargin: -3
+            radius: 20
+            blur: 8
+            opacity: 0.5
+        }
+    }
+
+    ViewItem {
+        id: stamp
+        owner: root.controller
+        outlet: "stampImageView"
+        anchors.fill: picture
+
+        PictureItem {
+            anchors.fill: parent
+            image: stamp.image
+            fits: stamp.imageFits
+        }
+    }
+
+    FadingLabel {
+        id: name
+        objectName: "challengeNameLabel"
+        owner: root.controller
+        outlet: objectName
+        anchors.top: picture.bottom
+        anchors.topMargin: 20
+        x: 24
+        width: root.width - 48
+        points: 24
+    }
+
+    FadingLabel {
+        id: description
+        objectName: "challengeDescriptionLabel"
+        owner: root.controller
+        outlet: objectName
+        anchors.top: name.bottom
+        anchors.topMargin: 8
+        x: 24
+        width: root.width - 48
+        color: Qt.rgba(0.45, 0.45, 0.45, 1)
+    }
+
+    FadingLabel {
+        objectName: "infoLabel"
+        owner: root.controller
+        outlet: objectName
+        anchors.top: description.bottom
+        anchors.topMargin: 24
+        x: 24
+        width: root.width - 48
+        points: 17
+        color: Appearance.tintedText
+    }
+
+    PillButton {
+        objectName: "kindoraButton"
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 24
+        width: 272
+        text: "Kindora!"
+        onClicked: root.controller.kindoraTapped()
+    }
+}
