@@ -3,14 +3,19 @@
 #pragma once
 
 #include <QColor>
+#include <algorithm>
 
 #include "platform/UIColor.h"
 
 namespace kindora {
 
+/// Components are clamped, since a spring may carry a colour beyond its range for a while.
 [[nodiscard]] inline QColor toQColor(const UIColor& color) {
-  return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
-                          static_cast<float>(color.blue), static_cast<float>(color.alpha));
+  const auto component = [](double value) {
+    return static_cast<float>(std::clamp(value, 0.0, 1.0));
+  };
+  return QColor::fromRgbF(component(color.red), component(color.green), component(color.blue),
+                          component(color.alpha));
 }
 
 }  // namespace kindora
