@@ -12,6 +12,8 @@ ListView {
     required property var prototypes
 
     model: root.controller.tableView
+    // A current row would take the focus from the search field whenever rows come or go.
+    currentIndex: -1
     clip: true
     boundsBehavior: Flickable.DragAndOvershootBounds
     cacheBuffer: 400
