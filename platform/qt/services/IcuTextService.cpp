@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "platform/qt/services/IcuTextService.h"
 
+#include <unicode/bytestream.h>
+#include <unicode/casemap.h>
 #include <unicode/coll.h>
 #include <unicode/locid.h>
 #include <unicode/unistr.h>
@@ -36,7 +38,9 @@ int IcuTextService::compare(std::string_view a, std::string_view b) const {
 
 std::string IcuTextService::caseFolded(std::string_view text) const {
   std::string result;
-  icu::UnicodeString::fromUTF8(piece(text)).foldCase().toUTF8String(result);
+  icu::StringByteSink<std::string> sink(&result, static_cast<std::int32_t>(text.size()));
+  UErrorCode status = U_ZERO_ERROR;
+  icu::CaseMap::utf8Fold(0, piece(text), sink, nullptr, status);
   return result;
 }
 
