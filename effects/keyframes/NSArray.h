@@ -39,6 +39,9 @@ class NSArray {
     std::size_t index_;
   };
 
+  using value_type = NSValue;
+  using const_iterator = Iterator;
+
   /// An array that holds the objects. An index past its end stops the program.
   [[nodiscard]] static NSArrayRef arrayWithObjects(std::vector<NSValue> objects);
 

@@ -11,11 +11,11 @@ class UICollectionViewDelegateFlowLayout;
 /// What a layout asks of the scrolling view that it lays out.
 ///
 /// In return the view
-/// - asks shouldInvalidateLayoutForBoundsChange before it takes new bounds, and invalidates when
-///   the answer is yes;
-/// - calls prepareLayout after each change of its bounds, and after each tick of the layout's
-///   animator that moved something;
-/// - invalidates the layout when its items or what its delegate says of them have changed.
+/// - asks shouldInvalidateLayoutForBoundsChange before it takes new bounds, and invalidates the
+///   layout when the answer is yes;
+/// - invalidates the layout when its items, or what its delegate says of them, have changed;
+/// - calls prepareLayout after each change of its bounds, after each invalidation, and after each
+///   tick of an animator that moved something.
 class UICollectionView {
  public:
   virtual ~UICollectionView() = default;
