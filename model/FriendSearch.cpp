@@ -40,9 +40,8 @@ std::vector<UserRef> usersWithNameContaining(const std::vector<UserRef>& users,
   const TextService& unicode = *services().text;
   const std::string folded = unicode.caseFolded(text);
   std::ranges::copy_if(users, std::back_inserter(found), [&](const UserRef& user) {
-    return isAscii(user->name)
-               ? asciiNameContains(user->name, folded)
-               : unicode.caseFolded(user->name).find(folded) != std::string::npos;
+    return isAscii(user->name) ? asciiNameContains(user->name, folded)
+                               : unicode.caseFolded(user->name).find(folded) != std::string::npos;
   });
   return found;
 }

@@ -14,17 +14,16 @@ double springProgress(const UISpring& spring, double duration, double seconds) {
   if (ratio < 1) {
     const double frequency = decay / ratio;
     const double damped = frequency * std::sqrt(1 - ratio * ratio);
-    return 1 - std::exp(-decay * seconds) *
-                   (std::cos(damped * seconds) +
-                    (decay - velocity) / damped * std::sin(damped * seconds));
+    return 1 -
+           std::exp(-decay * seconds) * (std::cos(damped * seconds) +
+                                         (decay - velocity) / damped * std::sin(damped * seconds));
   }
   if (ratio == 1) return 1 - std::exp(-decay * seconds) * (1 + (decay - velocity) * seconds);
   // The roots' product is the square of the frequency, so the fast one follows from the slow one.
   const double root = std::sqrt(ratio * ratio - 1);
   const double fast = decay * (ratio + root) / (ratio - root);
   const double slowShare = (fast - velocity) / (fast - decay);
-  return 1 - slowShare * std::exp(-decay * seconds) -
-         (1 - slowShare) * std::exp(-fast * seconds);
+  return 1 - slowShare * std::exp(-decay * seconds) - (1 - slowShare) * std::exp(-fast * seconds);
 }
 
 }  // namespace kindora

@@ -12,9 +12,9 @@
 #include "platform/qt/toolkit/UINavigationController.h"
 #include "screens/SegueIdentifiers.h"
 #include "screens/challenges/ChallengeTableViewCell.h"
-#include "screens/shared/PlaceholderTableViewCell.h"
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
+#include "screens/shared/PlaceholderTableViewCell.h"
 
 namespace kindora {
 namespace {

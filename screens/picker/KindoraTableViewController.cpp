@@ -137,8 +137,7 @@ void KindoraTableViewController::tableViewDidSelectRowAtIndexPath(IndexPath path
 void KindoraTableViewController::showCheckmark(const UserRef& user, bool chosen) {
   for (std::size_t row = 0; row < displayFriends.size(); ++row) {
     if (displayFriends[row] != user) continue;
-    const auto cell =
-        tableView()->cellForRowAtIndexPath({kFriendsSection, static_cast<int>(row)});
+    const auto cell = tableView()->cellForRowAtIndexPath({kFriendsSection, static_cast<int>(row)});
     if (cell) {
       cell->setAccessoryType(chosen ? UITableViewCellAccessoryType::checkmark
                                     : UITableViewCellAccessoryType::none);
@@ -148,11 +147,11 @@ void KindoraTableViewController::showCheckmark(const UserRef& user, bool chosen)
 
 void KindoraTableViewController::showNumberChosen() {
   const std::size_t number = chosenFriends.size();
-  setTitle(number == 0 ? QString::fromLatin1(kSelectFriends)
-                       : QStringLiteral("%1 %2 Selected")
-                             .arg(number)
-                             .arg(number == 1 ? QStringLiteral("Friend")
-                                              : QStringLiteral("Friends")));
+  setTitle(number == 0
+               ? QString::fromLatin1(kSelectFriends)
+               : QStringLiteral("%1 %2 Selected")
+                     .arg(number)
+                     .arg(number == 1 ? QStringLiteral("Friend") : QStringLiteral("Friends")));
   sendButton().setEnabled(number > 0);
 }
 

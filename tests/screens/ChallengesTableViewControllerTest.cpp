@@ -5,9 +5,9 @@
 #include "app/AppColors.h"
 #include "platform/qt/toolkit/UIApplication.h"
 #include "screens/challenges/ChallengeTableViewCell.h"
-#include "screens/shared/PlaceholderTableViewCell.h"
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
+#include "screens/shared/PlaceholderTableViewCell.h"
 #include "tests/support/AppFixture.h"
 #include "tests/support/TableReader.h"
 

@@ -53,10 +53,9 @@ QImage PageCurlItem::page(QSize pixels) {
       const double factor = std::max(pixels.width() / size.width, pixels.height() / size.height);
       const int width = std::max(1, static_cast<int>(std::lround(size.width * factor)));
       const int height = std::max(1, static_cast<int>(std::lround(size.height * factor)));
-      QPainter(&page_).drawImage(
-          (pixels.width() - width) / 2, (pixels.height() - height) / 2,
-          toQImage(image_->rendered(static_cast<std::size_t>(width),
-                                    static_cast<std::size_t>(height))));
+      QPainter(&page_).drawImage((pixels.width() - width) / 2, (pixels.height() - height) / 2,
+                                 toQImage(image_->rendered(static_cast<std::size_t>(width),
+                                                           static_cast<std::size_t>(height))));
     }
   }
   return page_;

@@ -6,9 +6,7 @@
 
 namespace kindora {
 
-UIReusableCell::UIReusableCell() {
-  QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
-}
+UIReusableCell::UIReusableCell() { QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership); }
 
 std::shared_ptr<UIView> UIReusableCell::outlet(std::string_view name) {
   return contentView_->viewWithName(name);

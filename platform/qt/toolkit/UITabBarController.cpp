@@ -50,9 +50,7 @@ std::vector<UIViewController*> UITabBarController::visibleChildren() const {
   return {selected().get()};
 }
 
-bool UITabBarController::goBack() {
-  return hasCoveringSubview(*view()) || selected()->goBack();
-}
+bool UITabBarController::goBack() { return hasCoveringSubview(*view()) || selected()->goBack(); }
 
 QUrl UITabBarController::page() const {
   return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Platform/TabHost.qml"));

@@ -164,9 +164,8 @@ void UITableView::deselectRowAtIndexPath(IndexPath path, bool /*animated*/) {
 }
 
 UITableViewCellRef UITableView::cellForRowAtIndexPath(IndexPath path) const {
-  const auto found = std::ranges::find_if(rows_, [path](const Row& row) {
-    return row.section == path.section && row.row == path.row;
-  });
+  const auto found = std::ranges::find_if(
+      rows_, [path](const Row& row) { return row.section == path.section && row.row == path.row; });
   return found != rows_.end() && path.row >= 0 ? found->cell : nullptr;
 }
 

@@ -60,8 +60,8 @@ class UITableView : public QAbstractListModel {
   QML_UNCREATABLE("owned by table view controllers")
   Q_PROPERTY(int editingRow READ editingRow NOTIFY editingRowChanged)
   Q_PROPERTY(bool animatesChanges READ animatesChanges NOTIFY animatesChangesChanged)
-  Q_PROPERTY(kindora::UISearchBar* tableHeaderView READ tableHeaderView NOTIFY
-                 tableHeaderViewChanged)
+  Q_PROPERTY(
+      kindora::UISearchBar* tableHeaderView READ tableHeaderView NOTIFY tableHeaderViewChanged)
 
  public:
   using CellMaker = CellPool<UITableViewCell>::Maker;
