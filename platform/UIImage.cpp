@@ -111,6 +111,12 @@ UIImageRef UIImage::imageWithSource(std::shared_ptr<const ImageSource> source, C
   return UIImageRef(new UIImage(std::nullopt, std::move(source), size, scale));
 }
 
+UIImageRef UIImage::imageWithRenderingMode(UIImageRenderingMode mode) const {
+  auto* image = new UIImage(raster_, source_, size_, scale_);
+  image->renderingMode_ = mode;
+  return UIImageRef(image);
+}
+
 const Raster& UIImage::raster() const {
   if (!raster_) {
     const CGSize pixels = pixelSize();

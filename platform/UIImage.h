@@ -25,6 +25,9 @@ class ImageSource {
   [[nodiscard]] virtual Raster render(std::size_t width, std::size_t height) const = 0;
 };
 
+/// A template lends its shape alone: it is drawn in the tint of whatever shows it.
+enum class UIImageRenderingMode { automatic, alwaysTemplate };
+
 class UIImage final {
  public:
   /// A picture of the raster's pixels; its size in points is the pixel size divided by the scale.
@@ -34,6 +37,10 @@ class UIImage final {
   /// A picture that the source draws; size in points.
   [[nodiscard]] static UIImageRef imageWithSource(std::shared_ptr<const ImageSource> source,
                                                   CGSize size, double scale);
+
+  /// Another picture of the same pixels or source, to be drawn in that mode.
+  [[nodiscard]] UIImageRef imageWithRenderingMode(UIImageRenderingMode mode) const;
+  [[nodiscard]] UIImageRenderingMode renderingMode() const { return renderingMode_; }
 
   UIImage(const UIImage&) = delete;
   UIImage& operator=(const UIImage&) = delete;
@@ -60,6 +67,7 @@ class UIImage final {
   std::shared_ptr<const ImageSource> source_;
   CGSize size_;
   double scale_;
+  UIImageRenderingMode renderingMode_ = UIImageRenderingMode::automatic;
 };
 
 /// A number of pixels rounded up to whole ones, forgiving the rounding of size times scale: a

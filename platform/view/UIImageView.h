@@ -2,10 +2,23 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <optional>
+
+#include "platform/UIColor.h"
 #include "platform/UIImage.h"
 #include "platform/view/UIView.h"
 
 namespace kindora {
+
+/// How an image lies in its view's bounds.
+enum class UIViewContentMode { scaleAspectFit, scaleAspectFill, center };
+
+/// A line along the inside of a view's bounds.
+struct UIViewBorder {
+  UIColor color = UIColor::blackColor();
+  double width = 0;  ///< points
+  friend constexpr bool operator==(const UIViewBorder&, const UIViewBorder&) = default;
+};
 
 /// A view that shows one image or none.
 class UIImageView : public UIView {
@@ -15,9 +28,26 @@ class UIImageView : public UIView {
 
   [[nodiscard]] const UIImageRef& image() const { return image_; }
   virtual void setImage(const UIImageRef& image);
+  [[nodiscard]] UIViewContentMode contentMode() const { return contentMode_; }
+  void setContentMode(UIViewContentMode mode);
+  /// What template images are drawn in; none is the window's tint.
+  [[nodiscard]] const std::optional<UIColor>& tintColor() const { return tintColor_; }
+  void setTintColor(const UIColor& color);
+  [[nodiscard]] const UIViewBorder& border() const { return border_; }
+  void setBorder(const UIViewBorder& border);
+  /// The image and the border end at the bounds, with the corner radius.
+  [[nodiscard]] bool clipsToBounds() const { return clipsToBounds_; }
+  void setClipsToBounds(bool clips);
 
  private:
+  template <typename Value>
+  void assign(Value& field, const Value& value);
+
   UIImageRef image_;
+  UIViewContentMode contentMode_ = UIViewContentMode::scaleAspectFill;
+  std::optional<UIColor> tintColor_;
+  UIViewBorder border_;
+  bool clipsToBounds_ = false;
 };
 
 }  // namespace kindora

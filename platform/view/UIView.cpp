@@ -85,6 +85,12 @@ void UIView::setUserInteractionEnabled(bool enabled) {
   changed();
 }
 
+bool UIView::endEditing(bool force) {
+  bool ended = resignFirstResponder();
+  for (const auto& view : subviews_) ended = view->endEditing(force) && ended;
+  return ended || force;
+}
+
 // Tells nobody: it comes from whoever draws the view.
 void UIView::setFrame(CGRect frame) { frame_ = frame; }
 
