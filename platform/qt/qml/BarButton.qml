@@ -13,7 +13,7 @@ T.Button {
     implicitWidth: Math.max(48, label.visible ? label.implicitWidth + 24 : 0)
     implicitHeight: 44
     focusPolicy: Qt.StrongFocus
-    opacity: root.pressed ? 0.5 : 1
+    opacity: !root.enabled ? 0.45 : root.pressed ? 0.5 : 1
     Accessible.name: root.text
 
     Keys.onReturnPressed: root.clicked()

@@ -8,6 +8,7 @@
 #include "platform/view/UIButton.h"
 #include "platform/view/UIImageView.h"
 #include "platform/view/UILabel.h"
+#include "platform/view/UITextInput.h"
 
 namespace kindora {
 
@@ -67,12 +68,17 @@ QString ViewItem::text() const {
   if (const auto* button = dynamic_cast<const UIButton*>(view_.get())) {
     return QString::fromStdString(button->title());
   }
+  if (const auto* input = dynamic_cast<const UITextInput*>(view_.get())) {
+    return QString::fromStdString(input->text());
+  }
   return {};
 }
 
 QColor ViewItem::textColor() const {
-  const auto* label = dynamic_cast<const UILabel*>(view_.get());
-  return label != nullptr && label->textColor() ? toQColor(*label->textColor()) : QColor();
+  std::optional<UIColor> color;
+  if (const auto* label = dynamic_cast<const UILabel*>(view_.get())) color = label->textColor();
+  if (const auto* input = dynamic_cast<const UITextInput*>(view_.get())) color = input->textColor();
+  return color ? toQColor(*color) : QColor();
 }
 
 bool ViewItem::isTextCentered() const {

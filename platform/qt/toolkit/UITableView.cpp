@@ -182,6 +182,11 @@ void UITableView::select(int row) {
   source_.tableViewDidSelectRowAtIndexPath(*selected_);
 }
 
+// A row shows no selection beyond its press, so that there is nothing to animate.
+void UITableView::deselectRowAtIndexPath(IndexPath path, bool /*animated*/) {
+  if (selected_ == path) selected_.reset();
+}
+
 void UITableView::setHighlighted(int row, bool highlighted) {
   Row* pressed = rowAt(row);
   if (pressed == nullptr || !pressed->highlights) return;

@@ -74,6 +74,7 @@ class UITableView : public QAbstractListModel {
   /// Opens nothing: with false it closes the row that was swiped open.
   void setEditing(bool editing, bool animated);
   [[nodiscard]] std::optional<IndexPath> indexPathForSelectedRow() const { return selected_; }
+  void deselectRowAtIndexPath(IndexPath path, bool animated);
 
   // --- What the user does; rows count over the whole list, headers included ---
   Q_INVOKABLE void select(int row);

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/qt/quick/ImageViewItem.h"
+
+#include "platform/qt/quick/Appearance.h"
+#include "platform/qt/quick/Colors.h"
+
+namespace kindora {
+
+const UIImageView* ImageViewItem::imageView() const {
+  return dynamic_cast<const UIImageView*>(view().get());
+}
+
+QColor ImageViewItem::tint() const {
+  const UIImageView* const shown = imageView();
+  if (shown == nullptr || !shown->image() ||
+      shown->image()->renderingMode() != UIImageRenderingMode::alwaysTemplate) {
+    return {};
+  }
+  return shown->tintColor() ? toQColor(*shown->tintColor()) : Appearance::tint();
+}
+
+bool ImageViewItem::fills() const {
+  return imageView() != nullptr && imageView()->contentMode() == UIViewContentMode::scaleAspectFill;
+}
+
+QColor ImageViewItem::borderColor() const {
+  return imageView() != nullptr ? toQColor(imageView()->border().color) : QColor();
+}
+
+double ImageViewItem::borderWidth() const {
+  return imageView() != nullptr ? imageView()->border().width : 0;
+}
+
+}  // namespace kindora
