@@ -8,6 +8,7 @@ namespace kindora {
 
 inline constexpr std::string_view kShowNewChallenge = "showNewChallenge";
 inline constexpr std::string_view kShowInProgressChallenge = "showInProgressChallenge";
+inline constexpr std::string_view kCreateChallenge = "createChallenge";
 inline constexpr std::string_view kUnwind = "unwind";
 
 }  // namespace kindora

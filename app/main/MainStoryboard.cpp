@@ -6,6 +6,7 @@
 #include "screens/SegueIdentifiers.h"
 #include "screens/badges/BadgesViewController.h"
 #include "screens/challenges/ChallengesTableViewController.h"
+#include "screens/create/CreateChallengeTableViewController.h"
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
 
@@ -16,6 +17,8 @@ constexpr const char* kChallenges = "ChallengesTableViewController";
 constexpr const char* kNewChallenge = "NewChallengeDetailViewController";
 constexpr const char* kInProgressChallenge = "InProgressChallengeDetailViewController";
 constexpr const char* kBadges = "BadgesViewController";
+constexpr const char* kCreateNavigation = "CreateChallengeNavigationController";
+constexpr const char* kCreate = "CreateChallengeTableViewController";
 
 QUrl page(const char* name) {
   return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Screens/%1.qml").arg(QLatin1String(name)));
@@ -24,6 +27,14 @@ QUrl page(const char* name) {
 template <typename Controller>
 UIViewControllerRef make() {
   return makeViewController<Controller>();
+}
+
+// A screen in a navigation controller of its own.
+std::function<UIViewControllerRef()> inNavigation(const char* scene) {
+  return [scene] {
+    return makeViewController<UINavigationController>(
+        mainStoryboard().instantiateViewController(scene));
+  };
 }
 
 template <typename Controller>
@@ -35,12 +46,15 @@ std::vector<UIStoryboardScene> scenes() {
   using Kind = UIStoryboardSegueKind;
   const UIStoryboardSegueTemplate backToList{std::string(kUnwind), Kind::unwind,
                                              std::string(kUnwind)};
+  const UIStoryboardSegueTemplate toCreate{std::string(kCreateChallenge), Kind::presentModally,
+                                           kCreateNavigation};
   return {
       {.identifier = kChallenges,
        .make = make<ChallengesTableViewController>,
        .page = page("ChallengesPage"),
        .segues = {{std::string(kShowNewChallenge), Kind::show, kNewChallenge},
-                  {std::string(kShowInProgressChallenge), Kind::show, kInProgressChallenge}},
+                  {std::string(kShowInProgressChallenge), Kind::show, kInProgressChallenge},
+                  toCreate},
        .unwindActions = {{std::string(kUnwind),
                           [](UIViewController& list, const UIStoryboardSegue& segue) {
                             dynamic_cast<ChallengesTableViewController&>(list).unwind(segue);
@@ -55,7 +69,15 @@ std::vector<UIStoryboardScene> scenes() {
        .connectOutlets = connectOutlets<InProgressChallengeDetailViewController>,
        .page = page("InProgressChallengePage"),
        .segues = {backToList}},
-      {.identifier = kBadges, .make = make<BadgesViewController>, .page = page("BadgesPage")},
+      {.identifier = kBadges,
+       .make = make<BadgesViewController>,
+       .page = page("BadgesPage"),
+       .segues = {toCreate}},
+      {.identifier = kCreateNavigation, .make = inNavigation(kCreate)},
+      {.identifier = kCreate,
+       .make = make<CreateChallengeTableViewController>,
+       .connectOutlets = connectOutlets<CreateChallengeTableViewController>,
+       .page = page("CreateChallengePage")},
   };
 }
 

@@ -13,6 +13,7 @@
 #include "screens/SegueIdentifiers.h"
 #include "screens/challenges/ChallengeTableViewCell.h"
 #include "screens/challenges/PlaceholderTableViewCell.h"
+#include "screens/create/CreateChallengeButton.h"
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
 
@@ -37,6 +38,7 @@ void ChallengesTableViewController::viewDidLoad() {
   if (UINavigationController* navigation = navigationController()) {
     navigation->setBackgroundColor(UIColor::whiteColor());
   }
+  navigationItem()->setRightBarButtonItem(createChallengeButton(*this));
   refreshDataWithReload(true, true);
 }
 
