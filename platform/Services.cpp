@@ -19,7 +19,7 @@ Services& slot() {
 
 void installServices(Services installed) {
   if (!installed.mainQueue || !installed.http || !installed.json || !installed.bundle ||
-      !installed.text || !installed.console) {
+      !installed.text || !installed.console || !installed.photos) {
     fatalError("a service is missing");
   }
   slot() = std::move(installed);

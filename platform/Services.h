@@ -9,6 +9,7 @@
 #include "platform/DispatchQueue.h"
 #include "platform/HttpSession.h"
 #include "platform/Json.h"
+#include "platform/PhotoService.h"
 #include "platform/ResourceBundle.h"
 #include "platform/TextService.h"
 
@@ -21,6 +22,7 @@ struct Services {
   std::shared_ptr<ResourceBundle> bundle;
   std::shared_ptr<TextService> text;
   std::shared_ptr<Console> console;
+  std::shared_ptr<PhotoService> photos;
 };
 
 /// Installs the services, all of which must be given. Once at launch, before any other thread runs;

@@ -25,10 +25,8 @@ class ImageSource {
   [[nodiscard]] virtual Raster render(std::size_t width, std::size_t height) const = 0;
 };
 
-enum class UIImageRenderingMode {
-  automatic,       ///< as it is
-  alwaysTemplate,  ///< its shape alone, in the tint colour of whoever shows it
-};
+/// A template lends its shape alone: it is drawn in the tint of whatever shows it.
+enum class UIImageRenderingMode { automatic, alwaysTemplate };
 
 class UIImage final {
  public:
@@ -40,7 +38,7 @@ class UIImage final {
   [[nodiscard]] static UIImageRef imageWithSource(std::shared_ptr<const ImageSource> source,
                                                   CGSize size, double scale);
 
-  /// The same picture, to be drawn in that mode.
+  /// Another picture of the same pixels or source, to be drawn in that mode.
   [[nodiscard]] UIImageRef imageWithRenderingMode(UIImageRenderingMode mode) const;
 
   UIImage(const UIImage&) = delete;

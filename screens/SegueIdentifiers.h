@@ -11,6 +11,7 @@ inline constexpr std::string_view kShowInProgressChallenge = "showInProgressChal
 inline constexpr std::string_view kShowBadgeDetail = "showBadgeDetail";
 inline constexpr std::string_view kKindora = "kindora";
 inline constexpr std::string_view kInviteFriend = "inviteFriend";
+inline constexpr std::string_view kCreateChallenge = "createChallenge";
 inline constexpr std::string_view kUnwind = "unwind";
 inline constexpr std::string_view kUnwindToKindora = "unwindToKindora";
 

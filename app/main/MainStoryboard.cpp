@@ -7,6 +7,7 @@
 #include "screens/badges/BadgeInfoViewController.h"
 #include "screens/badges/BadgesViewController.h"
 #include "screens/challenges/ChallengesTableViewController.h"
+#include "screens/create/CreateChallengeTableViewController.h"
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
 #include "screens/picker/KindoraTableViewController.h"
@@ -20,6 +21,8 @@ constexpr const char* kInProgressChallenge = "InProgressChallengeDetailViewContr
 constexpr const char* kBadges = "BadgesViewController";
 constexpr const char* kBadgeInfo = "BadgeInfoViewController";
 constexpr const char* kPicker = "KindoraTableViewController";
+constexpr const char* kCreateNavigation = "CreateChallengeNavigationController";
+constexpr const char* kCreate = "CreateChallengeTableViewController";
 
 QUrl page(const char* name) {
   return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Screens/%1.qml").arg(QLatin1String(name)));
@@ -28,6 +31,14 @@ QUrl page(const char* name) {
 template <typename Controller>
 UIViewControllerRef make() {
   return makeViewController<Controller>();
+}
+
+// A screen in a navigation controller of its own.
+std::function<UIViewControllerRef()> inNavigation(const char* scene) {
+  return [scene] {
+    return makeViewController<UINavigationController>(
+        mainStoryboard().instantiateViewController(scene));
+  };
 }
 
 template <typename Controller>
@@ -48,12 +59,15 @@ std::vector<UIStoryboardScene> scenes() {
   using Kind = UIStoryboardSegueKind;
   const UIStoryboardSegueTemplate backToList{std::string(kUnwind), Kind::unwind,
                                              std::string(kUnwind)};
+  const UIStoryboardSegueTemplate toCreate{std::string(kCreateChallenge), Kind::presentModally,
+                                           kCreateNavigation};
   return {
       {.identifier = kChallenges,
        .make = make<ChallengesTableViewController>,
        .page = page("ChallengesPage"),
        .segues = {{std::string(kShowNewChallenge), Kind::show, kNewChallenge},
-                  {std::string(kShowInProgressChallenge), Kind::show, kInProgressChallenge}},
+                  {std::string(kShowInProgressChallenge), Kind::show, kInProgressChallenge},
+                  toCreate},
        .unwindActions = {unwindAction(kUnwind, &ChallengesTableViewController::unwind)}},
       {.identifier = kNewChallenge,
        .make = make<NewChallengeDetailViewController>,
@@ -69,7 +83,7 @@ std::vector<UIStoryboardScene> scenes() {
        .make = make<BadgesViewController>,
        .connectOutlets = connectOutlets<BadgesViewController>,
        .page = page("BadgesPage"),
-       .segues = {{std::string(kShowBadgeDetail), Kind::show, kBadgeInfo}},
+       .segues = {{std::string(kShowBadgeDetail), Kind::show, kBadgeInfo}, toCreate},
        .unwindActions = {unwindAction("unwindToBadges", &BadgesViewController::unwindToBadges)}},
       {.identifier = kBadgeInfo,
        .make = make<BadgeInfoViewController>,
@@ -83,6 +97,11 @@ std::vector<UIStoryboardScene> scenes() {
        .page = page("KindoraPage"),
        .unwindActions = {unwindAction(kUnwindToKindora,
                                       &KindoraTableViewController::unwindToKindora)}},
+      {.identifier = kCreateNavigation, .make = inNavigation(kCreate)},
+      {.identifier = kCreate,
+       .make = make<CreateChallengeTableViewController>,
+       .connectOutlets = connectOutlets<CreateChallengeTableViewController>,
+       .page = page("CreateChallengePage")},
   };
 }
 

@@ -7,13 +7,15 @@
 namespace kindora {
 
 FakeServices installFakeServices() {
+  const auto mainQueue = std::make_shared<ManualQueue>();
   FakeServices fakes{
-      .mainQueue = std::make_shared<ManualQueue>(),
+      .mainQueue = mainQueue,
       .http = std::make_shared<FakeHttp>(),
       .json = std::make_shared<FakeJson>(),
       .bundle = std::make_shared<FakeBundle>(),
       .text = std::make_shared<FakeText>(),
       .console = std::make_shared<RecordingConsole>(),
+      .photos = std::make_shared<FakePhotos>(mainQueue),
   };
   installServices({
       .mainQueue = fakes.mainQueue,
@@ -22,6 +24,7 @@ FakeServices installFakeServices() {
       .bundle = fakes.bundle,
       .text = fakes.text,
       .console = fakes.console,
+      .photos = fakes.photos,
   });
   return fakes;
 }

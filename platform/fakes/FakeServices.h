@@ -7,6 +7,7 @@
 #include "platform/fakes/FakeBundle.h"
 #include "platform/fakes/FakeHttp.h"
 #include "platform/fakes/FakeJson.h"
+#include "platform/fakes/FakePhotos.h"
 #include "platform/fakes/FakeText.h"
 #include "platform/fakes/ManualQueue.h"
 #include "platform/fakes/RecordingConsole.h"
@@ -21,6 +22,7 @@ struct FakeServices {
   std::shared_ptr<FakeBundle> bundle;
   std::shared_ptr<FakeText> text;
   std::shared_ptr<RecordingConsole> console;
+  std::shared_ptr<FakePhotos> photos;
 };
 
 /// Installs fresh fakes for all services and returns them.

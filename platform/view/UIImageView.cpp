@@ -4,22 +4,19 @@
 
 namespace kindora {
 
-void UIImageView::setImage(const UIImageRef& image) {
-  if (image_ == image) return;
-  image_ = image;
+template <typename Value>
+void UIImageView::assign(Value& field, const Value& value) {
+  if (field == value) return;
+  field = value;
   changed();
 }
 
-void UIImageView::setContentMode(UIViewContentMode mode) {
-  if (contentMode_ == mode) return;
-  contentMode_ = mode;
-  changed();
-}
+void UIImageView::setImage(const UIImageRef& image) { assign(image_, image); }
 
-void UIImageView::setTintColor(const UIColor& color) {
-  if (tintColor_ == color) return;
-  tintColor_ = color;
-  changed();
-}
+void UIImageView::setContentMode(UIViewContentMode mode) { assign(contentMode_, mode); }
+
+void UIImageView::setTintColor(const UIColor& color) { assign(tintColor_, std::optional(color)); }
+
+void UIImageView::setBorder(const UIViewBorder& border) { assign(border_, border); }
 
 }  // namespace kindora

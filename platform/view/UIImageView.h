@@ -4,15 +4,20 @@
 
 #include <optional>
 
+#include "platform/UIColor.h"
 #include "platform/UIImage.h"
 #include "platform/view/UIView.h"
 
 namespace kindora {
 
-/// How a picture of one shape is shown in bounds of another.
-enum class UIViewContentMode {
-  scaleAspectFill,  ///< it covers the bounds, and what does not fit is cut off
-  scaleAspectFit,   ///< all of it, as large as the bounds allow
+/// How an image lies in its view's bounds.
+enum class UIViewContentMode { scaleAspectFit, scaleAspectFill, center };
+
+/// A line along the inside of a view's bounds.
+struct UIViewBorder {
+  UIColor color = UIColor::blackColor();
+  double width = 0;  ///< points
+  friend constexpr bool operator==(const UIViewBorder&, const UIViewBorder&) = default;
 };
 
 /// A view that shows one image or none.
@@ -25,14 +30,20 @@ class UIImageView : public UIView {
   virtual void setImage(const UIImageRef& image);
   [[nodiscard]] UIViewContentMode contentMode() const { return contentMode_; }
   void setContentMode(UIViewContentMode mode);
-  /// The colour of template images; the window's tint when none is set.
+  /// What template images are drawn in; none is the window's tint.
   [[nodiscard]] const std::optional<UIColor>& tintColor() const { return tintColor_; }
   void setTintColor(const UIColor& color);
+  [[nodiscard]] const UIViewBorder& border() const { return border_; }
+  void setBorder(const UIViewBorder& border);
 
  private:
+  template <typename Value>
+  void assign(Value& field, const Value& value);
+
   UIImageRef image_;
   UIViewContentMode contentMode_ = UIViewContentMode::scaleAspectFill;
   std::optional<UIColor> tintColor_;
+  UIViewBorder border_;
 };
 
 }  // namespace kindora

@@ -190,6 +190,12 @@ void UIView::setUserInteractionEnabled(bool enabled) {
   changed();
 }
 
+bool UIView::endEditing(bool force) {
+  bool ended = resignFirstResponder();
+  for (const auto& view : subviews_) ended = view->endEditing(force) && ended;
+  return ended || force;
+}
+
 void UIView::addSubview(const std::shared_ptr<UIView>& view) { insertSubviewAbove(view, nullptr); }
 
 void UIView::insertSubviewAbove(const std::shared_ptr<UIView>& view, const UIView* sibling) {

@@ -110,6 +110,11 @@ class UIView : public std::enable_shared_from_this<UIView> {
   [[nodiscard]] bool isUserInteractionEnabled() const { return userInteractionEnabled_; }
   void setUserInteractionEnabled(bool enabled);
 
+  /// Gives the keyboard up; true when it is not, or no longer, with this view.
+  virtual bool resignFirstResponder() { return true; }
+  /// Gives the keyboard up wherever in this view it is; true when that worked or force is set.
+  bool endEditing(bool force);
+
   /// Subviews are cut off at the bounds, with the corner radius.
   [[nodiscard]] bool clipsToBounds() const { return clipsToBounds_; }
   void setClipsToBounds(bool clips);

@@ -7,6 +7,7 @@
 #include "screens/SegueIdentifiers.h"
 #include "screens/badges/BadgeCollectionViewCell.h"
 #include "screens/badges/BadgeInfoViewController.h"
+#include "screens/create/CreateChallengeButton.h"
 #include "screens/picker/KindoraTableViewController.h"
 
 namespace kindora {
@@ -25,6 +26,7 @@ void BadgesViewController::connectOutlets() {
 
 void BadgesViewController::viewDidLoad() {
   UIViewController::viewDidLoad();
+  navigationItem()->setRightBarButtonItem(createChallengeButton(*this));
   dataSourceDelegate->parentVC = this;
   collectionView->setDataSource(dataSourceDelegate.get());
   collectionView->setDelegate(dataSourceDelegate.get());

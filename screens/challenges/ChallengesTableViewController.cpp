@@ -12,6 +12,7 @@
 #include "platform/qt/toolkit/UINavigationController.h"
 #include "screens/SegueIdentifiers.h"
 #include "screens/challenges/ChallengeTableViewCell.h"
+#include "screens/create/CreateChallengeButton.h"
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
 #include "screens/shared/PlaceholderTableViewCell.h"
@@ -37,6 +38,7 @@ void ChallengesTableViewController::viewDidLoad() {
   if (UINavigationController* navigation = navigationController()) {
     navigation->setBackgroundColor(UIColor::whiteColor());
   }
+  navigationItem()->setRightBarButtonItem(createChallengeButton(*this));
   refreshDataWithReload(true, true);
 }
 

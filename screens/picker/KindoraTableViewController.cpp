@@ -174,6 +174,7 @@ void KindoraTableViewController::didDismissSearchController(UISearchController& 
 void KindoraTableViewController::sendChallenge() { animateSendChallenge(); }
 
 void KindoraTableViewController::animateSendChallenge() {
+  view()->endEditing(true);
   searchController->searchBar()->resignFirstResponder();
   UITabBarController* tabs = tabBarController();
   if (tabs == nullptr) fatalError("the screen is in no tab");

@@ -17,7 +17,7 @@ TEST(ServicesDeathTest, AskingBeforeAnyAreInstalledStops) {
 
 TEST(ServicesDeathTest, InstallingWithOneMissingStops) {
   installFakeServices();
-  for (int missing = 0; missing < 6; ++missing) {
+  for (int missing = 0; missing < 7; ++missing) {
     Services incomplete = services();
     if (missing == 0) incomplete.mainQueue = nullptr;
     if (missing == 1) incomplete.http = nullptr;
@@ -25,6 +25,7 @@ TEST(ServicesDeathTest, InstallingWithOneMissingStops) {
     if (missing == 3) incomplete.bundle = nullptr;
     if (missing == 4) incomplete.text = nullptr;
     if (missing == 5) incomplete.console = nullptr;
+    if (missing == 6) incomplete.photos = nullptr;
     EXPECT_DEATH(installServices(incomplete), "^fatal error: a service is missing\n") << missing;
   }
 }
@@ -38,6 +39,7 @@ TEST(Services, ThoseInstalledLastAreInForce) {
   EXPECT_EQ(services().bundle, fakes.bundle);
   EXPECT_EQ(services().text, fakes.text);
   EXPECT_EQ(services().console, fakes.console);
+  EXPECT_EQ(services().photos, fakes.photos);
 }
 
 }  // namespace

@@ -141,6 +141,16 @@ TEST(UIImage, StretchedOverAFractionKeepsTheLeftEdge) {
   }
 }
 
+TEST(UIImage, ATemplateIsAnotherPictureOfTheSamePixels) {
+  const auto image = UIImage::imageWithRaster(ramp(10, 1), 2);
+  const auto shape = image->imageWithRenderingMode(UIImageRenderingMode::alwaysTemplate);
+  EXPECT_NE(shape, image);
+  EXPECT_EQ(shape->renderingMode(), UIImageRenderingMode::alwaysTemplate);
+  EXPECT_EQ(image->renderingMode(), UIImageRenderingMode::automatic);
+  EXPECT_EQ(shape->size(), image->size());
+  EXPECT_TRUE(shape->raster().sharesTile(image->raster(), 0, 0));
+}
+
 TEST(WholePixels, RoundsUp) {
   EXPECT_EQ(wholePixels(10.2), 11u);
   EXPECT_EQ(wholePixels(10), 10u);

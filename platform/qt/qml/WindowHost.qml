@@ -8,21 +8,32 @@ FocusScope {
     id: root
 
     required property UIWindow host
+    // The topmost presentation that hides all below it; -1 while there is none.
+    readonly property int cover: {
+        let topmost = -1;
+        for (let i = 0; i < presentations.count; ++i) {
+            if ((presentations.itemAt(i) as PresentedPage)?.covers)
+                topmost = i;
+        }
+        return topmost;
+    }
 
     // Pages come in from the side.
     clip: true
 
     PageLoader {
         anchors.fill: parent
+        visible: root.cover < 0
         focus: root.host.presentations.count === 0
         enabled: root.host.presentations.count === 0
         controller: root.host.rootViewController
     }
 
     Repeater {
+        id: presentations
         model: root.host.presentations
 
-        delegate: PageLoader {
+        delegate: PresentedPage {
             id: presented
 
             required property int index
@@ -30,8 +41,7 @@ FocusScope {
 
             width: root.width
             height: root.height
-            y: presented.controller.coversPresenter
-               ? (1 - presented.controller.presentationProgress) * root.height : 0
+            visible: root.cover <= presented.index
             focus: presented.onTop
             enabled: presented.onTop
         }

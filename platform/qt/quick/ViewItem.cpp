@@ -11,6 +11,7 @@
 #include "platform/view/UIButton.h"
 #include "platform/view/UIImageView.h"
 #include "platform/view/UILabel.h"
+#include "platform/view/UITextInput.h"
 
 namespace kindora {
 
@@ -84,12 +85,17 @@ QString ViewItem::text() const {
   if (const auto* button = dynamic_cast<const UIButton*>(view_.get())) {
     return QString::fromStdString(button->title());
   }
+  if (const auto* input = dynamic_cast<const UITextInput*>(view_.get())) {
+    return QString::fromStdString(input->text());
+  }
   return {};
 }
 
 QColor ViewItem::textColor() const {
-  const auto* label = dynamic_cast<const UILabel*>(view_.get());
-  return label != nullptr && label->textColor() ? toQColor(*label->textColor()) : QColor();
+  std::optional<UIColor> color;
+  if (const auto* label = dynamic_cast<const UILabel*>(view_.get())) color = label->textColor();
+  if (const auto* input = dynamic_cast<const UITextInput*>(view_.get())) color = input->textColor();
+  return color ? toQColor(*color) : QColor();
 }
 
 QFont ViewItem::textFont() const {
@@ -117,7 +123,6 @@ bool ViewItem::imageFits() const {
   return picture != nullptr && picture->contentMode() == UIViewContentMode::scaleAspectFit;
 }
 
-// The view itself, or the picture inside a button.
 const UIImageView* ViewItem::imageView() const {
   const auto* button = dynamic_cast<const UIButton*>(view_.get());
   return button != nullptr ? &button->imageView() : dynamic_cast<const UIImageView*>(view_.get());

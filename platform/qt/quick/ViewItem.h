@@ -75,13 +75,14 @@ class ViewItem : public QQuickItem {
 
  protected:
   [[nodiscard]] const std::shared_ptr<UIView>& view() const { return view_; }
+  /// The view if it is an image view, or the one inside it if it is a button; else null.
+  [[nodiscard]] const UIImageView* imageView() const;
   void componentComplete() override;
   void geometryChange(const QRectF& now, const QRectF& before) override;
   virtual void viewDidChange();
 
  private:
   void connectView();
-  [[nodiscard]] const UIImageView* imageView() const;
 
   QObject* owner_ = nullptr;
   QString outlet_;

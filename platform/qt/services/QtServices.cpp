@@ -8,19 +8,22 @@
 #include "platform/qt/services/MainQueue.h"
 #include "platform/qt/services/QtHttpSessionFactory.h"
 #include "platform/qt/services/QtJsonReader.h"
+#include "platform/qt/services/QtPhotoService.h"
 #include "platform/qt/services/QtResourceBundle.h"
 #include "platform/qt/services/StandardConsole.h"
 
 namespace kindora {
 
 Services makeQtServices() {
+  const auto mainQueue = std::make_shared<MainQueue>();
   return {
-      .mainQueue = std::make_shared<MainQueue>(),
+      .mainQueue = mainQueue,
       .http = std::make_shared<QtHttpSessionFactory>(),
       .json = std::make_shared<QtJsonReader>(),
       .bundle = std::make_shared<QtResourceBundle>(),
       .text = std::make_shared<IcuTextService>(),
       .console = std::make_shared<StandardConsole>(),
+      .photos = std::make_shared<QtPhotoService>(mainQueue),
   };
 }
 

@@ -152,6 +152,7 @@ bool UINavigationController::canGoBack() const {
 }
 
 bool UINavigationController::goBack() {
+  if (stack_.size() == 1 && !transition_) return stack_.front()->goBack();
   if (!canGoBack()) return UIViewController::goBack();
   popViewController(true);
   return true;

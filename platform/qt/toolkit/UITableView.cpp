@@ -159,6 +159,7 @@ void UITableView::select(int row) {
   source_.tableViewDidSelectRowAtIndexPath(*selected_);
 }
 
+// A row shows no selection beyond its press, so that there is nothing to animate.
 void UITableView::deselectRowAtIndexPath(IndexPath path, bool /*animated*/) {
   if (selected_ == path) selected_.reset();
 }

@@ -27,6 +27,17 @@ namespace kindora {
 class UINavigationController;
 class UITabBarController;
 class UIViewController;
+
+enum class UIPopoverArrowDirection { up, down };
+
+/// What a presented controller belongs to, where it is shown as a bubble beside it. On a phone's
+/// screen sheets and pages come from below instead.
+struct UIPopoverAnchor {
+  std::weak_ptr<UIView> sourceView;
+  CGRect sourceRect;  ///< in the source view's space
+  UIPopoverArrowDirection permittedArrowDirection = UIPopoverArrowDirection::up;
+};
+
 using UIViewControllerRef = std::shared_ptr<UIViewController>;
 
 class UIViewController : public kindora::UIResponder,
@@ -106,6 +117,9 @@ class UIViewController : public kindora::UIResponder,
   /// Seconds that coming and going take.
   [[nodiscard]] virtual double presentationDuration() const { return 0.4; }
 
+  [[nodiscard]] const UIPopoverAnchor& popoverAnchor() const { return popoverAnchor_; }
+  void setPopoverAnchor(const UIPopoverAnchor& anchor) { popoverAnchor_ = anchor; }
+
   // --- Storyboard ---
 
   /// Follows the segue of that name, after prepareForSegue. Stops when the storyboard has none.
@@ -155,6 +169,7 @@ class UIViewController : public kindora::UIResponder,
   QPointer<UIViewController> presenting_;
   double presentationProgress_ = 0;
   bool definesPresentationContext_ = false;
+  UIPopoverAnchor popoverAnchor_;
   const UIStoryboard* storyboard_ = nullptr;
   const UIStoryboardScene* scene_ = nullptr;
 };

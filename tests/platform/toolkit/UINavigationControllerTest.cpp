@@ -220,6 +220,21 @@ TEST_F(UINavigationControllerTest, FromTheRootThereIsNoWayBack) {
   EXPECT_FALSE(navigation->goBack());
 }
 
+TEST_F(UINavigationControllerTest, TheRootMayHaveAWayBackOfItsOwn) {
+  class Modal final : public UIViewController {
+   public:
+    bool goBack() override { return ++asked > 0; }
+    int asked = 0;
+  };
+  const auto root = makeViewController<Modal>();
+  const auto own = makeViewController<UINavigationController>(root);
+  EXPECT_TRUE(own->goBack());
+  EXPECT_EQ(root->asked, 1);
+  own->pushViewController(b, false);
+  EXPECT_TRUE(own->goBack());
+  EXPECT_EQ(root->asked, 1);
+}
+
 TEST_F(UINavigationControllerTest, GoesBackAnimated) {
   pushNow(b);
   EXPECT_TRUE(navigation->canGoBack());

@@ -47,5 +47,19 @@ TEST_F(UIImageViewTest, NoImageClearsTheView) {
   EXPECT_EQ(changes, 2);
 }
 
+TEST_F(UIImageViewTest, TellsEachOtherChangeOnce) {
+  for (int time = 0; time < 2; ++time) {
+    view->setContentMode(UIViewContentMode::center);
+    view->setTintColor(UIColor::blackColor());
+    view->setBorder({UIColor::blackColor(), 2});
+    view->setClipsToBounds(true);
+  }
+  EXPECT_EQ(changes, 4);
+  EXPECT_EQ(view->contentMode(), UIViewContentMode::center);
+  EXPECT_EQ(view->tintColor(), UIColor::blackColor());
+  EXPECT_EQ(view->border(), (UIViewBorder{UIColor::blackColor(), 2}));
+  EXPECT_TRUE(view->clipsToBounds());
+}
+
 }  // namespace
 }  // namespace kindora

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Platform
+
+// Lies over a page while a picture is read, which a large one takes a moment for.
+Rectangle {
+    id: root
+
+    color: Qt.rgba(0.96, 0.96, 0.96, 0.8)
+
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+        onWheel: wheel => wheel.accepted = true
+    }
+
+    PlainText {
+        anchors.centerIn: parent
+        text: "Opening the picture..."
+        color: Qt.rgba(0.45, 0.45, 0.45, 1)
+    }
+}

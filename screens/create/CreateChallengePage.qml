@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Platform
+import Kindora.Screens
+
+// The form for a challenge of one's own.
+FormPage {
+    id: root
+
+    required property CreateChallengeTableViewController controller
+
+    FormSection {
+        controller: root.controller
+        section: 0
+        highlighted: title.inputFocus
+
+        TextField {
+            id: title
+            objectName: "challengeTitleField"
+            owner: root.controller
+            outlet: objectName
+            label: root.controller.sectionTitles[0]
+            width: parent.width
+        }
+    }
+
+    FormSection {
+        controller: root.controller
+        section: 1
+        highlighted: description.inputFocus
+
+        TextField {
+            id: description
+            objectName: "challengeDescriptionField"
+            owner: root.controller
+            outlet: objectName
+            label: root.controller.sectionTitles[1]
+            width: parent.width
+        }
+    }
+
+    FormSection {
+        controller: root.controller
+        section: 2
+        action: well.fills ? "Change Photo" : "Add Photo"
+        rowHeight: 192
+
+        ImageViewItem {
+            id: well
+            objectName: "challengeImageView"
+            owner: root.controller
+            outlet: objectName
+            width: 160
+            height: 160
+            anchors.centerIn: parent
+
+            PictureItem {
+                anchors.centerIn: parent
+                width: well.fills ? parent.width : 56
+                height: well.fills ? parent.height : 56
+                radius: well.fills ? well.cornerRadius : 0
+                image: well.image
+                tint: well.imageTint
+            }
+
+            Rectangle {
+                anchors.fill: parent
+                radius: well.cornerRadius
+                color: "transparent"
+                border.width: well.borderWidth
+                border.color: well.borderColor
+            }
+        }
+    }
+}
