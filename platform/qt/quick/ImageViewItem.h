@@ -9,7 +9,7 @@ namespace kindora {
 
 /// Draws an image view of which more is set than the image: how the image lies, a tint for
 /// templates, a border.
-class ImageViewItem : public ViewItem {
+class ImageViewItem : public kindora::ViewItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QColor tint READ tint NOTIFY viewChanged)
