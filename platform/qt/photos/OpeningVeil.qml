@@ -9,6 +9,14 @@ Rectangle {
 
     color: Qt.rgba(0.96, 0.96, 0.96, 0.8)
 
+    // A picture that is read at once needs no word.
+    SequentialAnimation {
+        running: root.visible
+        PropertyAction { target: root; property: "opacity"; value: 0 }
+        PauseAnimation { duration: 200 }
+        NumberAnimation { target: root; property: "opacity"; to: 1; duration: 200 }
+    }
+
     MouseArea {
         anchors.fill: parent
         hoverEnabled: true

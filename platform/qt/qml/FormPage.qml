@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import Kindora.Platform
 
 // A static table: sections one below another, scrolled so that what has the keyboard is in sight.
 Rectangle {
@@ -25,12 +24,12 @@ Rectangle {
         }
     }
 
-    Window.onActiveFocusItemChanged: Qt.callLater(root.showFocus)
-    onHeightChanged: Qt.callLater(root.showFocus)
+    Window.onActiveFocusItemChanged: root.showFocus()
 
     Flickable {
         id: flick
         anchors.fill: parent
+        onHeightChanged: root.showFocus()
         contentHeight: column.height
         boundsBehavior: contentHeight > height ? Flickable.DragAndOvershootBounds
                                                : Flickable.StopAtBounds

@@ -22,7 +22,7 @@ TextInputItem {
             else
                 field.focus = true;
         } else if (!root.editing && field.focus) {
-            Qt.inputMethod.commit();
+            root.commit();
             field.focus = false;
         }
     }

@@ -22,7 +22,7 @@ TextInputItem {
             else
                 area.focus = true;
         } else if (!root.editing && area.focus) {
-            Qt.inputMethod.commit();
+            root.commit();
             area.focus = false;
         }
     }

@@ -8,7 +8,7 @@
 namespace kindora {
 
 /// Draws an image view that has a border, and of which the image may stand inside the bounds.
-class ImageViewItem : public ViewItem {
+class ImageViewItem : public kindora::ViewItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(bool fills READ fills NOTIFY viewChanged)

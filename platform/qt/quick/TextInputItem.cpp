@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "platform/qt/quick/TextInputItem.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QScopedValueRollback>
 #include <algorithm>
 
@@ -107,6 +109,8 @@ void TextInputItem::beginEditing() {
 void TextInputItem::endEditing() {
   if (input() != nullptr) input()->resignFirstResponder();
 }
+
+void TextInputItem::commit() { QGuiApplication::inputMethod()->commit(); }
 
 void TextInputItem::pressReturn() {
   if (auto* field = dynamic_cast<UITextField*>(view().get())) field->pressReturn();

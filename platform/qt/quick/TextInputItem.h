@@ -11,7 +11,7 @@ namespace kindora {
 
 /// Draws a text field or text view with an input item inside it, to which the user types. What the
 /// user does there is told to the view; what the view makes of it comes back as inputReset.
-class TextInputItem : public ViewItem {
+class TextInputItem : public kindora::ViewItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QString placeholder READ placeholder NOTIFY viewChanged)
@@ -38,8 +38,12 @@ class TextInputItem : public ViewItem {
   Q_INVOKABLE void edit(const QString& text, const QString& preedit, int caret);
   /// The input item's selection; ignored while its text is not the view's.
   Q_INVOKABLE void select(const QString& text, int start, int end);
+  /// The input item has the keyboard.
   Q_INVOKABLE void beginEditing();
+  /// The input item has given the keyboard up.
   Q_INVOKABLE void endEditing();
+  /// Makes an input method decide on what it has composed.
+  Q_INVOKABLE static void commit();
   Q_INVOKABLE void pressReturn();
 
  signals:
