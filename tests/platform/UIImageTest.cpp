@@ -141,6 +141,30 @@ TEST(UIImage, StretchedOverAFractionKeepsTheLeftEdge) {
   }
 }
 
+TEST(UIImage, IsDrawnAsItIsUnlessToldOtherwise) {
+  EXPECT_EQ(UIImage::imageWithRaster(ramp(2, 2))->renderingMode(), UIImageRenderingMode::automatic);
+}
+
+TEST(UIImage, AsATemplateItIsAnotherImageOfTheSamePicture) {
+  const auto image = UIImage::imageWithRaster(ramp(4, 2), {5, 6}, 2);
+  const auto mask = image->imageWithRenderingMode(UIImageRenderingMode::alwaysTemplate);
+  EXPECT_NE(mask, image);
+  EXPECT_EQ(mask->renderingMode(), UIImageRenderingMode::alwaysTemplate);
+  EXPECT_EQ(image->renderingMode(), UIImageRenderingMode::automatic);
+  EXPECT_EQ(mask->size(), image->size());
+  EXPECT_EQ(mask->scale(), 2);
+  EXPECT_EQ(mask->raster().pixel(3, 1), image->raster().pixel(3, 1));
+}
+
+TEST(UIImage, ATemplateOfASourceIsDrawnByTheSource) {
+  const auto source = std::make_shared<CountingSource>();
+  const auto image = UIImage::imageWithSource(source, {10, 5}, 1);
+  const auto mask = image->imageWithRenderingMode(UIImageRenderingMode::alwaysTemplate);
+  EXPECT_EQ(source->calls, 0);
+  EXPECT_EQ(mask->raster().pixel(0, 0), kRed);
+  EXPECT_EQ(source->calls, 1);
+}
+
 TEST(WholePixels, RoundsUp) {
   EXPECT_EQ(wholePixels(10.2), 11u);
   EXPECT_EQ(wholePixels(10), 10u);
