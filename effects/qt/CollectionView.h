@@ -56,6 +56,8 @@ class CollectionView : public QObject, public UICollectionView {
 
   /// Asks for everything anew.
   void reloadData();
+  /// Lays the cells out for the present bounds; for whoever has invalidated the layout.
+  void layoutIfNeeded() { layOut(); }
   [[nodiscard]] const std::vector<IndexPath>& indexPathsForSelectedItems() const {
     return selected_;
   }

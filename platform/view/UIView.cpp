@@ -146,6 +146,7 @@ void UIView::setPresentation(const UIViewState& presentation) {
 }
 
 void UIView::setClipsToBounds(bool clips) {
+  if (clipsToBounds_ == clips) return;
   clipsToBounds_ = clips;
   changed();
 }

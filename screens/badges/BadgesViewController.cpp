@@ -32,7 +32,11 @@ void BadgesViewController::viewDidLoad() {
   collectionView->setDelegate(dataSourceDelegate.get());
 }
 
-void BadgesViewController::viewWillLayoutSubviews() { bouncyFlowLayout->invalidateLayout(); }
+// The grid may have taken its new size already.
+void BadgesViewController::viewWillLayoutSubviews() {
+  bouncyFlowLayout->invalidateLayout();
+  collectionView->layoutIfNeeded();
+}
 
 void BadgesViewController::viewWillAppear(bool animated) {
   UIViewController::viewWillAppear(animated);

@@ -161,9 +161,10 @@ void InProgressChallengeDetailViewController::animationDidStop(CAKeyframeAnimati
                                                                bool /*finished*/) {
   if (medalAnimationView) medalAnimationView->removeFromSuperview();
   medalAnimationView = nullptr;
-  const auto& controllers = tabs().viewControllers();
-  if (controllers.size() <= kBadgesTab) return;
-  UITabBarItem& badges = *controllers[kBadgesTab]->tabBarItem();
+  // The screen may have been left meanwhile.
+  const UITabBarController* controller = tabBarController();
+  if (controller == nullptr || controller->viewControllers().size() <= kBadgesTab) return;
+  UITabBarItem& badges = *controller->viewControllers()[kBadgesTab]->tabBarItem();
   const std::string value = badges.badgeValue().toStdString();
   badges.setBadgeValue(QString::fromStdString(raisedBadgeValue(value)));
 }

@@ -141,14 +141,28 @@ TEST(UIImage, StretchedOverAFractionKeepsTheLeftEdge) {
   }
 }
 
-TEST(UIImage, ATemplateIsAnotherPictureOfTheSamePixels) {
-  const auto image = UIImage::imageWithRaster(ramp(10, 1), 2);
-  const auto shape = image->imageWithRenderingMode(UIImageRenderingMode::alwaysTemplate);
-  EXPECT_NE(shape, image);
-  EXPECT_EQ(shape->renderingMode(), UIImageRenderingMode::alwaysTemplate);
+TEST(UIImage, IsDrawnAsItIsUnlessToldOtherwise) {
+  EXPECT_EQ(UIImage::imageWithRaster(ramp(2, 2))->renderingMode(), UIImageRenderingMode::automatic);
+}
+
+TEST(UIImage, AsATemplateItIsAnotherImageOfTheSamePicture) {
+  const auto image = UIImage::imageWithRaster(ramp(4, 2), {5, 6}, 2);
+  const auto mask = image->imageWithRenderingMode(UIImageRenderingMode::alwaysTemplate);
+  EXPECT_NE(mask, image);
+  EXPECT_EQ(mask->renderingMode(), UIImageRenderingMode::alwaysTemplate);
   EXPECT_EQ(image->renderingMode(), UIImageRenderingMode::automatic);
-  EXPECT_EQ(shape->size(), image->size());
-  EXPECT_TRUE(shape->raster().sharesTile(image->raster(), 0, 0));
+  EXPECT_EQ(mask->size(), image->size());
+  EXPECT_EQ(mask->scale(), 2);
+  EXPECT_EQ(mask->raster().pixel(3, 1), image->raster().pixel(3, 1));
+}
+
+TEST(UIImage, ATemplateOfASourceIsDrawnByTheSource) {
+  const auto source = std::make_shared<CountingSource>();
+  const auto image = UIImage::imageWithSource(source, {10, 5}, 1);
+  const auto mask = image->imageWithRenderingMode(UIImageRenderingMode::alwaysTemplate);
+  EXPECT_EQ(source->calls, 0);
+  EXPECT_EQ(mask->raster().pixel(0, 0), kRed);
+  EXPECT_EQ(source->calls, 1);
 }
 
 TEST(WholePixels, RoundsUp) {

@@ -9,8 +9,11 @@ UISearchController::UISearchController() {
     if (searchBar_.isFirstResponder()) setActive(true);
   });
   connect(&searchBar_, &UISearchBar::edited, this, [this] {
-    setActive(true);
-    update();
+    if (active_) {
+      update();
+    } else {
+      setActive(true);  // which asks for the results of the text too
+    }
   });
   connect(&searchBar_, &UISearchBar::cancelled, this, [this] { setActive(false); });
 }

@@ -214,5 +214,56 @@ TEST_F(UITabBarControllerTest, AGestureCancelledInATabThatWasLeftShowsNothing) {
   EXPECT_FALSE(a->isVisible());
 }
 
+// --- Something laid over everything ---
+
+class CoveredUITabBarControllerTest : public UITabBarControllerTest {
+ protected:
+  CoveredUITabBarControllerTest() {
+    first->pushViewController(c, false);
+    cover->setFillsSuperview(true);
+    tabs->view()->addSubview(cover);
+  }
+
+  const std::shared_ptr<RecordingController> c = screen("c");
+  const std::shared_ptr<UIView> cover = std::make_shared<UIView>();
+};
+
+TEST_F(CoveredUITabBarControllerTest, NoTabIsPressed) {
+  tabs->pressTab(1);
+  EXPECT_EQ(tabs->selectedIndex(), 0);
+  tabs->pressTab(0);
+  EXPECT_EQ(first->topViewController(), c);
+}
+
+TEST_F(CoveredUITabBarControllerTest, GoingBackIsSwallowed) {
+  EXPECT_TRUE(window.goBack());
+  EXPECT_EQ(first->topViewController(), c);
+}
+
+TEST_F(CoveredUITabBarControllerTest, TheProgramSelectsAllTheSame) {
+  tabs->setSelectedIndex(1);
+  EXPECT_EQ(tabs->selectedIndex(), 1);
+}
+
+TEST_F(CoveredUITabBarControllerTest, IsPressedAgainWhenTheCoverHasGone) {
+  cover->removeFromSuperview();
+  EXPECT_TRUE(window.goBack());
+  EXPECT_EQ(first->topViewController(), a);
+  tabs->pressTab(1);
+  EXPECT_EQ(tabs->selectedIndex(), 1);
+}
+
+TEST_F(CoveredUITabBarControllerTest, ACoverThatTakesNoInputIsNone) {
+  cover->setUserInteractionEnabled(false);
+  tabs->pressTab(1);
+  EXPECT_EQ(tabs->selectedIndex(), 1);
+}
+
+TEST_F(UITabBarControllerTest, ItsBarHasAControlForEachTab) {
+  EXPECT_NE(tabs->tabBar()->outlet("tab0"), nullptr);
+  EXPECT_NE(tabs->tabBar()->outlet("tab1"), nullptr);
+  EXPECT_EQ(tabs->tabBar()->outlet("tab2"), nullptr);
+}
+
 }  // namespace
 }  // namespace kindora

@@ -4,29 +4,52 @@
 
 #include <gtest/gtest.h>
 
+#include <QSignalSpy>
+
 namespace kindora {
 namespace {
 
-TEST(UITableViewCell, KeepsItsKind) {
+class UITableViewCellTest : public ::testing::Test {
+ protected:
   UITableViewCell cell;
-  EXPECT_EQ(cell.reuseIdentifier(), "");
-  cell.setReuseIdentifier("textCell");
-  EXPECT_EQ(cell.reuseIdentifier(), "textCell");
+  QSignalSpy looks{&cell, &UIReusableCell::lookChanged};
+};
+
+TEST_F(UITableViewCellTest, HasNoAccessoryAtTheStart) {
+  EXPECT_EQ(cell.accessoryType(), UITableViewCellAccessoryType::none);
+  EXPECT_FALSE(cell.hasCheckmark());
 }
 
-TEST(UITableViewCell, FindsOutletsInItsContent) {
-  UITableViewCell cell;
-  std::weak_ptr<UILabel> label;
-  connectOutlet(label, "label", cell.contentView());
-  EXPECT_EQ(cell.outlet("label"), label.lock());
-  EXPECT_EQ(cell.outlet("picture"), nullptr);
+TEST_F(UITableViewCellTest, TellsItsCheckmarkOnce) {
+  cell.setAccessoryType(UITableViewCellAccessoryType::checkmark);
+  cell.setAccessoryType(UITableViewCellAccessoryType::checkmark);
+  EXPECT_TRUE(cell.hasCheckmark());
+  EXPECT_EQ(looks.count(), 1);
+  cell.setAccessoryType(UITableViewCellAccessoryType::none);
+  EXPECT_FALSE(cell.hasCheckmark());
+  EXPECT_EQ(looks.count(), 2);
 }
 
-TEST(UITableViewCell, RemembersThatItIsPressed) {
-  UITableViewCell cell;
-  EXPECT_FALSE(cell.isHighlighted());
+TEST_F(UITableViewCellTest, APressShowsOnIt) {
+  EXPECT_FALSE(cell.showsSelection());
+  cell.setHighlighted(true, false);
+  EXPECT_TRUE(cell.showsSelection());
+  cell.setHighlighted(false, false);
+  EXPECT_FALSE(cell.showsSelection());
+}
+
+TEST_F(UITableViewCellTest, APressDoesNotShowOnOneWithoutSelectionStyle) {
+  cell.setSelectionStyle(UITableViewCellSelectionStyle::none);
   cell.setHighlighted(true, false);
   EXPECT_TRUE(cell.isHighlighted());
+  EXPECT_FALSE(cell.showsSelection());
+}
+
+TEST_F(UITableViewCellTest, TellsItsSelectionStyleOnce) {
+  EXPECT_EQ(cell.selectionStyle(), UITableViewCellSelectionStyle::standard);
+  cell.setSelectionStyle(UITableViewCellSelectionStyle::none);
+  cell.setSelectionStyle(UITableViewCellSelectionStyle::none);
+  EXPECT_EQ(looks.count(), 1);
 }
 
 TEST(UITableViewHeaderFooterView, HasALabel) {

@@ -46,7 +46,9 @@ class Source final : public UITableViewDataSource {
   int tableViewNumberOfRowsInSection(int section) override {
     return static_cast<int>(of(section).size());
   }
+  bool hasHeaders = true;
   std::string tableViewTitleForHeaderInSection(int section) override {
+    if (!hasHeaders) return {};
     return section == 0 ? "first" : "second";
   }
   void tableViewWillDisplayHeaderViewForSection(UITableViewHeaderFooterView& view,
@@ -468,6 +470,57 @@ TEST_F(UITableViewTest, PressingTheDeleteButtonAsksTheSource) {
 TEST_F(UITableViewTest, ARowThatCannotBeEditedIsNotDeleted) {
   for (const int row : {0, 1, 4, -1, 7}) table.commitDelete(row);
   EXPECT_EQ(source.calls, (Lines{}));
+}
+
+// --- Sections without headers, and a view above all rows ---
+
+TEST_F(UITableViewTest, ASectionWithoutATitleHasNoHeader) {
+  source.hasHeaders = false;
+  table.reloadData();
+  EXPECT_EQ(shown(), (Lines{"a", "b", "c", "d", "e"}));
+}
+
+TEST_F(UITableViewTest, WithoutHeadersRowsKeepTheirPaths) {
+  source.hasHeaders = false;
+  table.reloadData();
+  table.select(3);
+  EXPECT_EQ(source.calls, (Lines{"select 1,0"}));
+}
+
+TEST_F(UITableViewTest, FindsTheCellThatShowsARow) {
+  EXPECT_EQ(table.cellForRowAtIndexPath({0, 1}).get(), reader.cell(2));
+  EXPECT_EQ(table.cellForRowAtIndexPath({1, 1}).get(), reader.cell(6));
+}
+
+TEST_F(UITableViewTest, FindsNoCellWhereThereIsNoRow) {
+  EXPECT_EQ(table.cellForRowAtIndexPath({0, 3}), nullptr);
+  EXPECT_EQ(table.cellForRowAtIndexPath({2, 0}), nullptr);
+  EXPECT_EQ(table.cellForRowAtIndexPath({0, -1}), nullptr);
+}
+
+TEST_F(UITableViewTest, DeselectsTheSelectedRowOnly) {
+  table.select(1);
+  table.deselectRowAtIndexPath({1, 0}, true);
+  EXPECT_EQ(table.indexPathForSelectedRow(), (IndexPath{0, 0}));
+  table.deselectRowAtIndexPath({0, 0}, true);
+  EXPECT_EQ(table.indexPathForSelectedRow(), std::nullopt);
+}
+
+TEST_F(UITableViewTest, HasNoHeaderViewUntilItGetsOne) {
+  EXPECT_EQ(table.tableHeaderView(), nullptr);
+  UISearchBar bar;
+  int told = 0;
+  QObject::connect(&table, &UITableView::tableHeaderViewChanged, [&told] { ++told; });
+  table.setTableHeaderView(&bar);
+  table.setTableHeaderView(&bar);
+  EXPECT_EQ(table.tableHeaderView(), &bar);
+  EXPECT_EQ(told, 1);
+}
+
+TEST_F(UITableViewTest, AHeaderViewIsNoRow) {
+  UISearchBar bar;
+  table.setTableHeaderView(&bar);
+  EXPECT_EQ(reader.count(), 7);
 }
 
 }  // namespace

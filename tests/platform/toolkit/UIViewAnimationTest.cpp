@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -141,6 +142,129 @@ INSTANTIATE_TEST_SUITE_P(Curves, UIViewAnimationCurveTest,
                                            Curve{"EaseInOut", UIViewAnimationCurve::easeInOut,
                                                  0.1292}),
                          [](const auto& instance) { return std::string(instance.param.name); });
+
+// --- Springs ---
+
+TEST_F(UIViewAnimationTest, ASpringTakesTheCurvesPlace) {
+  const UISpring spring{.dampingRatio = 0.5};
+  animateWithDuration({.duration = 1, .spring = spring}, [this] { view->setScaling(2); });
+  for (int i = 1; i <= 9; ++i) {
+    time.advance(0.1);
+    EXPECT_NEAR(view->presentation().scaling, 1 + springProgress(spring, 1, 0.1 * i), 0.02) << i;
+  }
+}
+
+TEST_F(UIViewAnimationTest, ASpringOvershootsOnItsWay) {
+  animateWithDuration({.duration = 1, .spring = UISpring{.dampingRatio = 0.5}},
+                      [this] { view->setScaling(2); });
+  double most = 0;
+  for (int i = 0; i < 100; ++i) {
+    time.advance(0.01);
+    most = std::max(most, view->presentation().scaling);
+  }
+  EXPECT_GT(most, 2.1);
+}
+
+TEST_F(UIViewAnimationTest, ASpringEndsExactlyAtItsGoal) {
+  animateWithDuration(
+      {.duration = 1, .spring = UISpring{.dampingRatio = 0.5}}, [this] { view->setScaling(2); },
+      [this] { ++completed; });
+  time.advance(0.99);
+  EXPECT_EQ(completed, 0);
+  EXPECT_NE(view->presentation().scaling, 2);
+  time.advance(0.012);
+  EXPECT_EQ(completed, 1);
+  EXPECT_EQ(view->presentation().scaling, 2);
+}
+
+TEST_F(UIViewAnimationTest, ASpringWaitsForItsDelay) {
+  animateWithDuration({.duration = 1, .delay = 0.25, .spring = UISpring{}},
+                      [this] { view->setScaling(2); });
+  time.advance(0.25);
+  EXPECT_EQ(view->presentation().scaling, 1);
+  time.advance(0.02);
+  EXPECT_GT(view->presentation().scaling, 1);
+}
+
+TEST_F(UIViewAnimationTest, APushedSpringSetsOutFaster) {
+  const auto pushed = std::make_shared<UIView>();
+  animateWithDuration({.duration = 1, .spring = UISpring{.dampingRatio = 1}},
+                      [this] { view->setScaling(2); });
+  animateWithDuration({.duration = 1, .spring = UISpring{.dampingRatio = 1, .initialVelocity = 10}},
+                      [&pushed] { pushed->setScaling(2); });
+  time.advance(0.05);
+  EXPECT_GT(pushed->presentation().scaling, view->presentation().scaling + 0.2);
+}
+
+// --- Transitions ---
+
+class UIViewTransitionTest : public ::testing::Test {
+ protected:
+  UIViewTransitionTest() {
+    container->addSubview(below);
+    container->addSubview(from);
+    container->addSubview(above);
+  }
+  ~UIViewTransitionTest() override { time.advance(2); }
+
+  void curl() {
+    transitionFromView(from, to, 1, [this] { ++completed; });
+  }
+
+  ManualTime time{std::make_shared<ManualQueue>()};
+  const std::shared_ptr<UIView> container = std::make_shared<UIView>();
+  const std::shared_ptr<UIView> below = std::make_shared<UIView>();
+  const std::shared_ptr<UIView> from = std::make_shared<UIView>();
+  const std::shared_ptr<UIView> above = std::make_shared<UIView>();
+  const std::shared_ptr<UIView> to = std::make_shared<UIView>();
+  int completed = 0;
+};
+
+TEST_F(UIViewTransitionTest, PutsTheNewViewDirectlyAboveTheOld) {
+  curl();
+  EXPECT_EQ(container->subviews(), (std::vector{below, from, to, above}));
+}
+
+TEST_F(UIViewTransitionTest, LaysTheNewViewOverTheOldLikeAPage) {
+  curl();
+  EXPECT_EQ(to->presentation().curl, 0);
+  EXPECT_EQ(to->state().curl, 1);
+  time.advance(0.5);
+  EXPECT_NEAR(to->presentation().curl, 0.5, 0.01);
+  EXPECT_EQ(from->presentation().curl, 1);
+}
+
+TEST_F(UIViewTransitionTest, KeepsTheOldViewUntilThePageIsLaid) {
+  curl();
+  time.advance(0.99);
+  EXPECT_EQ(from->superview(), container);
+  EXPECT_EQ(completed, 0);
+  time.advance(0.012);
+  EXPECT_EQ(from->superview(), nullptr);
+  EXPECT_EQ(to->presentation().curl, 1);
+  EXPECT_EQ(completed, 1);
+}
+
+TEST_F(UIViewTransitionTest, TakesTheOldViewOutBeforeItCompletes) {
+  bool there = true;
+  transitionFromView(from, to, 0.1, [&] { there = from->superview() != nullptr; });
+  time.advance(0.11);
+  EXPECT_FALSE(there);
+}
+
+TEST_F(UIViewTransitionTest, NeedsNoCompletion) {
+  transitionFromView(from, to, 0.1);
+  time.advance(0.11);
+  EXPECT_EQ(container->subviews(), (std::vector{below, to, above}));
+}
+
+TEST_F(UIViewTransitionTest, AViewThatStandsNowhereLeavesNoPlaceToTake) {
+  const auto loose = std::make_shared<UIView>();
+  transitionFromView(loose, to, 0.1, [this] { ++completed; });
+  time.advance(0.11);
+  EXPECT_EQ(to->superview(), nullptr);
+  EXPECT_EQ(completed, 1);
+}
 
 // --- Numbers on their way ---
 

@@ -35,5 +35,29 @@ TEST_F(UIButtonTest, TellsANewTitleOnce) {
   EXPECT_EQ(changes, 1);
 }
 
+TEST_F(UIButtonTest, ShowsNoImageAtTheStart) {
+  EXPECT_EQ(button->imageView().image(), nullptr);
+  EXPECT_EQ(button->imageView().contentMode(), UIViewContentMode::scaleAspectFill);
+}
+
+TEST_F(UIButtonTest, ItsImageIsThatOfItsImageView) {
+  const UIImageRef image = UIImage::imageWithRaster(Raster(1, 1));
+  button->setImage(image);
+  EXPECT_EQ(button->imageView().image(), image);
+  button->setImage(nullptr);
+  EXPECT_EQ(button->imageView().image(), nullptr);
+}
+
+TEST_F(UIButtonTest, TellsWhatChangesInItsImageView) {
+  button->setImage(UIImage::imageWithRaster(Raster(1, 1)));
+  EXPECT_EQ(changes, 1);
+  button->imageView().setContentMode(UIViewContentMode::scaleAspectFit);
+  EXPECT_EQ(changes, 2);
+  button->imageView().setTintColor(UIColor::yellowColor());
+  EXPECT_EQ(changes, 3);
+}
+
+TEST_F(UIButtonTest, ItsImageViewIsNoSubview) { EXPECT_TRUE(button->subviews().empty()); }
+
 }  // namespace
 }  // namespace kindora

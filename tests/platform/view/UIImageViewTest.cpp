@@ -61,5 +61,21 @@ TEST_F(UIImageViewTest, TellsEachOtherChangeOnce) {
   EXPECT_TRUE(view->clipsToBounds());
 }
 
+TEST_F(UIImageViewTest, FillsItsBoundsUnlessToldToFit) {
+  EXPECT_EQ(view->contentMode(), UIViewContentMode::scaleAspectFill);
+  view->setContentMode(UIViewContentMode::scaleAspectFit);
+  view->setContentMode(UIViewContentMode::scaleAspectFit);
+  EXPECT_EQ(view->contentMode(), UIViewContentMode::scaleAspectFit);
+  EXPECT_EQ(changes, 1);
+}
+
+TEST_F(UIImageViewTest, HasNoTintOfItsOwnUnlessToldSo) {
+  EXPECT_EQ(view->tintColor(), std::nullopt);
+  view->setTintColor(UIColor::yellowColor());
+  view->setTintColor(UIColor::yellowColor());
+  EXPECT_EQ(view->tintColor(), UIColor::yellowColor());
+  EXPECT_EQ(changes, 1);
+}
+
 }  // namespace
 }  // namespace kindora

@@ -40,11 +40,17 @@ TEST_F(UIViewTest, ShowsAtOnceWhatChangesOutsideAnAnimation) {
   view->setShadowOpacity(0.25);
   view->setShadowOffset({3, 4});
   view->setCornerRadius(20);
+  view->setBackgroundColor(UIColor::yellowColor());
+  view->setScaling(2);
+  view->setCurl(0.75);
   const UIViewState expected{.alpha = 0.5,
+                             .backgroundColor = UIColor::yellowColor(),
                              .translation = {1, 2},
+                             .scaling = 2,
                              .cornerRadius = 20,
                              .shadowOpacity = 0.25,
-                             .shadowOffset = {3, 4}};
+                             .shadowOffset = {3, 4},
+                             .curl = 0.75};
   EXPECT_EQ(view->state(), expected);
   EXPECT_EQ(view->presentation(), expected);
 }
@@ -101,26 +107,35 @@ TEST(UIViewState, IsExactAtBothEnds) {
 }
 
 TEST(UIViewState, EveryFieldIsHalfWayAtAHalf) {
-  const UIViewState from{.alpha = 0,
+  const UIViewState from{.frame = {{0, 10}, {20, 30}},
+                         .alpha = 0,
+                         .backgroundColor = {0, 0.25, 0.5, 0},
                          .translation = {0, 10},
                          .scaling = 1,
                          .cornerRadius = 20,
                          .shadowOpacity = 0.5,
                          .shadowOffset = {0, 3},
+                         .curl = 0,
                          .layout = 0};
-  const UIViewState to{.alpha = 1,
+  const UIViewState to{.frame = {{10, 0}, {40, 10}},
+                       .alpha = 1,
+                       .backgroundColor = {0.5, 0.75, 1, 1},
                        .translation = {4, 20},
                        .scaling = 2,
                        .cornerRadius = 40,
                        .shadowOpacity = 0,
                        .shadowOffset = {2, 1},
+                       .curl = 1,
                        .layout = 1};
-  const UIViewState half{.alpha = 0.5,
+  const UIViewState half{.frame = {{5, 5}, {30, 20}},
+                         .alpha = 0.5,
+                         .backgroundColor = {0.25, 0.5, 0.75, 0.5},
                          .translation = {2, 15},
                          .scaling = 1.5,
                          .cornerRadius = 30,
                          .shadowOpacity = 0.25,
                          .shadowOffset = {1, 2},
+                         .curl = 0.5,
                          .layout = 0.5};
   EXPECT_EQ(interpolated(from, to, 0.5), half);
 }

@@ -76,7 +76,28 @@ TEST_F(IcuTextServiceTest, CapitalisingKeepsBlanks) {
   EXPECT_EQ(text.capitalized("  a  b "), "  A  B ");
 }
 
+TEST_F(IcuTextServiceTest, FoldsCaseWhateverTheAlphabet) {
+  EXPECT_EQ(text.caseFolded("mARIA 42!"), "maria 42!");
+  EXPECT_EQ(text.caseFolded("\u00c9mile"), "\u00e9mile");
+  EXPECT_EQ(text.caseFolded("\u0416\u0410"), "\u0436\u0430");
+}
+
+TEST_F(IcuTextServiceTest, FoldsLettersOfOneSoundAlike) {
+  EXPECT_EQ(text.caseFolded("Stra\u00dfe"), text.caseFolded("STRASSE"));
+  EXPECT_EQ(text.caseFolded("\u03a3\u03c2"), text.caseFolded("\u03c3\u03c3"));
+}
+
+TEST_F(IcuTextServiceTest, FoldingLeavesAccentsAndBlanks) {
+  EXPECT_NE(text.caseFolded("\u00e9"), text.caseFolded("e"));
+  EXPECT_EQ(text.caseFolded(" A  b "), " a  b ");
+  EXPECT_EQ(text.caseFolded(""), "");
+}
+
 TEST_F(IcuTextServiceTest, MalformedTextDoesNoHarm) {
+  EXPECT_EQ(text.caseFolded("\xff"
+                            "AB"),
+            "\xEF\xBF\xBD"
+            "ab");
   EXPECT_EQ(text.capitalized("\xff"
                              "ab"),
             "\xEF\xBF\xBD"
@@ -105,7 +126,7 @@ void leaveAsRootLocaleWould() {
   const IcuTextService text;
   const bool isRoot = text.compare("öl", "zoo") < 0 && text.compare("tee", "zoo") < 0 &&
                       text.compare("ya", "ka") > 0 && text.compare("a", "B") < 0 &&
-                      text.capitalized("iVAN") == "Ivan";
+                      text.capitalized("iVAN") == "Ivan" && text.caseFolded("I") == "i";
   std::_Exit(isRoot ? 0 : 1);
 }
 
