@@ -3,7 +3,6 @@
 // Points, sizes and rectangles in the y-down space of views, in points.
 #pragma once
 
-#include <compare>
 #include <cstddef>
 
 namespace kindora {
@@ -61,7 +60,10 @@ struct UIEdgeInsets {
 struct IndexPath {
   int section = 0;
   int row = 0;
-  friend constexpr auto operator<=>(const IndexPath&, const IndexPath&) = default;
+  friend constexpr bool operator==(const IndexPath&, const IndexPath&) = default;
+  friend constexpr bool operator<(const IndexPath& a, const IndexPath& b) {
+    return a.section != b.section ? a.section < b.section : a.row < b.row;
+  }
 };
 
 }  // namespace kindora

@@ -11,7 +11,7 @@ inline constexpr std::string_view kTovAnimationBlockKey = "animationBlock";
 inline constexpr std::string_view kTovFromValueKey = "fromValue";
 inline constexpr std::string_view kTovToValueKey = "toValue";
 // Declared as dependencies and reported by nobody, so that new end values alone notify no observer
-// of an animation block. Users of the engine rely on that silence.
+// of an animation block. That silence is part of the engine's promise.
 inline constexpr std::string_view kTovFromKey = "from";
 inline constexpr std::string_view kTovToKey = "to";
 

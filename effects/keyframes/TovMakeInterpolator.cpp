@@ -14,10 +14,10 @@ NSValue boxed(CGSize value) { return NSValue::valueWithCGSize(value); }
 NSValue boxed(const CGRect& value) { return NSValue::valueWithCGRect(value); }
 NSValue boxed(const CATransform3D& value) { return NSValue::valueWithCATransform3D(value); }
 
-// T is one double or a struct of nothing but doubles.
-template <typename T>
+// T is one double or a struct of that many doubles.
+template <std::size_t kCount, typename T>
 TovInterpolatorBlock linear(const T& from, const T& to) {
-  using Components = std::array<double, sizeof(T) / sizeof(double)>;
+  using Components = std::array<double, kCount>;
   const auto start = std::bit_cast<Components>(from);
   auto difference = std::bit_cast<Components>(to);
   for (std::size_t i = 0; i < start.size(); ++i) difference[i] -= start[i];
@@ -35,12 +35,12 @@ TovInterpolatorBlock linear(const T& from, const T& to) {
 TovInterpolatorBlock TovMakeInterpolator(const NSValue& from, const NSValue& to) {
   const std::string_view type = from.objCType();
   if (type == kCATransform3DEncoding) {
-    return linear(from.CATransform3DValue(), to.CATransform3DValue());
+    return linear<16>(from.CATransform3DValue(), to.CATransform3DValue());
   }
-  if (type == kCGRectEncoding) return linear(from.CGRectValue(), to.CGRectValue());
-  if (type == kCGPointEncoding) return linear(from.CGPointValue(), to.CGPointValue());
-  if (type == kCGSizeEncoding) return linear(from.CGSizeValue(), to.CGSizeValue());
-  if (from.isNumber()) return linear(from.doubleValue(), to.doubleValue());
+  if (type == kCGRectEncoding) return linear<4>(from.CGRectValue(), to.CGRectValue());
+  if (type == kCGPointEncoding) return linear<2>(from.CGPointValue(), to.CGPointValue());
+  if (type == kCGSizeEncoding) return linear<2>(from.CGSizeValue(), to.CGSizeValue());
+  if (from.isNumber()) return linear<1>(from.doubleValue(), to.doubleValue());
   return [from, to](double fraction) { return fraction < 0.5 ? from : to; };
 }
 

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 namespace kindora {
@@ -30,7 +29,7 @@ FlowSection::FlowSection(FlowMetrics metrics, double top) : metrics_(std::move(m
 
 // The row with as many more items of the width as fit.
 FlowSection::Row FlowSection::filled(Row row, double itemWidth) const {
-  constexpr double kMost = std::numeric_limits<int>::max() / 2;
+  constexpr double kMost = 1e9;  // what an int can still count
   const double rest = available() - row.width - (row.count - 1) * metrics_.interitemSpacing;
   const double fitting = std::floor(rest / (itemWidth + metrics_.interitemSpacing));
   const double more = fitting > 0 ? std::min(fitting, kMost) : 0;

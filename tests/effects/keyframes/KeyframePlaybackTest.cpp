@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <algorithm>
 #include <limits>
-#include <utility>
+#include <memory>
 
 #include "effects/keyframes/TovCustomAnimation.h"
 #include "effects/keyframes/TovSpringAnimation.h"

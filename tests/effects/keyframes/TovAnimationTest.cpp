@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <utility>
 #include <vector>
 
 #include "effects/keyframes/TovCustomAnimation.h"

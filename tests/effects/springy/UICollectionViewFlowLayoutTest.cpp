@@ -6,6 +6,11 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <vector>
+
 #include "tests/effects/springy/SpringyFixture.h"
 
 namespace kindora {
