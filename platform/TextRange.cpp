@@ -55,6 +55,24 @@ std::size_t utf8Offset(std::string_view text, std::size_t utf16Offset) {
   return at;
 }
 
+char32_t nextCharacter(std::string_view text, std::size_t& at) {
+  constexpr char32_t kReplacement = 0xFFFD;
+  const std::size_t wanted = sequenceLength(text[at]);
+  const std::size_t bytes = characterLength(text, at);
+  const auto first = static_cast<unsigned char>(text[at]);
+  const std::string_view rest = text.substr(at + 1, bytes - 1);
+  at += bytes;
+  if (bytes == 1) return wanted == 1 && first < 0x80 ? first : kReplacement;
+  if (bytes < wanted) return kReplacement;
+  char32_t character = first & (0xFFU >> (bytes + 1));
+  for (const char c : rest) {
+    const auto byte = static_cast<unsigned char>(c);
+    if ((byte & 0xC0U) != 0x80) return kReplacement;
+    character = character << 6U | (byte & 0x3FU);
+  }
+  return character;
+}
+
 std::string stringByReplacingCharactersInRange(std::string_view text, NSRange range,
                                                std::string_view replacement) {
   const std::size_t from = utf8Offset(text, range.location);

@@ -24,6 +24,10 @@ struct NSRange {
 /// first byte when the offset lies between two surrogates.
 [[nodiscard]] std::size_t utf8Offset(std::string_view text, std::size_t utf16Offset);
 
+/// The character that begins at the byte, which must lie within the text, and moves on behind it. A
+/// broken one is the replacement character.
+[[nodiscard]] char32_t nextCharacter(std::string_view text, std::size_t& at);
+
 /// The text with the range replaced. A range that reaches beyond the end stops there.
 [[nodiscard]] std::string stringByReplacingCharactersInRange(std::string_view text, NSRange range,
                                                              std::string_view replacement);

@@ -8,6 +8,7 @@
 
 #include "app/main/MainStoryboard.h"
 #include "app/shell/AppDelegate.h"
+#include "app/shell/AppPhoneFormatEnvironment.h"
 #include "platform/qt/services/QtServices.h"
 
 Q_IMPORT_QML_PLUGIN(Kindora_AppPlugin)
@@ -23,6 +24,7 @@ bool launch(QQmlApplicationEngine& engine) {
   QGuiApplication::setDesktopFileName(QStringLiteral("org.kindora.Kindora"));
   QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/kindora/images/appIcon.svg")));
   installServices(makeQtServices());
+  installPhoneFormatEnvironment(std::make_shared<AppPhoneFormatEnvironment>());
 
   AppDelegate& delegate = AppDelegate::sharedDelegate();
   delegate.window = std::make_shared<UIWindow>();

@@ -9,6 +9,7 @@
 #include "screens/challenges/ChallengesTableViewController.h"
 #include "screens/create/CreateChallengeTableViewController.h"
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
+#include "screens/invite/InviteFriendTableViewController.h"
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
 #include "screens/picker/KindoraTableViewController.h"
 
@@ -20,6 +21,7 @@ constexpr const char* kNewChallenge = "NewChallengeDetailViewController";
 constexpr const char* kInProgressChallenge = "InProgressChallengeDetailViewController";
 constexpr const char* kBadges = "BadgesViewController";
 constexpr const char* kBadgeInfo = "BadgeInfoViewController";
+constexpr const char* kInvite = "InviteFriendTableViewController";
 constexpr const char* kPicker = "KindoraTableViewController";
 constexpr const char* kCreateNavigation = "CreateChallengeNavigationController";
 constexpr const char* kCreate = "CreateChallengeTableViewController";
@@ -95,8 +97,14 @@ std::vector<UIStoryboardScene> scenes() {
       {.identifier = kPicker,
        .make = make<KindoraTableViewController>,
        .page = page("KindoraPage"),
+       .segues = {{std::string(kInviteFriend), Kind::show, kInvite}},
        .unwindActions = {unwindAction(kUnwindToKindora,
                                       &KindoraTableViewController::unwindToKindora)}},
+      {.identifier = kInvite,
+       .make = make<InviteFriendTableViewController>,
+       .connectOutlets = connectOutlets<InviteFriendTableViewController>,
+       .page = page("InviteFriendPage"),
+       .segues = {{std::string(kUnwindToKindora), Kind::unwind, std::string(kUnwindToKindora)}}},
       {.identifier = kCreateNavigation, .make = inNavigation(kCreate)},
       {.identifier = kCreate,
        .make = make<CreateChallengeTableViewController>,

@@ -23,6 +23,11 @@ int FakeText::compare(std::string_view a, std::string_view b) const {
   return folded != 0 ? folded : a.compare(b);
 }
 
+bool FakeText::isDecimalDigit(char32_t character) const {
+  // One script beyond ASCII: Arabic-Indic.
+  return (character >= U'0' && character <= U'9') || (character >= 0x660 && character <= 0x669);
+}
+
 std::string FakeText::caseFolded(std::string_view text) const {
   std::string result = lowered(text);
   // One letter beyond ASCII, which is enough to tell folding by bytes from folding by letters.

@@ -6,6 +6,7 @@
 #include <unicode/casemap.h>
 #include <unicode/coll.h>
 #include <unicode/locid.h>
+#include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
 #include "platform/FatalError.h"
@@ -34,6 +35,10 @@ icu::StringPiece piece(std::string_view text) {
 int IcuTextService::compare(std::string_view a, std::string_view b) const {
   UErrorCode status = U_ZERO_ERROR;
   return rootCollator().compareUTF8(piece(a), piece(b), status);
+}
+
+bool IcuTextService::isDecimalDigit(char32_t character) const {
+  return u_isdigit(static_cast<UChar32>(character)) != 0;
 }
 
 std::string IcuTextService::caseFolded(std::string_view text) const {

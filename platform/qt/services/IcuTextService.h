@@ -11,6 +11,7 @@ namespace kindora {
 class IcuTextService final : public TextService {
  public:
   [[nodiscard]] int compare(std::string_view a, std::string_view b) const override;
+  [[nodiscard]] bool isDecimalDigit(char32_t character) const override;
   [[nodiscard]] std::string caseFolded(std::string_view text) const override;
   [[nodiscard]] std::string capitalized(std::string_view text) const override;
 };

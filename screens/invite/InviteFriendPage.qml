@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Platform
+import Kindora.Screens
+
+// The invitation of a friend.
+FormPage {
+    id: root
+
+    required property InviteFriendTableViewController controller
+
+    FormSection {
+        controller: root.controller
+        section: 0
+        highlighted: name.inputFocus
+
+        TextField {
+            id: name
+            objectName: "nameField"
+            owner: root.controller
+            outlet: objectName
+            label: root.controller.sectionTitles[0]
+            width: parent.width
+        }
+    }
+
+    FormSection {
+        controller: root.controller
+        section: 1
+        highlighted: number.inputFocus
+
+        TextField {
+            id: number
+            objectName: "numberField"
+            owner: root.controller
+            outlet: objectName
+            label: root.controller.sectionTitles[1]
+            width: parent.width
+        }
+    }
+
+    FormSection {
+        controller: root.controller
+        section: 2
+        rowHeight: 120
+        highlighted: message.inputFocus
+
+        TextView {
+            id: message
+            objectName: "messageField"
+            owner: root.controller
+            outlet: objectName
+            label: root.controller.sectionTitles[2]
+            anchors.fill: parent
+        }
+    }
+}

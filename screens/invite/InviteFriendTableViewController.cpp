@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "screens/invite/InviteFriendTableViewController.h"
+
+#include "app/PhoneNumberEdit.h"
+#include "app/RunAfterDelay.h"
+#include "model/Friends.h"
+#include "platform/Services.h"
+#include "platform/qt/toolkit/UIAlertController.h"
+#include "screens/SegueIdentifiers.h"
+
+namespace kindora {
+namespace {
+
+enum Section { kNameSection, kNumberSection, kMessageSection };
+
+constexpr UIColor kInvalid{0.82, 0.01, 0.11, 1};
+constexpr double kAlertSeconds = 2;
+
+}  // namespace
+
+InviteFriendTableViewController::InviteFriendTableViewController()
+    : UIStaticTableViewController({"Name", "Phone Number", "Message"}),
+      phoneFormat(LuPhoneFormat::init()) {}
+
+void InviteFriendTableViewController::connectOutlets() {
+  setTitle(QStringLiteral("Invite a Friend"));
+  navigationItem()->setRightBarButtonItem(std::make_shared<UIBarButtonItem>(
+      QStringLiteral("Send"), QString(), [this] { sendInvite(); }));
+  UIView& root = *view();
+  const auto self = std::static_pointer_cast<InviteFriendTableViewController>(shared_from_this());
+  const auto field = [&](std::weak_ptr<UITextField>& outlet, std::string_view name,
+                         UIKeyboardType keyboard) {
+    const auto made = connectOutlet(outlet, name, root);
+    made->setKeyboardType(keyboard);
+    made->setReturnKeyType(UIReturnKeyType::next);
+    made->setDelegate(self);
+  };
+  field(nameField, "nameField", UIKeyboardType::standard);
+  field(numberField, "numberField", UIKeyboardType::phonePad);
+  connectOutlet(messageField, "messageField", root)->setDelegate(self);
+}
+
+// --- Life ---
+
+void InviteFriendTableViewController::viewDidLoad() {
+  UIStaticTableViewController::viewDidLoad();
+  phoneChars = CharacterSet::decimalDigitCharacterSet();
+  phoneChars->addCharactersInString("+*#,");
+  connected(messageField)->setContentInset(0);
+  navigationItem()->rightBarButtonItem()->setEnabled(false);
+}
+
+void InviteFriendTableViewController::viewDidAppear(bool animated) {
+  UIStaticTableViewController::viewDidAppear(animated);
+  if (connected(nameField)->text().empty()) connected(nameField)->becomeFirstResponder();
+}
+
+// --- Keyboard and rows ---
+
+bool InviteFriendTableViewController::textFieldShouldReturn(UITextField& field) {
+  if (&field == connected(nameField).get()) {
+    connected(numberField)->becomeFirstResponder();
+  } else if (&field == connected(numberField).get()) {
+    connected(messageField)->becomeFirstResponder();
+  }
+  return false;
+}
+
+void InviteFriendTableViewController::tableViewDidSelectRowAtIndexPath(IndexPath path) {
+  switch (path.section) {
+    case kNameSection:
+      connected(nameField)->becomeFirstResponder();
+      break;
+    case kNumberSection:
+      connected(numberField)->becomeFirstResponder();
+      break;
+    case kMessageSection:
+      connected(messageField)->becomeFirstResponder();
+      break;
+    default:
+      break;
+  }
+}
+
+// --- Editing ---
+
+bool InviteFriendTableViewController::textFieldShouldChangeCharactersInRange(
+    UITextField& field, NSRange /*range*/, std::string_view replacementString) {
+  const auto number = connected(numberField);
+  if (&field != number.get()) {
+    enableSend(number->text());
+    return true;
+  }
+  const PhoneNumberEdit edit = editPhoneNumber(*phoneFormat, *phoneChars, number->text(),
+                                               number->selectedRange(), replacementString);
+  number->setTextColor(edit.valid ? UIColor::blackColor() : kInvalid);
+  if (edit.isPlain()) {
+    enableSend(edit.typed);
+    return true;
+  }
+  number->setText(edit.phone);
+  number->setSelectedRange({edit.caret, 0});
+  enableSend(edit.phone);
+  return false;
+}
+
+void InviteFriendTableViewController::textViewDidChange(UITextView& /*view*/) {
+  enableSend(connected(numberField)->text());
+}
+
+void InviteFriendTableViewController::enableSend(std::string_view number) {
+  const bool complete =
+      !connected(nameField)->text().empty() && !connected(numberField)->text().empty() &&
+      !connected(messageField)->text().empty() && phoneFormat->isPhoneNumberValid(number);
+  navigationItem()->rightBarButtonItem()->setEnabled(complete);
+}
+
+// --- Sending ---
+
+void InviteFriendTableViewController::sendInvite() {
+  view()->endEditing(true);
+  const std::string name = connected(nameField)->text();
+  if (name.empty()) return;
+  invitedFriend = std::make_shared<User>(
+      name + " (Invited)", services().bundle->imageNamed("placeholderImage"), std::nullopt);
+  Friends::sharedInstance().addFriend(invitedFriend);
+  const auto alert = makeViewController<UIAlertController>("Invitation sent!", std::nullopt,
+                                                           UIAlertControllerStyle::alert);
+  presentViewController(alert, true);
+  runAfterDelay(kAlertSeconds, *services().mainQueue, guarded([this, alert] {
+                  alert->dismissViewController(true, guarded([this] { inviteConfirmed(); }));
+                }));
+}
+
+void InviteFriendTableViewController::inviteConfirmed() {
+  performSegueWithIdentifier(kUnwindToKindora, shared_from_this());
+}
+
+}  // namespace kindora
