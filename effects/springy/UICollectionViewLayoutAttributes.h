@@ -13,17 +13,13 @@ namespace kindora {
 class UICollectionViewLayoutAttributes final {
  public:
   UICollectionViewLayoutAttributes(IndexPath indexPath, const CGRect& frame)
-      : indexPath_(indexPath),
-        center_{frame.origin.x + frame.size.width / 2, frame.origin.y + frame.size.height / 2},
-        size_(frame.size) {}
+      : indexPath_(indexPath), center_(centerOf(frame)), size_(frame.size) {}
 
   [[nodiscard]] IndexPath indexPath() const { return indexPath_; }
   [[nodiscard]] CGPoint center() const { return center_; }
   void setCenter(CGPoint center) { center_ = center; }
   [[nodiscard]] CGSize size() const { return size_; }
-  [[nodiscard]] CGRect frame() const {
-    return {{center_.x - size_.width / 2, center_.y - size_.height / 2}, size_};
-  }
+  [[nodiscard]] CGRect frame() const { return rectAround(center_, size_); }
 
  private:
   IndexPath indexPath_;

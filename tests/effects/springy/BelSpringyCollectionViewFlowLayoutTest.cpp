@@ -395,6 +395,18 @@ TEST(BelSpringyCollectionViewFlowLayout, ContentIsThatOfTheFlow) {
   EXPECT_EQ(springy.layout.collectionViewContentSize(), (CGSize{120, 10 + 110.0 * 100}));
 }
 
+TEST(BelSpringyCollectionViewFlowLayout, MovesByItselfUntilItsAnimatorRests) {
+  SpringyColumn springy(1);
+  UICollectionViewLayout& layout = springy.layout;
+  EXPECT_TRUE(layout.isResting());
+  EXPECT_FALSE(layout.advance(1));
+  springy.scrollBy(0, 50);
+  EXPECT_FALSE(layout.isResting());
+  EXPECT_TRUE(layout.advance(5));
+  EXPECT_EQ(springy.lag(0), 0);
+  EXPECT_TRUE(layout.isResting());
+}
+
 TEST(BelSpringyCollectionViewFlowLayout, ReloadDropsAllSpringsAndTheirDisplacement) {
   SpringyColumn springy(100);
   springy.scrollBy(0, 30);

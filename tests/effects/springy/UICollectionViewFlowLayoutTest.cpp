@@ -286,6 +286,12 @@ TEST(UICollectionViewFlowLayout, ChangeOfItsOwnSizesInvalidatesIt) {
   }
 }
 
+TEST(UICollectionViewFlowLayout, NeverMovesByItself) {
+  UICollectionViewFlowLayout layout;
+  EXPECT_TRUE(layout.isResting());
+  EXPECT_FALSE(layout.advance(1));
+}
+
 TEST(UICollectionViewFlowLayout, LaysOutNothingWithoutAView) {
   UICollectionViewFlowLayout layout;
   layout.prepareLayout();
