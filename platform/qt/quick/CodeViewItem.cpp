@@ -48,7 +48,10 @@ void CodeViewItem::viewDidChange() {
 
 void CodeViewItem::drawShadow() {
   const UIViewState& shown = view_->presentation();
-  if (shadow_ == nullptr) shadow_ = new ShadowItem(this);
+  if (shadow_ == nullptr) {
+    shadow_ = new ShadowItem(this);
+    shadow_->setZ(-1);  // below the view's own ground
+  }
   shadow_->setPosition({shown.shadowOffset.width, shown.shadowOffset.height});
   shadow_->setSize(size());
   shadow_->setRadius(view_->shadowPathRadius() >= 0 ? view_->shadowPathRadius()
@@ -102,7 +105,10 @@ QSGNode* CodeViewItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
 }
 
 void CodeViewItem::mousePressEvent(QMouseEvent* event) { event->accept(); }
-void CodeViewItem::wheelEvent(QWheelEvent* event) { event->accept(); }
+// Wheels, unlike presses, come whether they are asked for or not.
+void CodeViewItem::wheelEvent(QWheelEvent* event) {
+  event->setAccepted(view_->isUserInteractionEnabled());
+}
 void CodeViewItem::touchEvent(QTouchEvent* event) { event->accept(); }
 
 void drawSubviews(const UIView& view, QQuickItem& parent,

@@ -23,9 +23,9 @@ const QColor kBack(236, 241, 232);    // of the page
 // A band across the page's way, far wider than the page.
 QRectF band(double from, double to, double reach) { return {-reach, from, 2 * reach, to - from}; }
 
-void shade(QPainter& painter, double dark, double clear, double reach) {
+void shade(QPainter& painter, double dark, double clear, double reach, double strength) {
   QLinearGradient gradient(0, dark, 0, clear);
-  gradient.setColorAt(0, QColor::fromRgbF(0, 0, 0, static_cast<float>(kShadeAlpha)));
+  gradient.setColorAt(0, QColor::fromRgbF(0, 0, 0, static_cast<float>(kShadeAlpha * strength)));
   gradient.setColorAt(1, QColor(0, 0, 0, 0));
   painter.fillRect(band(std::min(dark, clear), std::max(dark, clear), reach), gradient);
 }
@@ -78,16 +78,18 @@ void PageCurlItem::paint(QPainter* target) {
   const double reach = width + height;
   const double fold = way * laid_;
   const double flap = std::min(way - fold, way * kFlap);
+  // Comes and goes with the fold, so that a page lies flat at both ends of its way.
+  const double strength = std::clamp(std::min(laid_, 1 - laid_) / kShade, 0.0, 1.0);
   const auto turned = [&](QPainter& brush) { brush.rotate(-kTilt * 180 / M_PI); };
 
   // The fold's shade on what lies below, and the part that is laid.
   turned(painter);
-  shade(painter, fold, fold + way * kShade, reach);
+  shade(painter, fold, fold + way * kShade, reach, strength);
   painter.setClipRect(band(-reach, fold, reach));
   painter.resetTransform();
   painter.drawImage(0, 0, page);
   turned(painter);
-  shade(painter, fold - flap, fold - flap - way * kShade, reach);
+  shade(painter, fold - flap, fold - flap - way * kShade, reach, strength);
 
   // The part that is bent back: its back, through which the page's mirror image shines.
   painter.setClipRect(band(fold - flap, fold, reach));

@@ -105,6 +105,12 @@ QImage PictureItem::drawn(QSize pixels, double ratio) const {
     painter.drawImage(corner0, picture);
     return result;
   }
+  // Beside a picture that fits, the brush would begin anew.
+  if (fits_) {
+    QPainterPath whole;
+    whole.addRect(QRectF(corner0, filled));
+    shape = shape.intersected(whole);
+  }
   QBrush brush(picture);
   brush.setTransform(QTransform::fromTranslate(corner0.x(), corner0.y()));
   painter.fillPath(shape, brush);

@@ -75,7 +75,9 @@ void ViewItem::viewDidChange() {
 
 void ViewItem::geometryChange(const QRectF& now, const QRectF& before) {
   QQuickItem::geometryChange(now, before);
-  if (view_) view_->reportFrame({{now.x(), now.y()}, {now.width(), now.height()}});
+  if (!view_) return;
+  view_->reportFrame({{now.x(), now.y()}, {now.width(), now.height()}});
+  keyframeTransform_.set(view_->keyframeValues().transform, *this);  // about the new centre
 }
 
 QString ViewItem::text() const {

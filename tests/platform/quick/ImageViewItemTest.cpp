@@ -22,14 +22,14 @@ class ImageViewItemTest : public QuickFixture {
 TEST_F(ImageViewItemTest, APhotoHasNoTint) {
   view->setTintColor(UIColor::blackColor());
   view->setImage(plainPicture(2, 2, kRed));
-  EXPECT_FALSE(item->tint().isValid());
+  EXPECT_FALSE(item->imageTint().isValid());
 }
 
 TEST_F(ImageViewItemTest, ATemplateIsDrawnInTheViewsTint) {
   view->setTintColor({1, 0, 0, 1});
   view->setImage(
       plainPicture(2, 2, kBlue)->imageWithRenderingMode(UIImageRenderingMode::alwaysTemplate));
-  EXPECT_EQ(item->tint(), QColor(Qt::red));
+  EXPECT_EQ(item->imageTint(), QColor(Qt::red));
 }
 
 TEST_F(ImageViewItemTest, OffersBorderAndContentMode) {

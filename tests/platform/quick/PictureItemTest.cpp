@@ -204,5 +204,57 @@ TEST_F(PictureItemTest, TellsANewNameOnceAndThePictureWithIt) {
   EXPECT_EQ(images, 1);
 }
 
+// --- Fitting ---
+
+TEST_F(PictureItemTest, FillsUnlessToldToFit) {
+  EXPECT_FALSE(item->fits());
+  show(plainPicture(8, 4, kRed));
+  EXPECT_EQ(pixel(40, 22), QColor(Qt::red));
+}
+
+TEST_F(PictureItemTest, FitsAWidePictureAcross) {
+  item->setFits(true);
+  show(plainPicture(8, 4, kRed));
+  const QImage image = drawn();
+  EXPECT_EQ(image.pixelColor(21, 40), QColor(Qt::red));
+  EXPECT_EQ(image.pixelColor(58, 40), QColor(Qt::red));
+  EXPECT_EQ(image.pixelColor(40, 25), QColor(Qt::white));
+  EXPECT_EQ(image.pixelColor(40, 55), QColor(Qt::white));
+}
+
+TEST_F(PictureItemTest, FitsAHighPictureDown) {
+  item->setFits(true);
+  show(plainPicture(4, 8, kRed));
+  const QImage image = drawn();
+  EXPECT_EQ(image.pixelColor(40, 21), QColor(Qt::red));
+  EXPECT_EQ(image.pixelColor(40, 58), QColor(Qt::red));
+  EXPECT_EQ(image.pixelColor(25, 40), QColor(Qt::white));
+}
+
+TEST_F(PictureItemTest, APictureThatFitsKeepsItsRoundedFrameClear) {
+  item->setFits(true);
+  item->setRadius(10);
+  show(plainPicture(8, 4, kRed));
+  const QImage image = drawn();
+  EXPECT_EQ(image.pixelColor(40, 25), QColor(Qt::white));
+  EXPECT_EQ(image.pixelColor(40, 40), QColor(Qt::red));
+}
+
+TEST_F(PictureItemTest, APictureThatFitsAndIsTintedIsTintedAlone) {
+  item->setFits(true);
+  item->setTint(Qt::darkMagenta);
+  show(plainPicture(8, 4, kRed));
+  EXPECT_EQ(pixel(40, 40), QColor(Qt::darkMagenta));
+  EXPECT_EQ(pixel(40, 25), QColor(Qt::white));
+}
+
+TEST_F(PictureItemTest, TellsOnceThatItFits) {
+  int changes = 0;
+  QObject::connect(item.get(), &PictureItem::fitsChanged, [&changes] { ++changes; });
+  item->setFits(true);
+  item->setFits(true);
+  EXPECT_EQ(changes, 1);
+}
+
 }  // namespace
 }  // namespace kindora

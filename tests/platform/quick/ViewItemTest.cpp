@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 
 #include "platform/fakes/ManualQueue.h"
+#include "platform/qt/quick/Appearance.h"
 #include "platform/qt/toolkit/UIViewAnimation.h"
 #include "platform/view/UIButton.h"
 #include "platform/view/UIImageView.h"
@@ -238,6 +239,128 @@ TEST_F(ViewItemTest, ReportsEveryChangeOfItsPlace) {
   EXPECT_EQ(view->frame(), (CGRect{{15, 20}, {30, 40}}));
   item->setSize({50, 60});
   EXPECT_EQ(view->frame(), (CGRect{{15, 20}, {50, 60}}));
+}
+
+// --- Where it is ---
+
+TEST_F(ViewItemTest, TellsItsViewWhereItIsInTheWindow) {
+  const auto view = owner.make<UIView>("box");
+  draw("box");
+  EXPECT_EQ(view->originInWindow(), (CGPoint{10, 20}));
+  item->setX(35);
+  EXPECT_EQ(view->originInWindow(), (CGPoint{35, 20}));
+}
+
+TEST_F(ViewItemTest, CountsEveryItemAroundIt) {
+  const auto outer = place<QQuickItem>({5, 7, 100, 100});
+  const auto view = owner.make<UIView>("box");
+  item->setParentItem(outer.get());
+  draw("box");
+  EXPECT_EQ(view->originInWindow(), (CGPoint{15, 27}));
+}
+
+TEST_F(ViewItemTest, AViewOutlivesTheItemThatPlacedIt) {
+  const auto view = owner.make<UIView>("box");
+  {
+    const auto passing = place<ViewItem>({60, 70, 1, 1});
+    passing->setOutlet(QStringLiteral("box"));
+    passing->setOwner(&owner);
+    EXPECT_EQ(view->originInWindow(), (CGPoint{60, 70}));
+  }
+  EXPECT_EQ(view->originInWindow(), (CGPoint{60, 70}));  // from its frame now
+}
+
+// --- Hiding, controls and pictures ---
+
+TEST_F(ViewItemTest, IsHiddenWithItsView) {
+  const auto view = owner.make<UIView>("box");
+  draw("box");
+  view->setHidden(true);
+  EXPECT_FALSE(item->isVisible());
+  view->setHidden(false);
+  EXPECT_TRUE(item->isVisible());
+}
+
+TEST_F(ViewItemTest, IsDisabledWithAnyControl) {
+  const auto control = owner.make<UIControl>("control");
+  draw("control");
+  control->setEnabled(false);
+  EXPECT_FALSE(item->isEnabled());
+}
+
+TEST_F(ViewItemTest, ShowsThePictureOfAButton) {
+  const auto button = owner.make<UIButton>("button");
+  draw("button");
+  EXPECT_EQ(item->image().image, nullptr);
+  const UIImageRef image = plainPicture(1, 1, kRed);
+  button->setImage(image);
+  EXPECT_EQ(item->image().image, image);
+}
+
+TEST_F(ViewItemTest, HearsWhatChangesInTheImageViewOfAButton) {
+  const auto button = owner.make<UIButton>("button");
+  draw("button");
+  QSignalSpy changes(item.get(), &ViewItem::viewChanged);
+  button->imageView().setContentMode(UIViewContentMode::scaleAspectFit);
+  EXPECT_EQ(changes.count(), 1);
+  EXPECT_TRUE(item->imageFits());
+}
+
+TEST_F(ViewItemTest, KnowsAPictureThatFits) {
+  const auto view = owner.make<UIImageView>("picture");
+  draw("picture");
+  EXPECT_FALSE(item->imageFits());
+  view->setContentMode(UIViewContentMode::scaleAspectFit);
+  EXPECT_TRUE(item->imageFits());
+}
+
+TEST_F(ViewItemTest, OnlyATemplateHasATint) {
+  const auto view = owner.make<UIImageView>("picture");
+  draw("picture");
+  view->setTintColor(UIColor::yellowColor());
+  EXPECT_FALSE(item->imageTint().isValid());
+  const UIImageRef image = plainPicture(1, 1, kRed);
+  view->setImage(image);
+  EXPECT_FALSE(item->imageTint().isValid());
+  view->setImage(image->imageWithRenderingMode(UIImageRenderingMode::alwaysTemplate));
+  EXPECT_EQ(item->imageTint(), QColor(Qt::yellow));
+}
+
+TEST_F(ViewItemTest, ATemplateWithoutATintTakesThatOfTheApp) {
+  const auto view = owner.make<UIImageView>("picture");
+  draw("picture");
+  view->setImage(
+      plainPicture(1, 1, kRed)->imageWithRenderingMode(UIImageRenderingMode::alwaysTemplate));
+  EXPECT_EQ(item->imageTint(), Appearance::tint());
+}
+
+// --- Keyframes ---
+
+TEST_F(ViewItemTest, ShowsTheOpacityOfKeyframes) {
+  const auto view = owner.make<UIView>("box");
+  draw("box");
+  view->setKeyframeValues({.opacity = 0.25});
+  EXPECT_EQ(item->opacity(), 0.25);
+  view->setKeyframeValues({});
+  EXPECT_EQ(item->opacity(), 1);
+}
+
+TEST_F(ViewItemTest, TheTransformOfKeyframesActsAboutTheCentre) {
+  const auto view = owner.make<UIView>("box");
+  draw("box");
+  view->setKeyframeValues({.transform = CATransform3DMakeScale(2, 3, 1)});
+  EXPECT_EQ(item->mapToScene({15, 20}), QPointF(25, 40));
+  EXPECT_EQ(item->mapToScene({30, 40}), QPointF(55, 100));
+  view->setKeyframeValues({});
+  EXPECT_EQ(item->mapToScene({30, 40}), QPointF(40, 60));
+}
+
+TEST_F(ViewItemTest, TheTransformOfKeyframesStaysAboutTheCentreWhenTheItemGrows) {
+  const auto view = owner.make<UIView>("box");
+  draw("box");
+  view->setKeyframeValues({.transform = CATransform3DMakeScale(2, 2, 1)});
+  item->setSize({60, 80});
+  EXPECT_EQ(item->mapToScene({30, 40}), QPointF(40, 60));
 }
 
 }  // namespace
