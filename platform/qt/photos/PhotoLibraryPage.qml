@@ -18,10 +18,10 @@ Rectangle {
         visible: root.controller.choosesElsewhere
         imageName: "photos"
         message: "Choose a picture in the window that opens."
-        opacity: 0
 
         // Where there is no such window, that is known at once.
         SequentialAnimation on opacity {
+            PropertyAction { value: 0 }
             PauseAnimation { duration: 400 }
             NumberAnimation { to: 1; duration: 200 }
         }

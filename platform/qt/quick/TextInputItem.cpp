@@ -87,8 +87,8 @@ void TextInputItem::edit(const QString& text, const QString& preedit, int caret)
   if (text != before) {
     // Text that was undecided until now stands no more in the view when it answers.
     const TextEdit change = editBetween(before, view->selectedRange(), text, caret);
-    // The view may go by its selection. Only a backspace leaves the caret where it is; whatever else
-    // changes some other place, such as a forward delete or an undo, selects that place first.
+    // The view may go by its selection. Only a backspace leaves the caret where it is; whatever
+    // else changes some other place, such as a forward delete or an undo, selects that place first.
     const NSRange selection = view->selectedRange();
     const bool backspace = selection.length == 0 && change.replacement.isEmpty() &&
                            change.range.length == 1 && change.range.end() == selection.location;

@@ -3,7 +3,7 @@
 #include "screens/create/CreateChallengeTableViewController.h"
 
 #include "screens/SegueIdentifiers.h"
-#include "screens/badges/BadgesViewController.h"
+#include "screens/picker/KindoraTableViewController.h"
 #include "tests/support/AppFixture.h"
 
 namespace kindora {
@@ -399,9 +399,8 @@ TEST_F(CreateChallengeTableViewControllerTest, KindoraHandsTheChallengeToTheBadg
   EXPECT_FALSE(isOpen());
   EXPECT_EQ(tabs().selectedIndex(), 1);
   const auto& badges = dynamic_cast<UINavigationController&>(*tabs().viewControllers()[1]);
-  EXPECT_EQ(
-      dynamic_cast<BadgesViewController&>(*badges.viewControllers().front()).challengeToPassOn(),
-      made);
+  const auto& picker = dynamic_cast<KindoraTableViewController&>(*badges.topViewController());
+  EXPECT_EQ(picker.challenge, made);
 }
 
 TEST_F(CreateChallengeTableViewControllerTest, CreatingRaisesNoBadgeOnTheTab) {
