@@ -55,8 +55,8 @@ TEST_F(PhoneNumberEditTest, WithoutPhoneCharactersBeforeItTheCaretGoesBehindTheB
 
 TEST_F(PhoneNumberEditTest, WithoutPhoneCharactersBeforeItAndADigitInFrontTheCaretGoesToTheEnd) {
   const PhoneNumberEdit result = edit("41212555267", {0, 1}, "");
-  EXPECT_EQ(result.phone, "1 (212) 555-267");
-  EXPECT_EQ(result.caret, 15u);
+  EXPECT_EQ(result.phone, "1 212-555-267");
+  EXPECT_EQ(result.caret, 13u);
 }
 
 TEST_F(PhoneNumberEditTest, APastedNumberTakesTheSelectionsPlace) {

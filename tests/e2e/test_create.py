@@ -141,14 +141,24 @@ class Create(kindora_e2e.AppTest):
         self.wait_closed()
         self.assertIsNotNone(self.app.find("Badges", role="page tab"))
 
-    def test_kindora_leads_to_the_badges(self):
+    def test_kindora_leads_to_the_picker_and_back_to_the_first_badge(self):
         self.create()
         self.press("Kindora!")
         self.app.wait_gone(role="alert")
-        kindora_e2e.wait_until(
-            lambda: self.app.wait_for("Badges", role="page tab").has("selected"),
-            "the Badges tab is selected",
-        )
+        self.app.wait_for('Passing on "Wave at a stranger"...')
+        self.assertTrue(self.app.wait_for("Badges", role="page tab").has("selected"))
+        self.press("Back")
+        created = "You created this challenge!\nNow Kindora to a friend!"
+        self.app.wait_still(self.app.wait_for(created))
+        self.press("Back")
+        self.app.wait_for("Wave at a stranger", role="push button")
+
+    def test_the_badges_open_it_too(self):
+        self.press("Cancel")
+        self.wait_closed()
+        self.app.click(self.app.wait_for("Badges", role="page tab"))
+        self.app.wait_for("Badges", role="heading")
+        self.open_screen()
 
     def test_the_well_shows_the_photo(self):
         self.choose_photo()

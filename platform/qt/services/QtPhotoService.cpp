@@ -23,7 +23,7 @@ void QtPhotoService::inBackground(int priority, Work work, Answer answer) {
     readers_ = std::make_unique<QThreadPool>();
     readers_->setMaxThreadCount(2);  // the rest of the phone wants to live too
     // Readers end with the application: what waits is dropped, what runs is waited for.
-    QObject::connect(QCoreApplication::instance(), &QObject::destroyed,
+    QObject::connect(QCoreApplication::instance(), &QObject::destroyed, &lifetime_,
                      [this] { readers_.reset(); });
   }
   const auto job = [work = std::move(work), answer = std::move(answer), replies = replies_] {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QObject>
 #include <QThreadPool>
 #include <memory>
 
@@ -31,6 +32,7 @@ class QtPhotoService final : public PhotoService {
   std::shared_ptr<DispatchQueue> replies_;
   std::unique_ptr<FileChooserPortal> portal_;
   std::unique_ptr<QThreadPool> readers_;
+  QObject lifetime_;  // ends connections with the service
 };
 
 }  // namespace kindora

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "screens/create/CreateChallengeTableViewController.h"
 
-#include "screens/SegueIdentifiers.h"
 #include "screens/picker/KindoraTableViewController.h"
 #include "tests/support/AppFixture.h"
 
@@ -100,7 +99,7 @@ TEST_F(CreateChallengeTableViewControllerTest, OpensFromTheBadgesToo) {
   tabs().setSelectedIndex(1);
   const auto& badges =
       dynamic_cast<UINavigationController&>(*tabs().viewControllers()[1]).topViewController();
-  badges->performSegueWithIdentifier(kCreateChallenge);
+  badges->navigationItem()->rightBarButtonItem()->press();
   time.advance(0.5);
   EXPECT_NE(tabs().presentedViewController(), nullptr);
 }
@@ -398,9 +397,10 @@ TEST_F(CreateChallengeTableViewControllerTest, KindoraHandsTheChallengeToTheBadg
   time.advance(0.7);
   EXPECT_FALSE(isOpen());
   EXPECT_EQ(tabs().selectedIndex(), 1);
-  const auto& badges = dynamic_cast<UINavigationController&>(*tabs().viewControllers()[1]);
-  const auto& picker = dynamic_cast<KindoraTableViewController&>(*badges.topViewController());
-  EXPECT_EQ(picker.challenge, made);
+  const auto& badges =
+      dynamic_cast<UINavigationController&>(*tabs().viewControllers()[1]).viewControllers();
+  ASSERT_EQ(badges.size(), 3U);
+  EXPECT_EQ(dynamic_cast<KindoraTableViewController&>(*badges.back()).challenge, made);
 }
 
 TEST_F(CreateChallengeTableViewControllerTest, CreatingRaisesNoBadgeOnTheTab) {
