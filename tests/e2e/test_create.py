@@ -57,8 +57,10 @@ class Create(kindora_e2e.AppTest):
         self.app.wait_gone("Take Photo", role="push button")
 
     def wait_closed(self):
-        self.app.wait_for("Challenges", role="heading")
-        self.app.wait_gone("Create", role="push button")
+        """Waits until the screen has gone altogether, so that the one below takes presses."""
+        kindora_e2e.wait_until(
+            lambda: self.app.find("Title", role="text", showing=None) is None, "the screen is gone"
+        )
 
     def write_texts(self):
         self.app.type("Wave at a stranger")
@@ -145,6 +147,7 @@ class Create(kindora_e2e.AppTest):
         self.create()
         self.press("Kindora!")
         self.app.wait_gone(role="alert")
+        self.wait_closed()
         self.app.wait_for('Passing on "Wave at a stranger"...')
         self.assertTrue(self.app.wait_for("Badges", role="page tab").has("selected"))
         self.press("Back")
