@@ -24,6 +24,11 @@ struct WrittenNumber {
   std::string_view national;
 };
 
+bool mayFit(const RuleSet& set, const WrittenNumber& number, bool prefixRequired) {
+  return set.mayFit(number.national, number.intlPrefix.has_value(), number.trunkPrefix.has_value(),
+                    prefixRequired);
+}
+
 WrittenNumber split(const CallingCodeInfo& info, std::string_view digits) {
   if (digits.starts_with(info.callingCode)) {
     return {info.callingCode, std::nullopt, digits.substr(info.callingCode.size())};
@@ -46,6 +51,7 @@ std::string CallingCodeInfo::format(std::string_view digits) const {
   const WrittenNumber number = split(*this, digits);
   for (const bool prefixRequired : {true, false}) {
     for (const RuleSet& set : ruleSets) {
+      if (!mayFit(set, number, prefixRequired)) continue;
       std::optional<std::string> text =
           set.format(number.national, number.intlPrefix, number.trunkPrefix, prefixRequired);
       if (text) return *std::move(text);
@@ -60,7 +66,8 @@ bool CallingCodeInfo::isValidPhoneNumber(std::string_view digits) const {
   const WrittenNumber number = split(*this, digits);
   return std::ranges::any_of(std::initializer_list<bool>{true, false}, [&](bool prefixRequired) {
     return std::ranges::any_of(ruleSets, [&](const RuleSet& set) {
-      return set.isValid(number.national, number.intlPrefix, number.trunkPrefix, prefixRequired);
+      return mayFit(set, number, prefixRequired) &&
+             set.isValid(number.national, number.intlPrefix, number.trunkPrefix, prefixRequired);
     });
   });
 }

@@ -122,15 +122,15 @@ std::optional<std::set<std::string>> LuPhoneFormat::countriesForCallingCode(
 }
 
 const CallingCodeInfo* LuPhoneFormat::findCallingCodeInfo(std::string_view digits) {
+  // What has no shorter code once has none ever; most numbers have the code of the one before.
+  if (lastFound_ && digits.starts_with(lastFound_->callingCode)) return lastFound_;
   const std::size_t longest = std::min(digits.size(), kLongestCallingCode);
   for (std::size_t length = 1; length <= longest; ++length) {
-    if (const CallingCodeInfo* info = callingCodeInfo(digits.substr(0, length))) return info;
+    if (const CallingCodeInfo* info = callingCodeInfo(digits.substr(0, length))) {
+      return lastFound_ = info;
+    }
   }
   return nullptr;
-}
-
-const CallingCodeInfo* LuPhoneFormat::defaultCallingCodeInfo() {
-  return defaultCallingCode_ ? callingCodeInfo(*defaultCallingCode_) : nullptr;
 }
 
 std::string LuPhoneFormat::format(std::string_view text) {
@@ -142,7 +142,7 @@ std::string LuPhoneFormat::format(std::string_view text) {
     if (!info) return std::string(text);
     return std::move(info->format(digits).insert(0, 1, '+'));
   }
-  const CallingCodeInfo* const home = defaultCallingCodeInfo();
+  const CallingCodeInfo* const home = defaultInfo_;
   if (!home) return std::string(text);
   const std::optional<std::string_view> accessCode = home->matchingAccessCode(number);
   if (!accessCode) return home->format(number);
@@ -161,7 +161,7 @@ bool LuPhoneFormat::isPhoneNumberValid(std::string_view text) {
     const CallingCodeInfo* const info = findCallingCodeInfo(number);
     return info && info->isValidPhoneNumber(number);
   }
-  const CallingCodeInfo* const home = defaultCallingCodeInfo();
+  const CallingCodeInfo* const home = defaultInfo_;
   if (!home) return false;
   const std::optional<std::string_view> accessCode = home->matchingAccessCode(number);
   if (!accessCode) return home->isValidPhoneNumber(number);

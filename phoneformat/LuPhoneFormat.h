@@ -88,7 +88,6 @@ class LuPhoneFormat final {
                                         std::vector<std::string>& texts) const;
   [[nodiscard]] PhoneRule readRule(std::uint32_t offset, std::uint32_t pool) const;
   void readBlock(std::uint32_t block, CallingCodeInfo& info) const;
-  [[nodiscard]] const CallingCodeInfo* defaultCallingCodeInfo();
 
   PhoneFormatData data_;
   std::string defaultCountry_;
@@ -97,6 +96,9 @@ class LuPhoneFormat final {
   ShortTextMap<std::set<std::string>> callingCodeCountries_;
   ShortTextMap<CallingCodeInfo> callingCodeData_;
   ShortTextMap<std::string> countryCallingCode_;
+
+  const CallingCodeInfo* defaultInfo_ = nullptr;  // of defaultCallingCode_
+  const CallingCodeInfo* lastFound_ = nullptr;    // by findCallingCodeInfo
 };
 
 }  // namespace kindora

@@ -73,7 +73,7 @@ void LuPhoneFormat::parseDataHeader() {
     callingCodeOffsets_.insert_or_assign(callingCode, blocks + value32(entry + kEntryOffset));
     callingCodeCountries_[callingCode].insert(country);
   }
-  if (defaultCallingCode_) callingCodeInfo(*defaultCallingCode_);
+  if (defaultCallingCode_) defaultInfo_ = callingCodeInfo(*defaultCallingCode_);
 }
 
 const CallingCodeInfo* LuPhoneFormat::callingCodeInfo(std::string_view callingCode) {

@@ -4,19 +4,19 @@
 
 #include <cstddef>
 #include <fstream>
-#include <iterator>
-#include <span>
+#include <ios>
 
 namespace kindora {
 
 std::optional<PhoneFormatData> readPhoneFormatFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  std::ifstream file(path, std::ios::binary | std::ios::ate);
+  const std::streamoff size = file.tellg();
+  if (!file || size < 0) return std::nullopt;
+  PhoneFormatData data(static_cast<std::size_t>(size));
+  file.seekg(0);
   // A folder opens but does not read.
-  if (file.bad()) return std::nullopt;
-  const auto bytes = std::as_bytes(std::span(text));
-  return PhoneFormatData(bytes.begin(), bytes.end());
+  if (!file.read(reinterpret_cast<char*>(data.data()), size)) return std::nullopt;
+  return data;
 }
 
 }  // namespace kindora

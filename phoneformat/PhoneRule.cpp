@@ -3,36 +3,81 @@
 #include "phoneformat/PhoneRule.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace kindora {
 namespace {
 
-constexpr std::size_t kUsualLength = 20;
+// Room for a "+" or an access code, which often goes in front of a text.
+constexpr std::size_t kRoomInFront = 8;
 
-class Expansion {
+// Text that grows in place where it is as short as a phone number, so that only the result is
+// allocated.
+class Line final {
  public:
-  Expansion(std::string_view digits, PrefixText intlPrefix, PrefixText trunkPrefix)
-      : digits_(digits), intlPrefix_(intlPrefix), trunkPrefix_(trunkPrefix) {}
+  explicit Line(std::size_t most) {
+    if (most > small_.size()) {
+      large_.resize(most);
+      start_ = large_.data();
+    }
+  }
+  Line(const Line&) = delete;
+  Line& operator=(const Line&) = delete;
 
-  std::string operator()(std::string_view pattern) {
-    result_.reserve(std::max(kUsualLength, pattern.size() + prefixLength() + 1));
-    char before = '\0';
-    for (const char ch : pattern) {
-      append(ch, before);
-      before = ch;
-    }
-    if (intlPrefix_ && !placedIntl_) {
-      result_.insert(0, 1, ' ').insert(0, *intlPrefix_);
-    } else if (trunkPrefix_ && !placedTrunk_) {
-      result_.insert(0, *trunkPrefix_);
-    }
-    return std::move(result_);
+  Line& operator+=(char ch) {
+    start_[size_++] = ch;
+    return *this;
+  }
+  Line& operator+=(std::string_view text) {
+    text.copy(start_ + size_, text.size());
+    size_ += text.size();
+    return *this;
+  }
+  [[nodiscard]] std::string text() const {
+    std::string result;
+    if (size_ >= result.capacity()) result.reserve(size_ + kRoomInFront);
+    return result.assign(start_, size_);
   }
 
  private:
-  [[nodiscard]] std::size_t prefixLength() const {
-    return intlPrefix_.value_or("").size() + trunkPrefix_.value_or("").size();
+  std::array<char, 128> small_;
+  std::string large_;
+  char* start_ = small_.data();
+  std::size_t size_ = 0;
+};
+
+class Expansion {
+ public:
+  Expansion(std::string_view pattern, std::string_view digits, PrefixText intlPrefix,
+            PrefixText trunkPrefix)
+      : pattern_(pattern),
+        digits_(digits),
+        intlPrefix_(intlPrefix),
+        trunkPrefix_(trunkPrefix),
+        result_(longest()) {}
+
+  std::string operator()() {
+    // What the pattern has no place for comes first, so that nothing is moved.
+    if (intlPrefix_ && pattern_.find('c') == std::string_view::npos) {
+      (result_ += *intlPrefix_) += ' ';
+    } else if (trunkPrefix_ && pattern_.find('n') == std::string_view::npos) {
+      result_ += *trunkPrefix_;
+    }
+    char before = '\0';
+    for (const char ch : pattern_) {
+      append(ch, before);
+      before = ch;
+    }
+    return result_.text();
+  }
+
+ private:
+  // More than the text can become: each place of the pattern and the front may hold a prefix.
+  [[nodiscard]] std::size_t longest() const {
+    const std::size_t prefix =
+        std::max(intlPrefix_.value_or("").size() + 1, trunkPrefix_.value_or("").size());
+    return (pattern_.size() + 1) * prefix;
   }
   [[nodiscard]] bool digitsRemain() const { return next_ < digits_.size(); }
 
@@ -47,11 +92,9 @@ class Expansion {
         return;
       case 'c':
         if (intlPrefix_) result_ += *intlPrefix_;
-        placedIntl_ = true;
         return;
       case 'n':
         if (trunkPrefix_) result_ += *trunkPrefix_;
-        placedTrunk_ = true;
         return;
       default:
         appendLiteral(ch, before);
@@ -67,21 +110,20 @@ class Expansion {
     if (ch == ')') open_ = false;
   }
 
+  std::string_view pattern_;
   std::string_view digits_;
   PrefixText intlPrefix_;
   PrefixText trunkPrefix_;
-  std::string result_;
+  Line result_;
   std::size_t next_ = 0;
   bool open_ = false;
-  bool placedIntl_ = false;
-  bool placedTrunk_ = false;
 };
 
 }  // namespace
 
 std::string PhoneRule::formatIntlPrefixTrunkPrefix(std::string_view digits, PrefixText intlPrefix,
                                                    PrefixText trunkPrefix) const {
-  return Expansion(digits, intlPrefix, trunkPrefix)(format);
+  return Expansion(format, digits, intlPrefix, trunkPrefix)();
 }
 
 std::string PhoneRule::description() const {

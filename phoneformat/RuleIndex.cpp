@@ -11,10 +11,35 @@ namespace {
 // Beyond this many places a rule the ranges overlap too much.
 constexpr std::size_t kMostPlacesPerRule = 8;
 constexpr std::size_t kMostRules = 0xFFFF;
+// So many digits have a value that fits.
+constexpr std::int32_t kMostDigits = 9;
+
+// For each first digit, in bits, which second ones a number in some rule's range can have. A value
+// of fewer digits than are compared is that of a number with zeros in front, or of one in which
+// something that is no digit ends the value; what it begins with is not known then.
+std::array<std::uint16_t, 10> twoDigitStarts(const std::vector<PhoneRule>& rules,
+                                             std::int32_t matchLen) {
+  std::array<std::uint16_t, 10> result;
+  const bool unknown = matchLen < 2 || matchLen > kMostDigits;
+  std::int64_t unit = 1;
+  for (std::int32_t i = 2; i < matchLen && !unknown; ++i) unit *= 10;
+  const bool endsEarly = std::ranges::any_of(
+      rules, [&](const PhoneRule& rule) { return rule.minVal < 10 * unit && rule.maxVal >= 0; });
+  result.fill(unknown || endsEarly ? 0x3FF : 0);
+  if (unknown || endsEarly) return result;
+  for (const PhoneRule& rule : rules) {
+    for (std::int64_t two = std::max<std::int64_t>(0, rule.minVal / unit);
+         two <= std::min<std::int64_t>(99, rule.maxVal / unit); ++two) {
+      result[static_cast<std::size_t>(two / 10)] |= static_cast<std::uint16_t>(1U << two % 10);
+    }
+  }
+  return result;
+}
 
 }  // namespace
 
 RuleIndex& RuleIndex::operator=(RuleIndex&& other) noexcept {
+  twoDigits_ = std::exchange(other.twoDigits_, {});
   starts_ = std::exchange(other.starts_, {});
   firsts_ = std::exchange(other.firsts_, {});
   rules_ = std::exchange(other.rules_, {});
@@ -23,7 +48,7 @@ RuleIndex& RuleIndex::operator=(RuleIndex&& other) noexcept {
   return *this;
 }
 
-void RuleIndex::build(const std::vector<PhoneRule>& rules) {
+void RuleIndex::build(const std::vector<PhoneRule>& rules, std::int32_t matchLen) {
   *this = RuleIndex();
   if (rules.empty() || rules.size() > kMostRules) return;
   std::vector<std::int64_t> starts;
@@ -62,6 +87,7 @@ void RuleIndex::build(const std::vector<PhoneRule>& rules) {
   starts_ = std::move(starts);
   firsts_ = std::move(firsts);
   rules_ = std::move(ordered);
+  twoDigits_ = twoDigitStarts(rules, matchLen);
   for (const PhoneRule& rule : rules) {
     longest_ = std::max(longest_, rule.maxLen);
     hasUnflagged_ = hasUnflagged_ || (!rule.hasIntlPrefix() && !rule.hasTrunkPrefix());

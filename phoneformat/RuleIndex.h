@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -28,19 +30,27 @@ class RuleIndex final {
   ~RuleIndex() = default;
 
   /// Stays empty where ranges overlap so much that it would cost more than it saves.
-  void build(const std::vector<PhoneRule>& rules);
+  void build(const std::vector<PhoneRule>& rules, std::int32_t matchLen);
 
   [[nodiscard]] bool empty() const { return starts_.empty(); }
   /// The greatest maxLen of all rules.
   [[nodiscard]] std::int32_t longest() const { return longest_; }
   /// Whether some rule is meant for numbers without a prefix.
   [[nodiscard]] bool hasUnflagged() const { return hasUnflagged_; }
+  /// False if no rule holds a number with these digits; true if one may.
+  [[nodiscard]] bool mayHold(std::string_view digits) const {
+    if (digits.size() < 2) return true;
+    const auto first = static_cast<unsigned>(digits[0] - '0');
+    const auto second = static_cast<unsigned>(digits[1] - '0');
+    return first > 9 || second > 9 || (twoDigits_[first] >> second & 1U) != 0;
+  }
   /// Positions of the rules in whose range the value falls, ascending.
   [[nodiscard]] std::span<const std::uint16_t> rulesFor(std::int32_t value) const;
 
  private:
   // Segment i covers the values from starts_[i] to before starts_[i + 1]; its rules are those of
   // rules_ from firsts_[i] to before firsts_[i + 1].
+  std::array<std::uint16_t, 10> twoDigits_{};  // bits of the second digits, by the first
   std::vector<std::int64_t> starts_;
   std::vector<std::uint32_t> firsts_;
   std::vector<std::uint16_t> rules_;

@@ -59,25 +59,17 @@ const PhoneRule* RuleSet::firstInRange(std::string_view digits, Accept accept) c
     }
     return nullptr;
   }
-  if (static_cast<std::int64_t>(digits.size()) > index_.longest()) return nullptr;
   for (const std::uint16_t position : index_.rulesFor(leadingValue(digits, count))) {
     if (accept(rules[position])) return &rules[position];
   }
   return nullptr;
 }
 
-bool RuleSet::lacksFlags(bool intl, bool trunk) const {
-  if (index_.empty()) return false;
-  if (!intl && !trunk) return !index_.hasUnflagged();
-  return !(intl && hasRuleWithIntlPrefix) && !(trunk && hasRuleWithTrunkPrefix);
-}
-
 std::optional<std::string> RuleSet::format(std::string_view digits, PrefixText intlPrefix,
                                            PrefixText trunkPrefix, bool prefixRequired) const {
-  if (static_cast<std::int64_t>(digits.size()) < matchLen) return std::nullopt;
   const bool intl = intlPrefix.has_value();
   const bool trunk = trunkPrefix.has_value();
-  if (prefixRequired && lacksFlags(intl, trunk)) return std::nullopt;
+  if (!mayFit(digits, intl, trunk, prefixRequired)) return std::nullopt;
 
   const PhoneRule* rule = firstInRange(digits, [&](const PhoneRule& candidate) {
     return startsFit(candidate, digits) && passesPrefixTest(candidate, intl, trunk, prefixRequired);
@@ -93,10 +85,9 @@ std::optional<std::string> RuleSet::format(std::string_view digits, PrefixText i
 
 bool RuleSet::isValid(std::string_view digits, PrefixText intlPrefix, PrefixText trunkPrefix,
                       bool prefixRequired) const {
-  if (static_cast<std::int64_t>(digits.size()) < matchLen) return false;
   const bool intl = intlPrefix.has_value();
   const bool trunk = trunkPrefix.has_value();
-  if (prefixRequired && lacksFlags(intl, trunk)) return false;
+  if (!mayFit(digits, intl, trunk, prefixRequired)) return false;
 
   if (firstInRange(digits, [&](const PhoneRule& rule) {
         return lengthFits(rule, digits) && passesPrefixTest(rule, intl, trunk, prefixRequired);

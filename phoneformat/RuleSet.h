@@ -29,8 +29,19 @@ struct RuleSet {
   void append(PhoneRule rule);
   /// Makes looking rules up fast. Whoever changes the rules of this very object afterwards calls it
   /// again; copies start without.
-  void buildIndex() { index_.build(rules); }
+  void buildIndex() { index_.build(rules, matchLen); }
 
+  /// False if surely no rule fits the digits, told quickly; true otherwise.
+  [[nodiscard]] bool mayFit(std::string_view digits, bool intl, bool trunk,
+                            bool prefixRequired) const {
+    const auto size = static_cast<std::int64_t>(digits.size());
+    if (size < matchLen) return false;
+    if (index_.empty()) return true;
+    if (size > index_.longest() || !index_.mayHold(digits)) return false;
+    if (!prefixRequired) return true;
+    if (!intl && !trunk) return index_.hasUnflagged();
+    return (intl && hasRuleWithIntlPrefix) || (trunk && hasRuleWithTrunkPrefix);
+  }
   /// The digits laid out by the first rule that fits; none when there is none. With prefixRequired
   /// only rules that are flagged for the prefix given count, or unflagged ones when none is given.
   [[nodiscard]] std::optional<std::string> format(std::string_view digits, PrefixText intlPrefix,
@@ -44,8 +55,6 @@ struct RuleSet {
  private:
   template <typename Accept>
   [[nodiscard]] const PhoneRule* firstInRange(std::string_view digits, Accept accept) const;
-  // Whether prefixRequired rules out every rule, as far as that is known without looking.
-  [[nodiscard]] bool lacksFlags(bool intl, bool trunk) const;
 
   RuleIndex index_;
 };

@@ -43,7 +43,7 @@ test_packages=(
   python3 python3-gi gir1.2-atspi-2.0 python3-xlib
 )
 
-benchmark_packages=(libbenchmark-dev libcairo2-dev)
+benchmark_packages=(libbenchmark-dev libcairo2-dev libphonenumber-dev libprotobuf-dev)
 
 coverage_packages=(gcovr)
 

@@ -225,11 +225,34 @@ TEST(RuleSetIndex, ACopyMayBeChangedAndFollowsItsOwnRules) {
   EXPECT_TRUE(indexed.isValid("12", kNone, kNone, true));
 }
 
+TEST(RuleSetIndex, PassesOverNoNumberThatAScanFinds) {
+  const char kSigns[] = "0129*";
+  std::vector<std::string> numbers{""};
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    const std::string number = numbers[i];
+    if (number.size() < 4) {
+      for (const char ch : std::string_view(kSigns)) numbers.push_back(number + ch);
+    }
+  }
+  for (const auto& [low, high] : {std::pair{120, 219}, {20, 35}, {0, 0}, {990, 2000}, {-5, 100}}) {
+    RuleSet scanned;
+    scanned.matchLen = 3;
+    scanned.append(rule(low, high, 4, kUnflagged, "####"));
+    RuleSet indexed = scanned;
+    indexed.buildIndex();
+    for (const std::string& number : numbers) {
+      EXPECT_EQ(indexed.format(number, kNone, kNone, true),
+                scanned.format(number, kNone, kNone, true))
+          << number << " from " << low << " to " << high;
+    }
+  }
+}
+
 TEST(RuleSetIndex, StaysEmptyWhereTooManyRangesOverlap) {
   std::vector<PhoneRule> nested;
   for (int i = 0; i < 100; ++i) nested.push_back(rule(i, 1000 - i, 3, kUnflagged, "###"));
   RuleIndex index;
-  index.build(nested);
+  index.build(nested, 3);
   EXPECT_TRUE(index.empty());
 }
 
@@ -238,7 +261,7 @@ TEST(RuleSetIndex, FindsWhatAScanFinds) {
                                      rule(9, 2, 3, 0, "#"), rule(-4, -1, 3, 0, "#"),
                                      rule(6, INT32_MAX, 3, 0, "#")};
   RuleIndex index;
-  index.build(rules);
+  index.build(rules, 1);
   ASSERT_FALSE(index.empty());
   for (const std::int32_t value : {INT32_MIN, -5, -4, -1, 0, 1, 5, 6, 7, 9, 10, INT32_MAX}) {
     std::vector<std::uint16_t> expected;
