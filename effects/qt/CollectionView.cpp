@@ -3,6 +3,7 @@
 #include "effects/qt/CollectionView.h"
 
 #include <QQmlEngine>
+#include <ranges>
 #include <utility>
 
 namespace kindora {
@@ -31,7 +32,8 @@ int CollectionView::numberOfItemsInSection(int section) const {
 
 void CollectionView::reloadData() {
   selected_.clear();
-  for (auto& [path, shown] : shown_) cells_.recycle(std::move(shown.cell));
+  // From the last to the first, so that each place gets its own cell again, and keeps the focus.
+  for (auto& [path, shown] : std::views::reverse(shown_)) cells_.recycle(std::move(shown.cell));
   shown_.clear();
   layout_.invalidateLayout();
   layOut();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "effects/qt/LayerAnimations.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -10,6 +11,8 @@
 
 namespace kindora {
 namespace {
+
+constexpr double kLongest = 1e6;  // seconds; what never ends is on its way for so long
 
 class Playing final : public UIViewLayerAnimation {
  public:
@@ -30,7 +33,7 @@ class Playing final : public UIViewLayerAnimation {
 
   void start() {
     show(playback_.valueAt(0));
-    const double length = playback_.length();
+    const double length = std::min(playback_.length(), kLongest);
     clock_ = ProgressAnimation(
         {.duration = length, .curve = UIViewAnimationCurve::linear},
         [this, length](double fraction) { show(playback_.valueAt(fraction * length)); },

@@ -19,6 +19,8 @@ class ManualTime final {
   void advance(double seconds);
   /// Runs what is due now: queued calls, closures, deletions.
   void settle();
+  /// Whether any animation runs.
+  [[nodiscard]] bool isAnimating() const { return driver_.isRunning(); }
 
  private:
   class Driver final : public QAnimationDriver {
