@@ -106,7 +106,8 @@ void UINavigationController::change(const UIViewControllerRef& leaving, bool ani
     leaving->beginAppearanceTransition(false, animated);
     stack_.back()->beginAppearanceTransition(true, animated);
   }
-  if (animated && seen) {
+  // Out of sight too, since the stack may come into sight while the change is under way.
+  if (animated) {
     run(topProgress_, transition_->pops ? 0 : 1);
   } else {
     finish();

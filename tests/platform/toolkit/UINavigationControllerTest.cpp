@@ -97,7 +97,24 @@ TEST_F(UINavigationControllerTest, APushOutOfSightCallsNobody) {
   const auto hidden = makeViewController<UINavigationController>(d);
   hidden->pushViewController(b, true);
   EXPECT_EQ(log(), (Lines{"b: loads"}));
+  time.advance(0.36);
+  EXPECT_EQ(log(), (Lines{}));
   EXPECT_FALSE(hidden->isTransitioning());
+}
+
+TEST_F(UINavigationControllerTest, APushOutOfSightMovesOnWhileItsStackComesIntoSight) {
+  const auto d = screen("d");
+  const auto hidden = makeViewController<UINavigationController>(d);
+  hidden->pushViewController(b, true);
+  time.advance(0.1);
+  hidden->beginAppearanceTransition(true, false);
+  hidden->endAppearanceTransition();
+  EXPECT_EQ(log(), (Lines{"b: loads", "b: will appear", "b: did appear"}));
+  EXPECT_GT(hidden->topProgress(), 0);
+  EXPECT_LT(hidden->topProgress(), 1);
+  time.advance(0.3);
+  EXPECT_EQ(log(), (Lines{}));
+  EXPECT_EQ(hidden->topProgress(), 1);
 }
 
 // --- Popping ---
