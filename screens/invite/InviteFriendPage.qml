@@ -53,6 +53,8 @@ FormPage {
             outlet: objectName
             label: root.controller.sectionTitles[2]
             anchors.fill: parent
+            anchors.topMargin: 16
+            anchors.bottomMargin: 16
         }
     }
 }
