@@ -56,3 +56,16 @@ class ChallengeTest(kindora_e2e.AppTest):
         x, y = self.app.wait_still(self.app.wait_for(row)).centre
         self.app.drag([(x + 100, y), (x - 60, y)])
         return self.app.wait_still(self.app.wait_for("Reject", role="push button"))
+
+    def complete(self, row, answer):
+        """Completes the challenge of a row in progress, and answers whether to pass it on."""
+        self.open(row)
+        self.app.click(self.app.wait_still(self.app.wait_for("Complete", role="push button")))
+        self.app.wait_for("Congrats!", role="alert")
+        self.choose(answer)
+
+    def show_badges(self):
+        """Goes to the second tab, whatever its bubble says."""
+        tabs = self.app.find_all(role="page tab")
+        self.app.click(next(tab for tab in tabs if tab.name.startswith("Badges")))
+        self.app.wait_for("Badges", role="heading")

@@ -16,7 +16,9 @@ ListView {
     currentIndex: -1
     clip: true
     boundsBehavior: Flickable.DragAndOvershootBounds
-    cacheBuffer: 400
+    // Rows ahead of the visible ones would come by a pause that Qt cannot end without a warning when
+    // nothing else is animated.
+    cacheBuffer: 0
     Accessible.role: Accessible.List
     Accessible.name: root.controller.title
 
