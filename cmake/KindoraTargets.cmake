@@ -42,7 +42,9 @@ function(kindora_library NAME)
   add_library(kindora_${NAME} STATIC ${ARG_SOURCES})
   add_library(Kindora::${NAME} ALIAS kindora_${NAME})
   target_include_directories(kindora_${NAME} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
-  target_link_libraries(kindora_${NAME} PUBLIC ${ARG_LINKS} PRIVATE kindora_options)
+  # Flags are no business of those who use an installed library.
+  target_link_libraries(kindora_${NAME} PUBLIC ${ARG_LINKS}
+                        PRIVATE $<BUILD_INTERFACE:kindora_options>)
 endfunction()
 
 # kindora_qml_module(NAME URI uri SOURCES file... QML file... [IMPORTS uri...] [LINKS target...])

@@ -158,6 +158,40 @@ TEST(ShippedFile, LocalNumbersOfNorthAmericaHaveNoCallingCode) {
   EXPECT_FALSE(formatter.isPhoneNumberValid("+1 555 2671"));
 }
 
+struct UnassignedNumber {
+  const char* name;
+  const char* country;
+  const char* typed;
+  const char* shown;
+  friend std::ostream& operator<<(std::ostream& out, const UnassignedNumber& row) {
+    return out << row.name;
+  }
+};
+
+class ShippedFileUnassigned : public ::testing::TestWithParam<UnassignedNumber> {};
+
+TEST_P(ShippedFileUnassigned, IsLaidOutYetNotValid) {
+  LuPhoneFormat formatter(shipped(), GetParam().country);
+  EXPECT_EQ(formatter.format(GetParam().typed), GetParam().shown);
+  EXPECT_FALSE(formatter.isPhoneNumberValid(GetParam().typed));
+}
+
+const UnassignedNumber kUnassignedNumbers[] = {
+    {"AreaCode", "us", "491555526", "(491) 555-526"},
+    {"AreaCodeOfAWholeNumber", "us", "4915555261", "(491) 555-5261"},
+    {"DigitTypedIntoAnAreaCode", "us", "41955552", "(419) 555-52"},
+    {"AreaCodeBehindTheCallingCode", "us", "1555526719", "1 555-526-719"},
+    {"AreaCodeFromAbroad", "gb", "+1555526719", "+1 555-526-719"},
+    {"AreaCodeOfATooLongNumber", "us", "49155552611", "49155552611"},
+    {"AssignedAreaCodeOfATooLongNumber", "us", "41555526711", "41555526711"},
+    {"TooLongNumberFromAbroad", "gb", "+141555526711", "+1 41555526711"},
+    {"RussianAreaCode", "ru", "82145770458", "8 (214) 577-04-58"},
+    {"SpanishPrefix", "es", "589061157", "589 06 11 57"},
+    {"AustralianPrefix", "gb", "+61991723536", "+61 9 9172 3536"},
+};
+INSTANTIATE_TEST_SUITE_P(Table, ShippedFileUnassigned, ::testing::ValuesIn(kUnassignedNumbers),
+                         [](const auto& row) { return std::string(row.param.name); });
+
 TEST(ShippedFile, ArgentinianMobilesAreDialledOtherwiseInTheCountry) {
   LuPhoneFormat formatter(shipped(), "ar");
   EXPECT_EQ(formatter.format("0111523456789"), "011 15-2345-6789");
