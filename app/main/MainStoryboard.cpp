@@ -4,6 +4,7 @@
 
 #include "platform/qt/toolkit/UINavigationController.h"
 #include "screens/SegueIdentifiers.h"
+#include "screens/StoryboardIdentifiers.h"
 #include "screens/badges/BadgeInfoViewController.h"
 #include "screens/badges/BadgesViewController.h"
 #include "screens/challenges/ChallengesTableViewController.h"
@@ -20,9 +21,7 @@ constexpr const char* kChallenges = "ChallengesTableViewController";
 constexpr const char* kNewChallenge = "NewChallengeDetailViewController";
 constexpr const char* kInProgressChallenge = "InProgressChallengeDetailViewController";
 constexpr const char* kBadges = "BadgesViewController";
-constexpr const char* kBadgeInfo = "BadgeInfoViewController";
 constexpr const char* kInvite = "InviteFriendTableViewController";
-constexpr const char* kPicker = "KindoraTableViewController";
 constexpr const char* kCreateNavigation = "CreateChallengeNavigationController";
 constexpr const char* kCreate = "CreateChallengeTableViewController";
 
@@ -85,16 +84,16 @@ std::vector<UIStoryboardScene> scenes() {
        .make = make<BadgesViewController>,
        .connectOutlets = connectOutlets<BadgesViewController>,
        .page = page("BadgesPage"),
-       .segues = {{std::string(kShowBadgeDetail), Kind::show, kBadgeInfo}, toCreate},
+       .segues = {{std::string(kShowBadgeDetail), Kind::show, kBadgeInfoScene}, toCreate},
        .unwindActions = {unwindAction("unwindToBadges", &BadgesViewController::unwindToBadges)}},
-      {.identifier = kBadgeInfo,
+      {.identifier = kBadgeInfoScene,
        .make = make<BadgeInfoViewController>,
        .connectOutlets = connectOutlets<BadgeInfoViewController>,
        .page = page("BadgeInfoPage"),
-       .segues = {{std::string(kKindora), Kind::show, kPicker}},
+       .segues = {{std::string(kKindora), Kind::show, kPickerScene}},
        .unwindActions = {unwindAction("unwindToBadgeInfo",
                                       &BadgeInfoViewController::unwindToBadgeInfo)}},
-      {.identifier = kPicker,
+      {.identifier = kPickerScene,
        .make = make<KindoraTableViewController>,
        .page = page("KindoraPage"),
        .segues = {{std::string(kInviteFriend), Kind::show, kInvite}},

@@ -4,6 +4,7 @@
 
 #include "platform/FatalError.h"
 #include "platform/Services.h"
+#include "screens/ImageNames.h"
 #include "screens/SegueIdentifiers.h"
 #include "screens/picker/KindoraTableViewController.h"
 
@@ -28,7 +29,7 @@ void BadgeInfoViewController::connectOutlets() {
   connectOutlet(challengeDescriptionLabel, "challengeDescriptionLabel", root);
   const auto stamp = connectOutlet(stampImageView, "stampImageView", root);
   stamp->setContentMode(UIViewContentMode::scaleAspectFit);
-  stamp->setImage(services().bundle->imageNamed("completed"));
+  stamp->setImage(services().bundle->imageNamed(kStampImage));
 }
 
 void BadgeInfoViewController::viewDidLoad() {

@@ -5,6 +5,7 @@
 #include "platform/FatalError.h"
 #include "platform/qt/toolkit/UINavigationController.h"
 #include "screens/SegueIdentifiers.h"
+#include "screens/StoryboardIdentifiers.h"
 #include "screens/badges/BadgeCollectionViewCell.h"
 #include "screens/badges/BadgeInfoViewController.h"
 #include "screens/create/CreateChallengeButton.h"
@@ -73,9 +74,9 @@ void BadgesViewController::passOnAtOnce() {
   UINavigationController* navigation = navigationController();
   if (navigation == nullptr || storyboard() == nullptr) return;
   const auto info = std::dynamic_pointer_cast<BadgeInfoViewController>(
-      storyboard()->instantiateViewController("BadgeInfoViewController"));
+      storyboard()->instantiateViewController(kBadgeInfoScene));
   const auto picker = std::dynamic_pointer_cast<KindoraTableViewController>(
-      storyboard()->instantiateViewController("KindoraTableViewController"));
+      storyboard()->instantiateViewController(kPickerScene));
   info->challenge = challenge;
   picker->challenge = challenge;
   navigation->popToRootViewController(false);

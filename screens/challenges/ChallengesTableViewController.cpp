@@ -21,7 +21,6 @@ namespace kindora {
 namespace {
 
 constexpr std::string_view kChallengeCell = "challengeCell";
-constexpr std::string_view kPlaceholderCell = "placeholderCell";
 constexpr double kAnnouncementSeconds = 1.25;
 
 }  // namespace

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "screens/create/CreateChallengeButton.h"
 
+#include "screens/ImageNames.h"
 #include "screens/SegueIdentifiers.h"
 
 namespace kindora {
 
 UIBarButtonItemRef createChallengeButton(UIViewController& screen) {
   return std::make_shared<UIBarButtonItem>(
-      QStringLiteral("Create Challenge"), QStringLiteral("plus"),
+      QStringLiteral("Create Challenge"), QString::fromLatin1(kPlusImage),
       [&screen] { screen.performSegueWithIdentifier(kCreateChallenge); });
 }
 

@@ -5,7 +5,8 @@
 #include "model/ChallengeData.h"
 #include "platform/Services.h"
 #include "platform/TextRange.h"
-#include "screens/shared/PassOnFromBadges.h"
+#include "screens/ImageNames.h"
+#include "screens/shared/PassOnAlert.h"
 
 namespace kindora {
 namespace {
@@ -50,7 +51,7 @@ void CreateChallengeTableViewController::connectOutlets() {
 void CreateChallengeTableViewController::viewDidLoad() {
   UIStaticTableViewController::viewDidLoad();
   const auto well = connected(challengeImageView);
-  const UIImageRef plus = services().bundle->imageNamed("plus");
+  const UIImageRef plus = services().bundle->imageNamed(kPlusImage);
   well->setImage(plus ? plus->imageWithRenderingMode(UIImageRenderingMode::alwaysTemplate)
                       : nullptr);
   well->setTintColor(kWellColor);
@@ -184,17 +185,11 @@ void CreateChallengeTableViewController::createChallenge() {
   challenge->challengeImage = selectedImage;
   ChallengeData::sharedInstance().addCreatedChallenge(challenge);
 
-  const auto alert =
-      makeViewController<UIAlertController>("Challenge created!",
-                                            "You can find this challenge in the Badges tab. Would "
-                                            "you like to pass this challenge on now?",
-                                            UIAlertControllerStyle::alert);
-  alert->addAction({"Later", UIAlertActionStyle::cancel, guarded([this] { leave(); })});
-  alert->addAction({"Kindora!", UIAlertActionStyle::normal, guarded([this, challenge] {
-                      passOnFromBadges(challenge);
-                      leave();
-                    })});
-  presentViewController(alert, true);
+  presentViewController(passOnAlert("Challenge created!",
+                                    "You can find this challenge in the Badges tab. Would you like "
+                                    "to pass this challenge on now?",
+                                    challenge, guarded([this] { leave(); })),
+                        true);
 }
 
 }  // namespace kindora

@@ -11,14 +11,15 @@
 #include "platform/Services.h"
 #include "platform/qt/toolkit/UINavigationController.h"
 #include "platform/qt/toolkit/UITabBarController.h"
+#include "screens/ImageNames.h"
 #include "screens/SegueIdentifiers.h"
-#include "screens/shared/PassOnFromBadges.h"
+#include "screens/shared/BadgesTab.h"
+#include "screens/shared/PassOnAlert.h"
 
 namespace kindora {
 namespace {
 
 constexpr std::string_view kCompleteButton = "completeButton";
-constexpr int kBadgesTab = 1;
 constexpr double kCardRadius = 20;  // points
 constexpr double kMedalSide = 80;
 constexpr double kPeakAboveStart = 100;
@@ -171,7 +172,7 @@ void InProgressChallengeDetailViewController::animationDidStop(CAKeyframeAnimati
 
 void InProgressChallengeDetailViewController::dropStamp() {
   const auto stamp = std::make_shared<UIImageView>();
-  stamp->setImage(services().bundle->imageNamed("completed"));
+  stamp->setImage(services().bundle->imageNamed(kStampImage));
   stamp->setContentMode(UIViewContentMode::scaleAspectFit);
   stamp->setFrame(connected(imageView)->frame());
   stamp->setScaling(kStampScale);
@@ -187,15 +188,9 @@ void InProgressChallengeDetailViewController::dropStamp() {
 }
 
 void InProgressChallengeDetailViewController::askToPassOn() {
-  const auto alert = makeViewController<UIAlertController>(
-      "Congrats!", "Would you like to pass this challenge on to a friend?",
-      UIAlertControllerStyle::alert);
-  alert->addAction({"Later", UIAlertActionStyle::cancel,
-                    guarded([this] { performSegueWithIdentifier(kUnwind); })});
-  alert->addAction({"Kindora!", UIAlertActionStyle::normal, guarded([this] {
-                      passOnFromBadges(challenge);
-                      performSegueWithIdentifier(kUnwind);
-                    })});
+  const auto alert =
+      passOnAlert("Congrats!", "Would you like to pass this challenge on to a friend?", challenge,
+                  guarded([this] { performSegueWithIdentifier(kUnwind); }));
   runAfterDelay(kAlertDelay, *services().mainQueue,
                 guarded([this, alert] { presentViewController(alert, true); }));
 }

@@ -3,11 +3,10 @@
 #include "screens/invite/InviteFriendTableViewController.h"
 
 #include "app/PhoneNumberEdit.h"
-#include "app/RunAfterDelay.h"
 #include "model/Friends.h"
 #include "platform/Services.h"
-#include "platform/qt/toolkit/UIAlertController.h"
 #include "screens/SegueIdentifiers.h"
+#include "screens/shared/PassingAlert.h"
 
 namespace kindora {
 namespace {
@@ -125,16 +124,8 @@ void InviteFriendTableViewController::sendInvite() {
   invitedFriend = std::make_shared<User>(
       name + " (Invited)", services().bundle->imageNamed("placeholderImage"), std::nullopt);
   Friends::sharedInstance().addFriend(invitedFriend);
-  const auto alert = makeViewController<UIAlertController>("Invitation sent!", std::nullopt,
-                                                           UIAlertControllerStyle::alert);
-  presentViewController(alert, true);
-  runAfterDelay(kAlertSeconds, *services().mainQueue, guarded([this, alert] {
-                  alert->dismissViewController(true, guarded([this] { inviteConfirmed(); }));
-                }));
-}
-
-void InviteFriendTableViewController::inviteConfirmed() {
-  performSegueWithIdentifier(kUnwindToKindora, shared_from_this());
+  presentPassingAlert(*this, "Invitation sent!", std::nullopt, kAlertSeconds,
+                      [this] { performSegueWithIdentifier(kUnwindToKindora, shared_from_this()); });
 }
 
 }  // namespace kindora

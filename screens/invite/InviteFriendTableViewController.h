@@ -56,9 +56,6 @@ class InviteFriendTableViewController : public kindora::UIStaticTableViewControl
   /// name one edit late.
   void enableSend(std::string_view number);
   void sendInvite();
-
- private:
-  void inviteConfirmed();
 };
 
 }  // namespace kindora

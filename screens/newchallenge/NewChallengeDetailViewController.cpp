@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
 
-#include "app/RunAfterDelay.h"
 #include "app/shell/RejectAlert.h"
 #include "model/ChallengeData.h"
 #include "platform/FatalError.h"
 #include "platform/Services.h"
 #include "platform/qt/toolkit/UINavigationController.h"
+#include "screens/ImageNames.h"
 #include "screens/SegueIdentifiers.h"
+#include "screens/shared/PassingAlert.h"
 
 namespace kindora {
 namespace {
@@ -59,7 +60,7 @@ void NewChallengeDetailViewController::viewDidLoad() {
   if (!challenge) fatalError("the screen has no challenge");
   view()->layoutIfNeeded();
   const auto scratchView = connected(scratchImageView);
-  scratchView->setImage(services().bundle->imageNamed("scratchImage"), kBrushRadius);
+  scratchView->setImage(services().bundle->imageNamed(kCoverImage), kBrushRadius);
   scratchView->setDelegate(
       std::static_pointer_cast<NewChallengeDetailViewController>(shared_from_this()));
   connected(imageView)->setImage(challenge->challengeImage);
@@ -144,15 +145,9 @@ void NewChallengeDetailViewController::showButtons() {
 
 void NewChallengeDetailViewController::accepted() {
   ChallengeData::sharedInstance().acceptChallenge(challenge);
-  const auto alert = makeViewController<UIAlertController>(
-      "Challenge accepted!",
-      "This challenge is now in progress. Come back when you've completed it.",
-      UIAlertControllerStyle::alert);
-  presentViewController(alert, true);
-  runAfterDelay(kAcceptedAlertSeconds, *services().mainQueue, guarded([this, alert] {
-                  alert->dismissViewController(
-                      true, guarded([this] { performSegueWithIdentifier(kUnwind); }));
-                }));
+  presentPassingAlert(*this, "Challenge accepted!",
+                      "This challenge is now in progress. Come back when you've completed it.",
+                      kAcceptedAlertSeconds, [this] { performSegueWithIdentifier(kUnwind); });
 }
 
 void NewChallengeDetailViewController::rejected() {

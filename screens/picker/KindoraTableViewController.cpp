@@ -3,25 +3,22 @@
 #include "screens/picker/KindoraTableViewController.h"
 
 #include "app/AppColors.h"
-#include "app/RunAfterDelay.h"
 #include "app/shell/AppFont.h"
 #include "model/FriendSearch.h"
 #include "model/Friends.h"
 #include "platform/FatalError.h"
-#include "platform/Services.h"
-#include "platform/qt/toolkit/UIAlertController.h"
 #include "platform/qt/toolkit/UINavigationController.h"
 #include "platform/qt/toolkit/UITabBarController.h"
 #include "screens/SegueIdentifiers.h"
 #include "screens/picker/FriendTableViewCell.h"
 #include "screens/picker/SendAnimation.h"
+#include "screens/shared/PassingAlert.h"
 #include "screens/shared/PlaceholderTableViewCell.h"
 
 namespace kindora {
 namespace {
 
 constexpr std::string_view kFriendCell = "friendCell";
-constexpr std::string_view kPlaceholderCell = "placeholderCell";
 constexpr const char* kSelectFriends = "Select Friends";
 constexpr int kFriendsSection = 0;
 constexpr double kSearchBarHeight = 44;
@@ -186,14 +183,10 @@ void KindoraTableViewController::alertSendChallenge() {
   const std::string title =
       challenge && challenge->title ? *challenge->title : std::string("this challenge");
   const std::size_t number = chosenFriends.size();
-  const auto alert = makeViewController<UIAlertController>(
-      "Passed on \"" + title + "\" to " + std::to_string(number) +
-          (number == 1 ? " friend" : " friends") + "!",
-      std::nullopt, UIAlertControllerStyle::alert);
-  presentViewController(alert, true);
-  runAfterDelay(kAlertSeconds, *services().mainQueue, guarded([this, alert] {
-                  alert->dismissViewController(true, guarded([this] { didDismissAlert(); }));
-                }));
+  presentPassingAlert(*this,
+                      "Passed on \"" + title + "\" to " + std::to_string(number) +
+                          (number == 1 ? " friend" : " friends") + "!",
+                      std::nullopt, kAlertSeconds, [this] { didDismissAlert(); });
 }
 
 void KindoraTableViewController::didDismissAlert() {

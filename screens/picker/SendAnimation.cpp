@@ -6,6 +6,7 @@
 #include "platform/qt/quick/Screen.h"
 #include "platform/qt/toolkit/UIViewAnimation.h"
 #include "platform/view/UIImageView.h"
+#include "screens/ImageNames.h"
 
 namespace kindora {
 namespace {
@@ -79,7 +80,7 @@ void SendAnimation::settle() {
 void SendAnimation::wrap() {
   const auto cover = std::make_shared<UIImageView>();
   cover->setFrame(container_->bounds());
-  cover->setImage(services().bundle->imageNamed("scratchImage"));
+  cover->setImage(services().bundle->imageNamed(kCoverImage));
   transitionFromView(picture_, cover, 1, [self = shared_from_this()] { self->pack(); });
 }
 

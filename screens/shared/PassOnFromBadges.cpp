@@ -5,11 +5,10 @@
 #include "app/shell/AppDelegate.h"
 #include "platform/qt/toolkit/UINavigationController.h"
 #include "screens/badges/BadgesViewController.h"
+#include "screens/shared/BadgesTab.h"
 
 namespace kindora {
 namespace {
-
-constexpr int kBadgesTab = 1;
 
 BadgesViewController* badgesScreen(UIViewController& tab) {
   const auto* navigation = dynamic_cast<const UINavigationController*>(&tab);

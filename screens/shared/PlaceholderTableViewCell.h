@@ -2,10 +2,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <memory>
+#include <string_view>
+
 #include "platform/qt/toolkit/UITableViewCell.h"
 #include "platform/view/UILabel.h"
 
 namespace kindora {
+
+inline constexpr std::string_view kPlaceholderCell = "placeholderCell";
 
 /// The one row of a section that has nothing to show: a message.
 class PlaceholderTableViewCell : public kindora::UITableViewCell {
