@@ -38,8 +38,13 @@ void SendAnimation::build(UIView& over, const UIImageRef& picture) {
   overlay_->setFillsSuperview(true);
   overlay_->setBackgroundColor(UIColor::blackColor().colorWithAlphaComponent(0));
 
+  // Another size of the window moves the stage and leaves the card to its animations.
+  stage_ = std::make_shared<UIView>();
+  stage_->setFrame(rectAround(centerOf(overlay_->bounds()), kCardSize));
+  overlayChanged_ = overlay_->observe([this] { stage_->setCenter(centerOf(overlay_->bounds())); });
+
   card_ = std::make_shared<UIView>();
-  card_->setFrame(rectAround(overlay_->center(), kCardSize));
+  card_->setFrame(stage_->bounds());
   card_->setCornerRadius(kCornerRadius);
   card_->setShadowOpacity(0.5);
   card_->setShadowOffset({0, 3});
@@ -60,7 +65,8 @@ void SendAnimation::build(UIView& over, const UIImageRef& picture) {
 
   container_->addSubview(picture_);
   card_->addSubview(container_);
-  overlay_->addSubview(card_);
+  stage_->addSubview(card_);
+  overlay_->addSubview(stage_);
   over.addSubview(overlay_);
 }
 

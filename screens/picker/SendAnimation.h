@@ -31,10 +31,12 @@ class SendAnimation final : public std::enable_shared_from_this<SendAnimation> {
   void end();
 
   std::shared_ptr<UIView> overlay_;
+  std::shared_ptr<UIView> stage_;  // in the overlay's middle
   std::shared_ptr<UIView> card_;
   std::shared_ptr<UIView> container_;
   std::shared_ptr<UIView> picture_;
   std::function<void()> completion_;
+  UIView::Subscription overlayChanged_;
 };
 
 }  // namespace kindora

@@ -39,11 +39,17 @@ class SendAnimationTest : public ::testing::Test {
   }
 
   [[nodiscard]] UIView& overlay() const { return *window->subviews().at(0); }
-  [[nodiscard]] UIView& card() const { return *overlay().subviews().at(0); }
+  [[nodiscard]] UIView& stage() const { return *overlay().subviews().at(0); }
+  [[nodiscard]] UIView& card() const { return *stage().subviews().at(0); }
   [[nodiscard]] UIView& container() const { return *card().subviews().at(0); }
   // From the lowest.
   [[nodiscard]] UIImageView& page(std::size_t index) const {
     return dynamic_cast<UIImageView&>(*container().subviews().at(index));
+  }
+  // In the window, where it settles.
+  [[nodiscard]] CGPoint centreOfCard() const {
+    const CGPoint origin = card().originInWindow();
+    return centerOf({origin, card().frame().size});
   }
   [[nodiscard]] double darkness() const { return overlay().presentation().backgroundColor.alpha; }
   // How far the card is from where it settles.
@@ -78,7 +84,24 @@ TEST_F(SendAnimationTest, TheOverlayFollowsTheWindow) {
 TEST_F(SendAnimationTest, ItsCardIsASquareOf250PointsInTheMiddle) {
   run();
   EXPECT_EQ(card().frame().size, (CGSize{250, 250}));
-  EXPECT_EQ(card().center(), kMiddle);
+  EXPECT_EQ(centreOfCard(), kMiddle);
+}
+
+TEST_F(SendAnimationTest, ItsCardStaysInTheMiddleOfAnotherSize) {
+  runUntil(1.1);
+  window->reportFrame({{0, 0}, {600, 400}});
+  EXPECT_EQ(centreOfCard(), (CGPoint{300, 200}));
+  EXPECT_EQ(card().frame().size, (CGSize{250, 250}));
+}
+
+TEST_F(SendAnimationTest, ItsCardSettlesWhileTheSizeChanges) {
+  runUntil(0.1);
+  const double before = height();
+  window->reportFrame({{0, 0}, {600, 400}});
+  EXPECT_EQ(height(), before);
+  until(1.01);
+  EXPECT_EQ(height(), 0);
+  EXPECT_EQ(centreOfCard(), (CGPoint{300, 200}));
 }
 
 TEST_F(SendAnimationTest, ItsCardCastsAShadowThatIsDrawnThroughABitmap) {
