@@ -171,6 +171,7 @@ TEST_F(InviteFriendTableViewControllerTest, TheSelectionSaysWhatIsReplacedNotThe
   EXPECT_FALSE(screen->textFieldShouldChangeCharactersInRange(number(), {3, 1}, "2125550100"));
   EXPECT_EQ(number().text(), "(212) 555-0100");
   EXPECT_EQ(number().selectedRange(), (NSRange{14, 0}));
+  EXPECT_EQ(number().textColor(), UIColor::blackColor());
 }
 
 TEST_F(InviteFriendTableViewControllerTest, AnEditThatLayoutLeavesAloneIsTheFieldsToCarryOut) {
@@ -277,6 +278,24 @@ TEST_F(InviteFriendTableViewControllerTest, TheNameIsNotTrimmed) {
   type(name(), "  Al ");
   send();
   EXPECT_EQ(screen->invitedFriend->name, "  Al  (Invited)");
+}
+
+TEST_F(InviteFriendTableViewControllerTest, ANameOfBlanksIsAName) {
+  open();
+  type(number(), "4155552671");
+  type(message(), "Hi");
+  type(name(), "  ");
+  EXPECT_TRUE(sendEnabled());
+  send();
+  EXPECT_EQ(screen->invitedFriend->name, "   (Invited)");
+}
+
+TEST_F(InviteFriendTableViewControllerTest, WithoutAPlaceholderTheFriendHasNoPicture) {
+  fakes.bundle->setMissing("placeholderImage");
+  open();
+  fill();
+  send();
+  EXPECT_EQ(screen->invitedFriend->picture, nullptr);
 }
 
 TEST_F(InviteFriendTableViewControllerTest, TheSameNameTwiceIsTwoFriends) {
