@@ -19,7 +19,7 @@ fi
 groups=(build test)
 for preset in "${presets[@]}"; do
   case "$preset" in
-    app) echo "error: the preset app has no tests" >&2 && exit 2 ;;
+    app | fuzz) echo "error: the preset $preset has no tests" >&2 && exit 2 ;;
     release) groups+=(benchmark) ;;
     coverage) groups+=(coverage) ;;
   esac

@@ -47,8 +47,10 @@ benchmark_packages=(libbenchmark-dev libcairo2-dev libphonenumber-dev libprotobu
 
 coverage_packages=(gcovr)
 
+fuzz_packages=(clang libclang-rt-14-dev)
+
 usage() {
-  echo "usage: $0 build|run|test|benchmark|coverage ..." >&2
+  echo "usage: $0 build|run|test|benchmark|coverage|fuzz ..." >&2
   exit 2
 }
 
@@ -61,6 +63,7 @@ for group in "$@"; do
     test) wanted+=("${test_packages[@]}") ;;
     benchmark) wanted+=("${benchmark_packages[@]}") ;;
     coverage) wanted+=("${coverage_packages[@]}") ;;
+    fuzz) wanted+=("${fuzz_packages[@]}") ;;
     *) usage ;;
   esac
 done

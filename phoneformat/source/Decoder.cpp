@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "phoneformat/FileLayout.h"
+#include "phoneformat/source/Digits.h"
 #include "phoneformat/source/Pattern.h"
 
 namespace kindora {
@@ -115,7 +116,7 @@ class Decoder final {
   }
 
   void checkCodes(const std::string& code, const std::string& country, const std::string& place) {
-    if (code.empty() || code.find_first_not_of("0123456789") != std::string::npos) {
+    if (!isAllDigits(code)) {
       problem(place, "\"" + code + "\" is no calling code");
     }
     if (country.size() != 2 ||
@@ -141,6 +142,13 @@ class Decoder final {
     const std::uint32_t setCount = value(offset + kBlockSetCount, 2, "a block");
     const std::uint64_t access = readTexts(offset + kBlockTexts, area, block.plan.trunkPrefixes);
     readTexts(access, area, block.plan.intlPrefixes);
+    for (const auto* prefixes : {&block.plan.trunkPrefixes, &block.plan.intlPrefixes}) {
+      for (const std::string& prefix : *prefixes) {
+        if (!isAllDigits(prefix)) {
+          problem(block.place, "\"" + prefix + "\" is no prefix of digits");
+        }
+      }
+    }
 
     std::uint64_t at = area;
     for (std::uint32_t i = 0; i < setCount; ++i) {

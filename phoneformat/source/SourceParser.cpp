@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "phoneformat/FileLayout.h"
+#include "phoneformat/source/Digits.h"
 #include "phoneformat/source/Keywords.h"
 #include "phoneformat/source/Pattern.h"
 #include "phoneformat/source/SourceText.h"
@@ -127,9 +128,9 @@ class Parser final {
     if (keyword == kCountries) {
       forRest(line, [&](const std::string& text) { addCountry(text, plan); });
     } else if (keyword == kTrunk) {
-      forRest(line, [&](const std::string& text) { plan.trunkPrefixes.push_back(text); });
+      forRest(line, [&](const std::string& text) { addPrefix(text, plan.trunkPrefixes); });
     } else if (keyword == kAccess) {
-      forRest(line, [&](const std::string& text) { plan.intlPrefixes.push_back(text); });
+      forRest(line, [&](const std::string& text) { addPrefix(text, plan.intlPrefixes); });
     } else if (keyword == kSet) {
       if (line.size() != 2) throw BadLine{"a set has one number of leading digits"};
       plan.ruleSets.emplace_back().matchLen = number(line[1].text, kMostMatchLen);
@@ -144,8 +145,7 @@ class Parser final {
     const std::string& code = line[1].text;
     result_.blocks.push_back({.plan = {}, .place = place});
     result_.blocks.back().plan.callingCode = code;
-    if (code.size() >= phonefile::kEntryTextSize ||
-        code.find_first_not_of("0123456789") != std::string::npos) {
+    if (code.size() >= phonefile::kEntryTextSize || !isAllDigits(code)) {
       throw BadLine{"\"" + code + "\" is no calling code of at most three digits"};
     }
   }
@@ -159,6 +159,11 @@ class Parser final {
       throw BadLine{"\"" + country + "\" has the calling code " + known->second + " already"};
     }
     plan.countries.insert(country);
+  }
+
+  static void addPrefix(const std::string& prefix, std::vector<std::string>& prefixes) {
+    if (!isAllDigits(prefix)) throw BadLine{"\"" + prefix + "\" is no prefix of digits"};
+    prefixes.push_back(prefix);
   }
 
   template <typename Take>

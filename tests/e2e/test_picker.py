@@ -14,7 +14,7 @@ class Picker(ChallengeTest):
     def setUp(self):
         super().setUp()
         self.complete(BREATH, "Kindora!")
-        self.app.wait_still(self.app.wait_for("Select Friends", role="heading"))
+        self.app.wait_still(self.app.wait_for("Search", role="text"))
 
     def press(self, name):
         self.app.click(self.app.wait_still(self.app.wait_for(name)))

@@ -88,6 +88,12 @@ TEST(Decoder, PrefixesThatDoNotEndBeforeTheRulesAreReported) {
               ElementsAre(Problem{"file: calling code 44", "the prefix \"012\" does not end"}));
 }
 
+TEST(Decoder, PrefixesThatAreNoDigitsAreReported) {
+  EXPECT_THAT(problemsOf(handMadeFile({{"44", {"gb"}, {"0", "x"}, {"0 0"}, {}}})),
+              ElementsAre(Problem{"file: calling code 44", "\"x\" is no prefix of digits"},
+                          Problem{"file: calling code 44", "\"0 0\" is no prefix of digits"}));
+}
+
 TEST(Decoder, RulesThatFillTheirAreaBadlyAreReported) {
   Bytes file;
   file.u32(1).padded("44", 4).padded("gb", 4).u32(0);

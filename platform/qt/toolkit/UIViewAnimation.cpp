@@ -3,6 +3,7 @@
 #include "platform/qt/toolkit/UIViewAnimation.h"
 
 #include <QAbstractAnimation>
+#include <QCoreApplication>
 #include <QEasingCurve>
 #include <QPointF>
 #include <algorithm>
@@ -95,6 +96,8 @@ void animateWithDuration(const UIViewAnimationTiming& timing,
                    [completion = std::move(completion)] {
                      if (completion) completion();
                    });
+  // One that still runs when the program ends goes with the application.
+  timeline->setParent(QCoreApplication::instance());
   timeline->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
