@@ -43,7 +43,6 @@ Rectangle {
             anchors.top: parent.top
             anchors.bottom: parent.bottom
             verticalAlignment: TextInput.AlignVCenter
-            text: root.bar.text
             placeholderText: qsTr("Search")
             font: Appearance.font(16)
             color: Qt.rgba(0.13, 0.13, 0.13, 1)
@@ -54,6 +53,7 @@ Rectangle {
             Accessible.name: field.placeholderText
             Accessible.role: Accessible.EditableText
 
+            Component.onCompleted: field.text = root.bar.text
             // What the input method is still composing counts, too.
             onDisplayTextChanged: root.bar.edit(field.displayText)
             onActiveFocusChanged: root.bar.setFirstResponder(field.activeFocus)
@@ -132,6 +132,14 @@ Rectangle {
 
     Connections {
         target: root.bar
+
+        // Writing what the field shows already would end a composition.
+        function onTextChanged() {
+            if (root.bar.text === "")
+                field.clear();
+            else if (root.bar.text !== field.displayText)
+                field.text = root.bar.text;
+        }
 
         function onFirstResponderChanged() {
             if (root.bar.firstResponder)
