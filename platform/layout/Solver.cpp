@@ -9,6 +9,7 @@ namespace kindora::layout {
 namespace {
 
 constexpr double kNearZero = 1e-8;
+constexpr std::size_t kUsualUses = 3;  // of a variable
 
 double signOf(Relation relation) { return relation == Relation::lessThanOrEqual ? -1 : 1; }
 
@@ -209,6 +210,7 @@ void Solver::attach(Index index) {
   std::vector<HeldTerm>& terms = constraints_[index].terms;
   for (Index term = 0; term < terms.size(); ++term) {
     std::vector<Use>& uses = variables_[terms[term].variable].uses;
+    if (uses.capacity() == 0) uses.reserve(kUsualUses);
     terms[term].use = static_cast<Index>(uses.size());
     uses.push_back({index, term});
   }
@@ -432,7 +434,13 @@ void Solver::walkDown(Index variable) {
     const ConstraintRecord& user = constraints_[use.constraint];
     if (user.kind != Kind::definition || user.subject == use.term) continue;
     const Index next = user.terms[user.subject].variable;
-    if (visit(next)) path_.push_back({next});
+    if (!visit(next)) continue;
+    // Most tell no other: their only use is their definition.
+    if (variables_[next].uses.size() == 1) {
+      order_.push_back(next);
+    } else {
+      path_.push_back({next});
+    }
   }
 }
 
