@@ -57,7 +57,7 @@ class ChallengeList(ChallengeTest):
         self.app.wait_for("Your Boss will be so disappointed.")
         self.choose("Never Mind")
         self.wait_rows(BOB, JOE, SARAH, BREATH, COMPLIMENT)
-        self.assertIsNone(self.app.find("Reject", role="push button"))
+        self.app.wait_gone("Reject", role="push button")
 
     def test_swiped_rejection_removes_the_row_and_the_last_leaves_a_message(self):
         for row, left in ((COMPLIMENT, [BREATH]), (BREATH, [NONE_IN_PROGRESS])):
