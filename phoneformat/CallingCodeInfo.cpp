@@ -3,6 +3,9 @@
 #include "phoneformat/CallingCodeInfo.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
 
 #include "phoneformat/TextList.h"
 
@@ -24,11 +27,6 @@ struct WrittenNumber {
   std::string_view national;
 };
 
-bool mayFit(const RuleSet& set, const WrittenNumber& number, bool prefixRequired) {
-  return set.mayFit(number.national, number.intlPrefix.has_value(), number.trunkPrefix.has_value(),
-                    prefixRequired);
-}
-
 WrittenNumber split(const CallingCodeInfo& info, std::string_view digits) {
   if (digits.starts_with(info.callingCode)) {
     return {info.callingCode, std::nullopt, digits.substr(info.callingCode.size())};
@@ -39,6 +37,11 @@ WrittenNumber split(const CallingCodeInfo& info, std::string_view digits) {
 
 }  // namespace
 
+void CallingCodeInfo::buildIndex() {
+  for (RuleSet& set : ruleSets) set.buildIndex();
+  index_->build(ruleSets);
+}
+
 std::optional<std::string_view> CallingCodeInfo::matchingAccessCode(std::string_view digits) const {
   return firstPrefix(intlPrefixes, digits);
 }
@@ -47,27 +50,43 @@ std::optional<std::string_view> CallingCodeInfo::matchingTrunkCode(std::string_v
   return firstPrefix(trunkPrefixes, digits);
 }
 
-std::string CallingCodeInfo::format(std::string_view digits) const {
-  const WrittenNumber number = split(*this, digits);
-  for (const bool prefixRequired : {true, false}) {
-    for (const RuleSet& set : ruleSets) {
-      if (!mayFit(set, number, prefixRequired)) continue;
-      std::optional<std::string> text =
-          set.format(number.national, number.intlPrefix, number.trunkPrefix, prefixRequired);
-      if (text) return *std::move(text);
-    }
+// Whether one of the sets that may hold the digits is accepted, asked in order up to that one.
+template <typename Accept>
+bool CallingCodeInfo::anySet(std::string_view digits, Accept accept) const {
+  if (index_->empty()) return std::ranges::any_of(ruleSets, accept);
+  for (std::uint64_t left = index_->setsFor(digits); left != 0; left &= left - 1) {
+    if (accept(ruleSets[static_cast<std::size_t>(std::countr_zero(left))])) return true;
   }
-  std::string text(digits);
-  if (number.intlPrefix && !number.national.empty()) text.insert(number.intlPrefix->size(), 1, ' ');
+  return false;
+}
+
+std::string CallingCodeInfo::format(std::string_view digits, std::string_view front) const {
+  const WrittenNumber number = split(*this, digits);
+  // Rules flagged for the prefix come first, whichever their set; the others wait meanwhile.
+  const PhoneRule* rule = nullptr;
+  anySet(number.national, [&](const RuleSet& set) {
+    const RuleSet::Fit fit =
+        set.fit(number.national, number.intlPrefix.has_value(), number.trunkPrefix.has_value());
+    if (fit.flagged || !rule) rule = fit.flagged ? fit.flagged : fit.any;
+    return fit.flagged != nullptr;
+  });
+  if (rule) {
+    return rule->formatIntlPrefixTrunkPrefix(number.national, number.intlPrefix, number.trunkPrefix,
+                                             front);
+  }
+  std::string text(front);
+  text += digits;
+  if (number.intlPrefix && !number.national.empty()) {
+    text.insert(front.size() + number.intlPrefix->size(), 1, ' ');
+  }
   return text;
 }
 
 bool CallingCodeInfo::isValidPhoneNumber(std::string_view digits) const {
   const WrittenNumber number = split(*this, digits);
   return std::ranges::any_of(std::initializer_list<bool>{true, false}, [&](bool prefixRequired) {
-    return std::ranges::any_of(ruleSets, [&](const RuleSet& set) {
-      return mayFit(set, number, prefixRequired) &&
-             set.isValid(number.national, number.intlPrefix, number.trunkPrefix, prefixRequired);
+    return anySet(number.national, [&](const RuleSet& set) {
+      return set.isValid(number.national, number.intlPrefix, number.trunkPrefix, prefixRequired);
     });
   });
 }

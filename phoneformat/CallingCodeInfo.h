@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "phoneformat/RuleSet.h"
+#include "phoneformat/SetIndex.h"
+#include "phoneformat/Uncopied.h"
 
 namespace kindora {
 
@@ -26,6 +28,10 @@ struct CallingCodeInfo {
   /// Never filled, never read.
   std::vector<std::string> formatStrings;
 
+  /// Makes looking rules up fast. Whoever changes the rules of this very object afterwards calls it
+  /// again; copies start without.
+  void buildIndex();
+
   /// The first international or trunk prefix in the list's order, not the longest, with which the
   /// digits begin; none if there is none.
   [[nodiscard]] std::optional<std::string_view> matchingAccessCode(std::string_view digits) const;
@@ -33,11 +39,18 @@ struct CallingCodeInfo {
 
   /// The stripped number as this plan writes it. What begins with the plan's own calling code is
   /// taken for an international number, also where a "+" is missing. Digits that fit no rule come
-  /// back unchanged, behind a calling code and a space if they had one.
-  [[nodiscard]] std::string format(std::string_view digits) const;
+  /// back unchanged, behind a calling code and a space if they had one. All that goes behind the
+  /// front.
+  [[nodiscard]] std::string format(std::string_view digits, std::string_view front = {}) const;
   /// Whether the stripped number is whole and of a range in use.
   [[nodiscard]] bool isValidPhoneNumber(std::string_view digits) const;
   [[nodiscard]] std::string description() const;
+
+ private:
+  template <typename Accept>
+  bool anySet(std::string_view digits, Accept accept) const;
+
+  Uncopied<SetIndex> index_;
 };
 
 }  // namespace kindora

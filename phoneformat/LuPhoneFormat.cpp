@@ -6,6 +6,7 @@
 #include <array>
 #include <climits>
 #include <iterator>
+#include <span>
 #include <utility>
 
 #include "phoneformat/PhoneFormatEnvironment.h"
@@ -50,6 +51,18 @@ class Stripped final {
   std::size_t size_ = 0;
   std::string large_;
 };
+
+// The value of the first three digits, or of as many as there are with zeros behind; none if one of
+// them is none.
+std::optional<std::size_t> threeDigits(std::string_view text) {
+  std::size_t value = 0;
+  for (std::size_t i = 0; i < kLongestCallingCode; ++i) {
+    const auto digit = i < text.size() ? static_cast<unsigned>(text[i] - '0') : 0U;
+    if (digit > 9) return std::nullopt;
+    value = 10 * value + digit;
+  }
+  return value;
+}
 
 std::string lowercase(std::string_view code) {
   std::string result(code);
@@ -121,9 +134,26 @@ std::optional<std::set<std::string>> LuPhoneFormat::countriesForCallingCode(
   return found->second;
 }
 
+void LuPhoneFormat::noteLength(std::string_view callingCode) {
+  const std::optional<std::size_t> first = threeDigits(callingCode);
+  if (!first || callingCode.empty() || callingCode.size() > kLongestCallingCode) return;
+  std::size_t starts = 1;
+  for (std::size_t i = callingCode.size(); i < kLongestCallingCode; ++i) starts *= 10;
+  for (std::uint8_t& length : std::span(codeLengths_).subspan(*first, starts)) {
+    if (length == 0 || length > callingCode.size()) {
+      length = static_cast<std::uint8_t>(callingCode.size());
+    }
+  }
+}
+
 const CallingCodeInfo* LuPhoneFormat::findCallingCodeInfo(std::string_view digits) {
   // What has no shorter code once has none ever; most numbers have the code of the one before.
   if (lastFound_ && digits.starts_with(lastFound_->callingCode)) return lastFound_;
+  if (const std::optional<std::size_t> start = threeDigits(digits)) {
+    const std::size_t length = codeLengths_[*start];
+    if (length == 0 || length > digits.size()) return nullptr;
+    return lastFound_ = callingCodeInfo(digits.substr(0, length));
+  }
   const std::size_t longest = std::min(digits.size(), kLongestCallingCode);
   for (std::size_t length = 1; length <= longest; ++length) {
     if (const CallingCodeInfo* info = callingCodeInfo(digits.substr(0, length))) {
@@ -140,7 +170,7 @@ std::string LuPhoneFormat::format(std::string_view text) {
     const std::string_view digits = number.substr(1);
     const CallingCodeInfo* const info = findCallingCodeInfo(digits);
     if (!info) return std::string(text);
-    return std::move(info->format(digits).insert(0, 1, '+'));
+    return info->format(digits, number.substr(0, 1));
   }
   const CallingCodeInfo* const home = defaultInfo_;
   if (!home) return std::string(text);
@@ -149,8 +179,9 @@ std::string LuPhoneFormat::format(std::string_view text) {
   const std::string_view digits = number.substr(accessCode->size());
   if (digits.empty()) return std::string(*accessCode);
   const CallingCodeInfo* const abroad = findCallingCodeInfo(digits);
-  std::string result = abroad ? abroad->format(digits) : std::string(digits);
-  return std::move(result.insert(0, 1, ' ').insert(0, *accessCode));
+  std::string front(*accessCode);
+  front += ' ';
+  return abroad ? abroad->format(digits, front) : front.append(digits);
 }
 
 bool LuPhoneFormat::isPhoneNumberValid(std::string_view text) {

@@ -10,6 +10,7 @@
 // as it is, and is not valid. Text is UTF-8, but any bytes will do. One thread at a time.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -87,6 +88,7 @@ class LuPhoneFormat final {
   [[nodiscard]] std::uint32_t readTexts(std::uint32_t offset,
                                         std::vector<std::string>& texts) const;
   [[nodiscard]] PhoneRule readRule(std::uint32_t offset, std::uint32_t pool) const;
+  void noteLength(std::string_view callingCode);
   void readBlock(std::uint32_t block, CallingCodeInfo& info) const;
 
   PhoneFormatData data_;
@@ -97,6 +99,8 @@ class LuPhoneFormat final {
   ShortTextMap<CallingCodeInfo> callingCodeData_;
   ShortTextMap<std::string> countryCallingCode_;
 
+  // By three digits: the length of the shortest calling code with which they begin, 0 for none.
+  std::array<std::uint8_t, 1000> codeLengths_{};
   const CallingCodeInfo* defaultInfo_ = nullptr;  // of defaultCallingCode_
   const CallingCodeInfo* lastFound_ = nullptr;    // by findCallingCodeInfo
 };

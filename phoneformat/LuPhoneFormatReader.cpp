@@ -72,6 +72,7 @@ void LuPhoneFormat::parseDataHeader() {
     countryCallingCode_.insert_or_assign(country, callingCode);
     callingCodeOffsets_.insert_or_assign(callingCode, blocks + value32(entry + kEntryOffset));
     callingCodeCountries_[callingCode].insert(country);
+    noteLength(callingCode);
   }
   if (defaultCallingCode_) defaultInfo_ = callingCodeInfo(*defaultCallingCode_);
 }
@@ -128,8 +129,8 @@ void LuPhoneFormat::readBlock(std::uint32_t block, CallingCodeInfo& info) const 
       set.append(readRule(offset, pool));
       offset += kRuleSize;
     }
-    set.buildIndex();
   }
+  info.buildIndex();
 }
 
 }  // namespace kindora

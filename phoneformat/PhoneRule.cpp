@@ -9,9 +9,6 @@
 namespace kindora {
 namespace {
 
-// Room for a "+" or an access code, which often goes in front of a text.
-constexpr std::size_t kRoomInFront = 8;
-
 // Text that grows in place where it is as short as a phone number, so that only the result is
 // allocated.
 class Line final {
@@ -34,11 +31,7 @@ class Line final {
     size_ += text.size();
     return *this;
   }
-  [[nodiscard]] std::string text() const {
-    std::string result;
-    if (size_ >= result.capacity()) result.reserve(size_ + kRoomInFront);
-    return result.assign(start_, size_);
-  }
+  [[nodiscard]] std::string text() const { return {start_, size_}; }
 
  private:
   std::array<char, 128> small_;
@@ -50,12 +43,14 @@ class Line final {
 class Expansion {
  public:
   Expansion(std::string_view pattern, std::string_view digits, PrefixText intlPrefix,
-            PrefixText trunkPrefix)
+            PrefixText trunkPrefix, std::string_view front)
       : pattern_(pattern),
         digits_(digits),
         intlPrefix_(intlPrefix),
         trunkPrefix_(trunkPrefix),
-        result_(longest()) {}
+        result_(front.size() + longest()) {
+    result_ += front;
+  }
 
   std::string operator()() {
     // What the pattern has no place for comes first, so that nothing is moved.
@@ -73,7 +68,8 @@ class Expansion {
   }
 
  private:
-  // More than the text can become: each place of the pattern and the front may hold a prefix.
+  // More than the text can become: each place of the pattern and the one before it may hold a
+  // prefix.
   [[nodiscard]] std::size_t longest() const {
     const std::size_t prefix =
         std::max(intlPrefix_.value_or("").size() + 1, trunkPrefix_.value_or("").size());
@@ -122,8 +118,9 @@ class Expansion {
 }  // namespace
 
 std::string PhoneRule::formatIntlPrefixTrunkPrefix(std::string_view digits, PrefixText intlPrefix,
-                                                   PrefixText trunkPrefix) const {
-  return Expansion(format, digits, intlPrefix, trunkPrefix)();
+                                                   PrefixText trunkPrefix,
+                                                   std::string_view front) const {
+  return Expansion(format, digits, intlPrefix, trunkPrefix, front)();
 }
 
 std::string PhoneRule::description() const {

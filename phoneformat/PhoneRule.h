@@ -41,11 +41,12 @@ struct PhoneRule {
 
   /// The national digits laid out by the pattern as far as they go. Digits beyond the pattern's are
   /// left out. A prefix that has no place in the pattern goes in front: the calling code with a
-  /// space, or else the trunk prefix without one. Named by all keywords, since `format` is the
-  /// field.
+  /// space, or else the trunk prefix without one. All that goes behind the front. Named by all
+  /// keywords, since `format` is the field.
   [[nodiscard]] std::string formatIntlPrefixTrunkPrefix(std::string_view digits,
                                                         PrefixText intlPrefix,
-                                                        PrefixText trunkPrefix) const;
+                                                        PrefixText trunkPrefix,
+                                                        std::string_view front = {}) const;
   /// All fields on one line.
   [[nodiscard]] std::string description() const;
 };

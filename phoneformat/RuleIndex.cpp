@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace kindora {
 namespace {
@@ -37,16 +38,6 @@ std::array<std::uint16_t, 10> twoDigitStarts(const std::vector<PhoneRule>& rules
 }
 
 }  // namespace
-
-RuleIndex& RuleIndex::operator=(RuleIndex&& other) noexcept {
-  twoDigits_ = std::exchange(other.twoDigits_, {});
-  starts_ = std::exchange(other.starts_, {});
-  firsts_ = std::exchange(other.firsts_, {});
-  rules_ = std::exchange(other.rules_, {});
-  longest_ = std::exchange(other.longest_, 0);
-  hasUnflagged_ = std::exchange(other.hasUnflagged_, false);
-  return *this;
-}
 
 void RuleIndex::build(const std::vector<PhoneRule>& rules, std::int32_t matchLen) {
   *this = RuleIndex();
@@ -84,21 +75,24 @@ void RuleIndex::build(const std::vector<PhoneRule>& rules, std::int32_t matchLen
       ordered[next[i]++] = static_cast<std::uint16_t>(r);
     }
   }
-  starts_ = std::move(starts);
-  firsts_ = std::move(firsts);
+  segments_.reserve(starts.size());
+  for (std::size_t i = 0; i < starts.size(); ++i) segments_.push_back({starts[i], firsts[i]});
   rules_ = std::move(ordered);
   twoDigits_ = twoDigitStarts(rules, matchLen);
-  for (const PhoneRule& rule : rules) {
-    longest_ = std::max(longest_, rule.maxLen);
-    hasUnflagged_ = hasUnflagged_ || (!rule.hasIntlPrefix() && !rule.hasTrunkPrefix());
-  }
+  for (const PhoneRule& rule : rules) longest_ = std::max(longest_, rule.maxLen);
 }
 
 std::span<const std::uint16_t> RuleIndex::rulesFor(std::int32_t value) const {
-  const auto after = std::ranges::upper_bound(starts_, std::int64_t{value});
-  if (after == starts_.begin()) return {};
-  const auto i = static_cast<std::size_t>(after - starts_.begin()) - 1;
-  return {rules_.data() + firsts_[i], rules_.data() + firsts_[i + 1]};
+  if (segments_.empty()) return {};
+  // Halves without a branch, since which half it is cannot be foreseen.
+  const Segment* segment = segments_.data();
+  for (std::size_t left = segments_.size(); left > 1;) {
+    const std::size_t half = left / 2;
+    segment += segment[half].start <= value ? half : 0;
+    left -= half;
+  }
+  if (value < segment->start || segment == &segments_.back()) return {};
+  return {rules_.data() + segment->first, rules_.data() + (segment + 1)->first};
 }
 
 }  // namespace kindora

@@ -52,33 +52,36 @@ void RuleSet::append(PhoneRule rule) {
 template <typename Accept>
 const PhoneRule* RuleSet::firstInRange(std::string_view digits, Accept accept) const {
   const auto count = static_cast<std::size_t>(matchLen);
-  if (index_.empty()) {
+  if (index_->empty()) {
     const std::int32_t value = leadingValue(digits, count);
     for (const PhoneRule& rule : rules) {
       if (rule.minVal <= value && value <= rule.maxVal && accept(rule)) return &rule;
     }
     return nullptr;
   }
-  for (const std::uint16_t position : index_.rulesFor(leadingValue(digits, count))) {
+  for (const std::uint16_t position : index_->rulesFor(leadingValue(digits, count))) {
     if (accept(rules[position])) return &rules[position];
   }
   return nullptr;
 }
 
+RuleSet::Fit RuleSet::fit(std::string_view digits, bool intl, bool trunk) const {
+  Fit result;
+  if (!mayHaveLength(digits.size())) return result;
+  result.flagged = firstInRange(digits, [&](const PhoneRule& rule) {
+    if (!startsFit(rule, digits)) return false;
+    if (!result.any && (!intl || !trunk || rule.hasTrunkPrefix())) result.any = &rule;
+    return passesPrefixTest(rule, intl, trunk, true);
+  });
+  return result;
+}
+
 std::optional<std::string> RuleSet::format(std::string_view digits, PrefixText intlPrefix,
                                            PrefixText trunkPrefix, bool prefixRequired) const {
-  const bool intl = intlPrefix.has_value();
-  const bool trunk = trunkPrefix.has_value();
-  if (!mayFit(digits, intl, trunk, prefixRequired)) return std::nullopt;
-
-  const PhoneRule* rule = firstInRange(digits, [&](const PhoneRule& candidate) {
-    return startsFit(candidate, digits) && passesPrefixTest(candidate, intl, trunk, prefixRequired);
-  });
-  if (!rule && !prefixRequired && (intl || trunk)) {
-    rule = firstInRange(digits, [&](const PhoneRule& candidate) {
-      return startsFit(candidate, digits) && (!intl || !trunk || candidate.hasTrunkPrefix());
-    });
-  }
+  const bool bare = !intlPrefix && !trunkPrefix;
+  const Fit found = fit(digits, intlPrefix.has_value(), trunkPrefix.has_value());
+  const bool flaggedFirst = prefixRequired || (found.flagged && !bare);
+  const PhoneRule* const rule = flaggedFirst ? found.flagged : found.any;
   if (!rule) return std::nullopt;
   return rule->formatIntlPrefixTrunkPrefix(digits, intlPrefix, trunkPrefix);
 }
@@ -87,7 +90,7 @@ bool RuleSet::isValid(std::string_view digits, PrefixText intlPrefix, PrefixText
                       bool prefixRequired) const {
   const bool intl = intlPrefix.has_value();
   const bool trunk = trunkPrefix.has_value();
-  if (!mayFit(digits, intl, trunk, prefixRequired)) return false;
+  if (!mayHaveLength(digits.size())) return false;
 
   if (firstInRange(digits, [&](const PhoneRule& rule) {
         return lengthFits(rule, digits) && passesPrefixTest(rule, intl, trunk, prefixRequired);

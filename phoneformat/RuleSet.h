@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -10,6 +11,7 @@
 
 #include "phoneformat/PhoneRule.h"
 #include "phoneformat/RuleIndex.h"
+#include "phoneformat/Uncopied.h"
 
 namespace kindora {
 
@@ -29,19 +31,26 @@ struct RuleSet {
   void append(PhoneRule rule);
   /// Makes looking rules up fast. Whoever changes the rules of this very object afterwards calls it
   /// again; copies start without.
-  void buildIndex() { index_.build(rules, matchLen); }
+  void buildIndex() { index_->build(rules, matchLen); }
 
-  /// False if surely no rule fits the digits, told quickly; true otherwise.
-  [[nodiscard]] bool mayFit(std::string_view digits, bool intl, bool trunk,
-                            bool prefixRequired) const {
-    const auto size = static_cast<std::int64_t>(digits.size());
-    if (size < matchLen) return false;
-    if (index_.empty()) return true;
-    if (size > index_.longest() || !index_.mayHold(digits)) return false;
-    if (!prefixRequired) return true;
-    if (!intl && !trunk) return index_.hasUnflagged();
-    return (intl && hasRuleWithIntlPrefix) || (trunk && hasRuleWithTrunkPrefix);
+  /// False if surely no rule fits a number of that many digits, or one that begins with the two
+  /// digits, each 0 to 9.
+  [[nodiscard]] bool mayHaveLength(std::size_t length) const {
+    const auto size = static_cast<std::int64_t>(length);
+    return size >= matchLen && (index_->empty() || size <= index_->longest());
   }
+  [[nodiscard]] bool mayStartWith(unsigned first, unsigned second) const {
+    return index_->empty() || index_->mayStartWith(first, second);
+  }
+  /// The rules by which the digits can be laid out, null where there is none.
+  struct Fit {
+    /// The first that is flagged for the prefix given, or unflagged when none is given.
+    const PhoneRule* flagged = nullptr;
+    /// The first of any flags, but for trunk prefixes where both prefixes are given; not looked for
+    /// behind a flagged one.
+    const PhoneRule* any = nullptr;
+  };
+  [[nodiscard]] Fit fit(std::string_view digits, bool intl, bool trunk) const;
   /// The digits laid out by the first rule that fits; none when there is none. With prefixRequired
   /// only rules that are flagged for the prefix given count, or unflagged ones when none is given.
   [[nodiscard]] std::optional<std::string> format(std::string_view digits, PrefixText intlPrefix,
@@ -56,7 +65,7 @@ struct RuleSet {
   template <typename Accept>
   [[nodiscard]] const PhoneRule* firstInRange(std::string_view digits, Accept accept) const;
 
-  RuleIndex index_;
+  Uncopied<RuleIndex> index_;
 };
 
 }  // namespace kindora

@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace kindora {
 namespace {
@@ -63,6 +66,56 @@ TEST(CallingCodeInfo, AllSetsAreTriedWithThePrefixRequiredFirst) {
   info.ruleSets.push_back(oneDigitSet(oneDigitRule(2, 4, PhoneRule::kIntlBit, "#-###")));
   EXPECT_EQ(info.format("442345"), "44 2-345");
   EXPECT_EQ(info.format("2345"), "23 45");
+}
+
+// Sets for one digit and one kind of number each.
+CallingCodeInfo planOfSets(std::size_t count) {
+  CallingCodeInfo info = plan();
+  info.ruleSets.clear();
+  for (std::size_t i = 0; i < count; ++i) {
+    const auto number = static_cast<std::int32_t>(i);
+    info.ruleSets.push_back(oneDigitSet(
+        oneDigitRule(number * 7 % 10, 1 + number % 5, number % 4, std::to_string(i) + " #####")));
+    info.ruleSets.back().matchLen = 1 + number % 3 / 2;
+  }
+  return info;
+}
+
+TEST(CallingCodeInfo, IndexFindsWhatAScanFinds) {
+  for (const std::size_t count : {0, 1, 3, 20, 63, 64, 65, 90}) {
+    const CallingCodeInfo scanned = planOfSets(count);
+    CallingCodeInfo indexed = scanned;
+    indexed.buildIndex();
+    std::vector<std::string> numbers{""};
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+      const std::string number = numbers[i];
+      for (const std::string& text : {number, "44" + number, "0" + number}) {
+        EXPECT_EQ(indexed.format(text), scanned.format(text)) << text << " in " << count;
+        EXPECT_EQ(indexed.isValidPhoneNumber(text), scanned.isValidPhoneNumber(text))
+            << text << " in " << count;
+      }
+      if (number.size() == 4) continue;
+      for (const char ch : std::string_view("0357*")) numbers.push_back(number + ch);
+    }
+    const std::string tooLong(40, '7');
+    EXPECT_EQ(indexed.format(tooLong), scanned.format(tooLong));
+  }
+}
+
+TEST(CallingCodeInfo, ACopyMayBeChangedAndFollowsItsOwnSets) {
+  CallingCodeInfo indexed = plan();
+  indexed.buildIndex();
+  CallingCodeInfo copy = indexed;
+  copy.ruleSets[0] = oneDigitSet(oneDigitRule(9, 4, 0, "#-###"));
+  EXPECT_EQ(copy.format("9345"), "9-345");
+  EXPECT_EQ(indexed.format("2345"), "23 45");
+}
+
+TEST(CallingCodeInfo, WhatGoesInFrontStaysInFront) {
+  EXPECT_EQ(plan().format("2345", "00 "), "00 23 45");
+  EXPECT_EQ(plan().format("442345", "+"), "+44 23 45");
+  EXPECT_EQ(plan().format("449999", "+"), "+44 9999");
+  EXPECT_EQ(plan().format("", "+"), "+");
 }
 
 TEST(CallingCodeInfo, DigitsThatFitNothingComeBackBehindTheCallingCode) {
