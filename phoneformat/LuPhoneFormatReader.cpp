@@ -64,6 +64,9 @@ void LuPhoneFormat::parseDataHeader() {
   const auto count =
       static_cast<std::uint32_t>(std::min(room, static_cast<std::uint64_t>(std::max(stored, 0))));
   const std::uint32_t blocks = kHeaderStart + kEntrySize * value32(0);
+  countryCallingCode_.reserve(count);
+  callingCodeOffsets_.reserve(count);
+  callingCodeCountries_.reserve(count);
   for (std::uint32_t i = 0; i < count; ++i) {
     const std::uint32_t entry = kHeaderStart + kEntrySize * i;
     const std::string callingCode(text(entry + kEntryCallingCode, kEntryTextSize));
@@ -120,11 +123,14 @@ void LuPhoneFormat::readBlock(std::uint32_t block, CallingCodeInfo& info) const 
   static_cast<void>(readTexts(access, info.intlPrefixes));
 
   std::uint32_t offset = area;
+  info.ruleSets.reserve(std::min<std::size_t>(setCount, data_.size() / kSetRules));
   for (std::uint32_t i = 0; i < setCount && offset < data_.size(); ++i) {
     RuleSet& set = info.ruleSets.emplace_back();
     set.matchLen = static_cast<std::int32_t>(value16(offset + kSetMatchLen));
     const std::uint32_t ruleCount = value16(offset + kSetRuleCount);
     offset += kSetRules;
+    // No more than the file can hold, whatever it says.
+    set.rules.reserve(std::min<std::size_t>(ruleCount, data_.size() / kRuleSize));
     for (std::uint32_t j = 0; j < ruleCount && offset < data_.size(); ++j) {
       set.append(readRule(offset, pool));
       offset += kRuleSize;

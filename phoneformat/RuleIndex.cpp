@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <limits>
 #include <utility>
 
 namespace kindora {
@@ -42,16 +43,21 @@ std::array<std::uint16_t, 10> twoDigitStarts(const std::vector<PhoneRule>& rules
 void RuleIndex::build(const std::vector<PhoneRule>& rules, std::int32_t matchLen) {
   *this = RuleIndex();
   if (rules.empty() || rules.size() > kMostRules) return;
-  std::vector<std::int64_t> starts;
+  // Behind the greatest value no segment can begin.
+  const auto isGreatest = [](const PhoneRule& rule) {
+    return rule.maxVal == std::numeric_limits<std::int32_t>::max();
+  };
+  if (std::ranges::any_of(rules, isGreatest)) return;
+  std::vector<std::int32_t> starts;
   starts.reserve(2 * rules.size());
   for (const PhoneRule& rule : rules) {
     if (rule.minVal > rule.maxVal) continue;
     starts.push_back(rule.minVal);
-    starts.push_back(std::int64_t{rule.maxVal} + 1);
+    starts.push_back(rule.maxVal + 1);
   }
   std::ranges::sort(starts);
   starts.erase(std::unique(starts.begin(), starts.end()), starts.end());
-  const auto segment = [&](std::int64_t value) {
+  const auto segment = [&](std::int32_t value) {
     return static_cast<std::size_t>(std::ranges::lower_bound(starts, value) - starts.begin());
   };
 
@@ -59,7 +65,7 @@ void RuleIndex::build(const std::vector<PhoneRule>& rules, std::int32_t matchLen
   std::size_t places = 0;
   for (const PhoneRule& rule : rules) {
     if (rule.minVal > rule.maxVal) continue;
-    const std::size_t end = segment(std::int64_t{rule.maxVal} + 1);
+    const std::size_t end = segment(rule.maxVal + 1);
     for (std::size_t i = segment(rule.minVal); i < end; ++i) {
       ++firsts[i + 1];
       if (++places > kMostPlacesPerRule * rules.size()) return;
@@ -67,16 +73,17 @@ void RuleIndex::build(const std::vector<PhoneRule>& rules, std::int32_t matchLen
   }
   for (std::size_t i = 1; i < firsts.size(); ++i) firsts[i] += firsts[i - 1];
   std::vector<std::uint16_t> ordered(places);
-  std::vector<std::uint32_t> next = firsts;
-  for (std::size_t r = 0; r < rules.size(); ++r) {
+  // From the last rule on, each segment is filled from its end, which moves firsts[i + 1] down to
+  // where the segment begins.
+  for (std::size_t r = rules.size(); r-- > 0;) {
     if (rules[r].minVal > rules[r].maxVal) continue;
-    const std::size_t end = segment(std::int64_t{rules[r].maxVal} + 1);
+    const std::size_t end = segment(rules[r].maxVal + 1);
     for (std::size_t i = segment(rules[r].minVal); i < end; ++i) {
-      ordered[next[i]++] = static_cast<std::uint16_t>(r);
+      ordered[--firsts[i + 1]] = static_cast<std::uint16_t>(r);
     }
   }
   segments_.reserve(starts.size());
-  for (std::size_t i = 0; i < starts.size(); ++i) segments_.push_back({starts[i], firsts[i]});
+  for (std::size_t i = 0; i < starts.size(); ++i) segments_.push_back({starts[i], firsts[i + 1]});
   rules_ = std::move(ordered);
   twoDigits_ = twoDigitStarts(rules, matchLen);
   for (const PhoneRule& rule : rules) longest_ = std::max(longest_, rule.maxLen);

@@ -34,7 +34,7 @@ class RuleIndex final {
   // The values from start to before that of the next segment; their rules are those of rules_ from
   // first to before that of the next segment, which the last one, without rules, only ends.
   struct Segment {
-    std::int64_t start;
+    std::int32_t start;
     std::uint32_t first;
   };
 

@@ -31,6 +31,8 @@ include/kindora/phoneformat/PhoneFormatEnvironment.h
 include/kindora/phoneformat/PhoneRule.h
 include/kindora/phoneformat/RuleIndex.h
 include/kindora/phoneformat/RuleSet.h
+include/kindora/phoneformat/SetIndex.h
+include/kindora/phoneformat/Uncopied.h
 lib/cmake/Kindora/Kindora-phoneformat.cmake
 lib/cmake/Kindora/KindoraConfig.cmake
 lib/cmake/Kindora/KindoraConfigVersion.cmake
