@@ -17,7 +17,8 @@ namespace kindora {
 /// looks at all its rules.
 class RuleIndex final {
  public:
-  /// Stays empty where ranges overlap so much that it would cost more than it saves.
+  /// Stays empty where ranges overlap so much that it would cost more than it saves, and where one
+  /// reaches the greatest value of its type.
   void build(const std::vector<PhoneRule>& rules, std::int32_t matchLen);
 
   [[nodiscard]] bool empty() const { return segments_.empty(); }

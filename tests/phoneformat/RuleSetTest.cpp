@@ -259,7 +259,7 @@ TEST(RuleSetIndex, StaysEmptyWhereTooManyRangesOverlap) {
 TEST(RuleSetIndex, FindsWhatAScanFinds) {
   const std::vector<PhoneRule> rules{rule(5, 9, 3, 0, "#"), rule(1, 6, 3, 0, "#"),
                                      rule(9, 2, 3, 0, "#"), rule(-4, -1, 3, 0, "#"),
-                                     rule(6, INT32_MAX, 3, 0, "#")};
+                                     rule(6, INT32_MAX - 1, 3, 0, "#")};
   RuleIndex index;
   index.build(rules, 1);
   ASSERT_FALSE(index.empty());
@@ -271,6 +271,12 @@ TEST(RuleSetIndex, FindsWhatAScanFinds) {
     const auto found = index.rulesFor(value);
     EXPECT_EQ(std::vector(found.begin(), found.end()), expected) << value;
   }
+}
+
+TEST(RuleSetIndex, StaysEmptyWhereARangeReachesTheGreatestValue) {
+  RuleIndex index;
+  index.build({rule(5, 9, 3, 0, "#"), rule(6, INT32_MAX, 3, 0, "#")}, 1);
+  EXPECT_TRUE(index.empty());
 }
 
 }  // namespace
