@@ -8,6 +8,7 @@ import struct
 import threading
 import zlib
 
+import kindora_e2e
 from gi.repository import Gio, GLib
 
 
@@ -64,8 +65,7 @@ class FileChooser:
         self._loop = GLib.MainLoop(self._context)
         self._thread = threading.Thread(target=self._serve, daemon=True)
         self._thread.start()
-        if not self._ready.wait(30):
-            raise RuntimeError("the file chooser did not come onto the bus")
+        kindora_e2e.wait_until(self._ready.is_set, "the file chooser is on the bus")
 
     def _serve(self):
         self._context.push_thread_default()
