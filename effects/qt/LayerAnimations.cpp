@@ -14,6 +14,25 @@ namespace {
 
 constexpr double kLongest = 1e6;  // seconds; what never ends is on its way for so long
 
+// Ends with the last animation that belongs to it.
+class Transaction final {
+ public:
+  explicit Transaction(std::function<void()> completion) : completion_(std::move(completion)) {}
+  ~Transaction() {
+    if (completion_) completion_();
+  }
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
+
+ private:
+  std::function<void()> completion_;
+};
+
+std::shared_ptr<Transaction>& currentTransaction() {
+  static std::shared_ptr<Transaction> current;  // main thread only
+  return current;
+}
+
 class Playing final : public UIViewLayerAnimation {
  public:
   Playing(const std::shared_ptr<UIView>& view, std::shared_ptr<CAKeyframeAnimation> animation,
@@ -74,6 +93,7 @@ class Playing final : public UIViewLayerAnimation {
     if (const auto delegate = animation_->delegate()) {
       delegate->animationDidStop(*animation_, finished);
     }
+    transaction_.reset();
   }
 
   std::weak_ptr<UIView> view_;
@@ -82,6 +102,7 @@ class Playing final : public UIViewLayerAnimation {
   std::string property_;
   KeyframePlayback playback_;
   ProgressAnimation clock_;
+  std::shared_ptr<Transaction> transaction_ = currentTransaction();
   bool told_ = false;
 };
 
@@ -92,6 +113,14 @@ void addAnimation(const std::shared_ptr<UIView>& view, const CAKeyframeAnimation
   const auto playing = std::make_shared<Playing>(view, animation.copy(), key);
   view->setLayerAnimation(key, playing);
   playing->start();
+}
+
+void performInAnimationTransaction(const std::function<void()>& animations,
+                                   std::function<void()> completion) {
+  auto transaction = std::make_shared<Transaction>(std::move(completion));
+  auto outer = std::exchange(currentTransaction(), transaction);
+  animations();
+  currentTransaction() = std::move(outer);
 }
 
 void removeAnimationForKey(UIView& view, std::string_view key) {

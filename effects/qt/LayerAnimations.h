@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string_view>
 
@@ -20,6 +21,13 @@ namespace kindora {
 /// animation is replaced or removed, or the view goes.
 void addAnimation(const std::shared_ptr<UIView>& view, const CAKeyframeAnimation& animation,
                   std::string_view key);
+
+/// Runs the closure, then the completion, once, as soon as no animation plays any more that the
+/// closure has added: at its end, or when it was replaced, removed, or its view has gone. That is
+/// before this returns if the closure adds none. Transactions may nest; an animation belongs to the
+/// innermost.
+void performInAnimationTransaction(const std::function<void()>& animations,
+                                   std::function<void()> completion);
 
 /// Takes away what plays, or stays, under the key.
 void removeAnimationForKey(UIView& view, std::string_view key);

@@ -70,6 +70,10 @@ void UIView::resizeSubviews() {
 void UIView::updateShown() {
   shown_ = presentation_;
   if (keyframes_.opacity) shown_.alpha = *keyframes_.opacity;
+  if (keyframes_.transform) {  // drawn in place of what the state says
+    shown_.translation = {};
+    shown_.scaling = 1;
+  }
   if (keyframes_.position) shown_.frame = rectAround(*keyframes_.position, shown_.frame.size);
   const CGPoint offset = motionOffset();
   shown_.frame.origin.x += offset.x;

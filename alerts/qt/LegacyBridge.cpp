@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "alerts/qt/LegacyBridge.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+#include "alerts/legacy/QavAlertView.h"
+#include "alerts/qt/QavAlertController.h"
+
+namespace kindora {
+namespace {
+
+// So that button i is always action i, an action without any title has a button without text.
+std::string buttonTitle(const QavAlertAction& action) {
+  if (action.title()) return *action.title();
+  return action.attributedTitle() ? action.attributedTitle()->string() : "";
+}
+
+QavAlertViewStyle styleFor(const std::vector<std::shared_ptr<UITextField>>& fields) {
+  if (fields.empty()) return QavAlertViewStyle::standard;
+  if (fields.size() > 1) return QavAlertViewStyle::loginAndPasswordInput;
+  return fields.front()->isSecureTextEntry() ? QavAlertViewStyle::secureTextInput
+                                             : QavAlertViewStyle::plainTextInput;
+}
+
+}  // namespace
+
+std::shared_ptr<QavAlertView> alertViewWithAlertController(QavAlertController& controller) {
+  const std::vector<QavAlertActionRef> actions = controller.actions();
+  const std::optional<std::string> cancelTitle =
+      actions.empty() ? std::nullopt : std::optional(buttonTitle(*actions.front()));
+  const auto alertView = QavAlertView::withTitle(
+      controller.title(), controller.message(),
+      std::static_pointer_cast<QavAlertController>(controller.shared_from_this()), cancelTitle);
+  for (std::size_t i = 1; i < actions.size(); ++i) {
+    alertView->addButtonWithTitle(buttonTitle(*actions[i]));
+  }
+  if (controller.attributedTitle()) alertView->setAttributedTitle(controller.attributedTitle());
+  if (controller.attributedMessage()) {
+    alertView->setAttributedMessage(controller.attributedMessage());
+  }
+  alertView->setAlertViewStyle(styleFor(controller.textFields()));
+  const auto content = controller.contentView()->subviews();  // they leave it on the way
+  for (const auto& subview : content) alertView->contentView()->addSubview(subview);
+  alertView->setAlwaysShowsButtonsVertically(controller.actionLayout() ==
+                                             QavAlertActionLayout::vertical);
+  alertView->didDismissHandler = [actions](int buttonIndex) {
+    if (buttonIndex < 0 || static_cast<std::size_t>(buttonIndex) >= actions.size()) return;
+    QavAlertAction& action = *actions[static_cast<std::size_t>(buttonIndex)];
+    if (action.handler()) action.handler()(action);
+  };
+  return alertView;
+}
+
+}  // namespace kindora
