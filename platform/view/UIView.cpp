@@ -191,6 +191,40 @@ void UIView::setUserInteractionEnabled(bool enabled) {
   changed();
 }
 
+void UIView::setTintAdjustmentMode(UIViewTintAdjustmentMode mode) {
+  if (tintAdjustmentMode_ == mode) return;
+  tintAdjustmentMode_ = mode;
+  tintChanged();
+}
+
+bool UIView::isTintDimmed() const {
+  if (tintAdjustmentMode_ != UIViewTintAdjustmentMode::automatic) {
+    return tintAdjustmentMode_ == UIViewTintAdjustmentMode::dimmed;
+  }
+  const std::shared_ptr<UIView> parent = superview_.lock();
+  return parent && parent->isTintDimmed();
+}
+
+void UIView::setTintColor(const UIColor& color) {
+  if (ownTintColor_ == color) return;
+  ownTintColor_ = color;
+  tintChanged();
+}
+
+UIColor UIView::tintColor(const UIColor& otherwise) const {
+  std::optional<UIColor> color = ownTintColor_;
+  for (auto up = superview_.lock(); up && !color; up = up->superview_.lock()) {
+    color = up->ownTintColor_;
+  }
+  return isTintDimmed() ? desaturated(color.value_or(otherwise)) : color.value_or(otherwise);
+}
+
+void UIView::tintChanged() {
+  changed();
+  const std::vector<std::shared_ptr<UIView>> views = subviews_;
+  for (const auto& view : views) view->tintChanged();
+}
+
 bool UIView::endEditing(bool force) {
   bool ended = resignFirstResponder();
   for (const auto& view : subviews_) ended = view->endEditing(force) && ended;
@@ -247,6 +281,7 @@ void UIView::layoutIfNeeded() {
   if (layoutTarget_ > state_.layout) {
     animatable([this](UIViewState& state) { state.layout = layoutTarget_; });
   }
+  if (layoutFinished) layoutFinished();
 }
 
 void UIView::changed() {
