@@ -87,7 +87,8 @@ function(kindora_install_headers TARGET COMPONENT WITHOUT)
   endforeach()
 endfunction()
 
-# What the QML tools of other projects read of the module; programs have all of it in their resources.
+# What other projects' QML tools read of the module (programs have all of it in their resources), and
+# what their own QML types must know of its classes to derive from them.
 function(kindora_install_qml_module TARGET COMPONENT)
   get_target_property(output ${TARGET} QT_QML_MODULE_OUTPUT_DIRECTORY)
   get_target_property(path ${TARGET} QT_QML_MODULE_TARGET_PATH)
@@ -98,6 +99,15 @@ function(kindora_install_qml_module TARGET COMPONENT)
     PATTERN "qmldir"
     PATTERN "*.qmltypes"
     PATTERN "*.qml")
+  get_target_property(metatypes ${TARGET} INTERFACE_QT_META_TYPES_BUILD_FILE)
+  set(folder ${CMAKE_INSTALL_LIBDIR}/kindora/metatypes)
+  cmake_path(GET metatypes FILENAME name)
+  install(FILES ${metatypes} DESTINATION ${folder} COMPONENT ${COMPONENT} EXCLUDE_FROM_ALL)
+  set(wants_them $<BOOL:$<TARGET_PROPERTY:QT_CONSUMES_METATYPES>>)
+  target_sources(
+    ${TARGET}
+    INTERFACE
+      $<INSTALL_INTERFACE:$<${wants_them}:$<INSTALL_PREFIX>/${folder}/${name}>>)
 endfunction()
 
 # Installs with the component those that it needs, and a file that tells which they are.

@@ -44,7 +44,7 @@ done < <(grep -rhoP '^#include "\K[^"]+' "$tree/include/kindora" | sort -u)
 
 configure "$component" program || fail "the example was not configured" program
 cmake --build "$folder/program" >"$folder/build.log" 2>&1 || fail "the example was not built" build
-QT_QPA_PLATFORM=offscreen "$folder/program/example" >"$folder/written.txt" ||
+QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=$folder "$folder/program/example" >"$folder/written.txt" ||
   fail "the example failed"
 diff "$folder/written.txt" "$here/$component/expected.txt"
 
