@@ -15,6 +15,11 @@ struct UIColor {
   [[nodiscard]] static constexpr UIColor blackColor() { return {0, 0, 0, 1}; }
   [[nodiscard]] static constexpr UIColor whiteColor() { return {1, 1, 1, 1}; }
   [[nodiscard]] static constexpr UIColor yellowColor() { return {1, 1, 0, 1}; }
+  [[nodiscard]] static constexpr UIColor redColor() { return {1, 0, 0, 1}; }
+  [[nodiscard]] static constexpr UIColor darkTextColor() { return blackColor(); }
+  [[nodiscard]] static constexpr UIColor colorWithWhite(double white, double alpha) {
+    return {white, white, white, alpha};
+  }
   [[nodiscard]] constexpr UIColor colorWithAlphaComponent(double value) const {
     return {red, green, blue, value};
   }

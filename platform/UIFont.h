@@ -10,6 +10,10 @@ namespace kindora {
 struct UIFont {
   std::string name;
   double pointSize = 17;  ///< in points of the view, whatever the desktop's font settings
+
+  /// The font of the toolkit's own parts.
+  [[nodiscard]] static UIFont systemFontOfSize(double size) { return {"System", size}; }
+  [[nodiscard]] static UIFont boldSystemFontOfSize(double size) { return {"System-Bold", size}; }
   friend bool operator==(const UIFont&, const UIFont&) = default;
 };
 

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+#include "platform/UIFont.h"
 #include "platform/view/UITextInput.h"
 
 namespace kindora {
@@ -12,6 +13,7 @@ namespace kindora {
 class UITextField;
 
 enum class UIReturnKeyType { standard, next, done };
+enum class UITextAutocorrectionType { standard = 0, no = 1, yes = 2 };
 
 /// Hears what happens in text fields and has a say in it.
 class UITextFieldDelegate {
@@ -29,7 +31,7 @@ class UITextFieldDelegate {
 };
 
 /// One line of text that the user edits.
-class UITextField final : public UITextInput {
+class UITextField : public UITextInput {
  public:
   void setDelegate(std::weak_ptr<UITextFieldDelegate> delegate) { delegate_ = std::move(delegate); }
   /// Called after each edit by the user that was not refused, and while an input method composes.
@@ -37,6 +39,23 @@ class UITextField final : public UITextInput {
 
   [[nodiscard]] UIReturnKeyType returnKeyType() const { return returnKeyType_; }
   void setReturnKeyType(UIReturnKeyType type);
+
+  /// Dots are shown in place of what is typed.
+  [[nodiscard]] bool isSecureTextEntry() const { return secureTextEntry_; }
+  void setSecureTextEntry(bool secure);
+  [[nodiscard]] UITextAutocorrectionType autocorrectionType() const { return autocorrectionType_; }
+  void setAutocorrectionType(UITextAutocorrectionType type);
+  /// None is the storyboard's to choose; a field made in code then has the system font at 17
+  /// points.
+  [[nodiscard]] const std::optional<UIFont>& font() const { return font_; }
+  void setFont(const UIFont& font);
+  [[nodiscard]] UIFont shownFont() const;
+  /// Between the field's edges and its text.
+  [[nodiscard]] UIEdgeInsets textInsets() const { return textInsets_; }
+  void setTextInsets(UIEdgeInsets insets);
+
+  /// As high as a line with its insets.
+  [[nodiscard]] CGSize intrinsicContentSize() const override;
 
   /// The user pressed the return key.
   void pressReturn();
@@ -46,7 +65,14 @@ class UITextField final : public UITextInput {
   void didChange() override;
 
  private:
+  template <typename Value>
+  void assign(Value& field, const Value& value);
+
   std::weak_ptr<UITextFieldDelegate> delegate_;
+  bool secureTextEntry_ = false;
+  UITextAutocorrectionType autocorrectionType_ = UITextAutocorrectionType::standard;
+  std::optional<UIFont> font_;
+  UIEdgeInsets textInsets_;
   UIReturnKeyType returnKeyType_ = UIReturnKeyType::standard;
 };
 

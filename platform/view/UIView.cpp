@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/autolayout/LayoutEngine.h"
 #include "platform/view/UIViewAnimationBlock.h"
 
 namespace kindora {
@@ -32,6 +33,7 @@ UIViewState interpolated(const UIViewState& from, const UIViewState& to, double 
       .layout = mix(from.layout, to.layout)};
 }
 
+UIView::UIView() = default;
 UIView::~UIView() = default;
 
 template <typename Change>
@@ -45,13 +47,18 @@ void UIView::setState(const UIViewState& state) {
   if (state_ == state && presentation_ == state) return;
   UIViewAnimationBlock* block = UIViewAnimationBlock::current();
   if (block != nullptr) block->willChange(shared_from_this());
+  const bool moved = state_.frame != state.frame;
   const bool resized = state_.frame.size != state.frame.size;
   state_ = state;
   ++stateRevision_;
   if (block == nullptr) presentation_ = state;
   updateShown();
   changed();
-  if (resized) resizeSubviews();
+  if (resized) {
+    resizeSubviews();
+    setNeedsLayout();
+  }
+  if (const auto parent = moved ? superview() : nullptr) parent->setNeedsLayout();
 }
 
 void UIView::resizeSubviews() {
@@ -64,6 +71,9 @@ void UIView::updateShown() {
   shown_ = presentation_;
   if (keyframes_.opacity) shown_.alpha = *keyframes_.opacity;
   if (keyframes_.position) shown_.frame = rectAround(*keyframes_.position, shown_.frame.size);
+  const CGPoint offset = motionOffset();
+  shown_.frame.origin.x += offset.x;
+  shown_.frame.origin.y += offset.y;
 }
 
 void UIView::setKeyframeValues(const UIViewKeyframeValues& values) {
@@ -191,6 +201,47 @@ void UIView::setUserInteractionEnabled(bool enabled) {
   changed();
 }
 
+void UIView::setTapGestureRecognizer(std::shared_ptr<UITapGestureRecognizer> recognizer) {
+  tapGestureRecognizer_ = std::move(recognizer);
+  changed();
+}
+
+void UIView::setAccessibility(UIAccessibilityRole role, const std::optional<std::string>& label) {
+  if (accessibilityRole_ == role && accessibilityLabel_ == label) return;
+  accessibilityRole_ = role;
+  accessibilityLabel_ = label;
+  changed();
+}
+
+void UIView::addMotionEffect(const UIMotionEffectGroup& group) {
+  motionEffects_.push_back(group);
+  updateShown();
+  changed();
+}
+
+void UIView::setTilt(double horizontal, double vertical) {
+  tilt_ = {horizontal, vertical};
+  if (motionEffects_.empty()) return;
+  updateShown();
+  changed();
+}
+
+CGPoint UIView::motionOffset() const {
+  CGPoint offset;
+  for (const UIMotionEffectGroup& group : motionEffects_) {
+    for (const UIInterpolatingMotionEffect& effect : group.motionEffects) {
+      const bool isHorizontal =
+          effect.type == UIInterpolatingMotionEffectType::tiltAlongHorizontalAxis;
+      const double fraction = ((isHorizontal ? tilt_.x : tilt_.y) + 1) / 2;
+      const double points =
+          effect.minimumRelativeValue * (1 - fraction) + effect.maximumRelativeValue * fraction;
+      if (effect.keyPath == "center.x") offset.x += points;
+      if (effect.keyPath == "center.y") offset.y += points;
+    }
+  }
+  return offset;
+}
+
 bool UIView::endEditing(bool force) {
   bool ended = resignFirstResponder();
   for (const auto& view : subviews_) ended = view->endEditing(force) && ended;
@@ -200,11 +251,18 @@ bool UIView::endEditing(bool force) {
 void UIView::addSubview(const std::shared_ptr<UIView>& view) { insertSubviewAbove(view, nullptr); }
 
 void UIView::insertSubviewAbove(const std::shared_ptr<UIView>& view, const UIView* sibling) {
-  view->removeFromSuperview();
+  // Within one superview only the order changes: constraints stay.
+  if (view->superview().get() == this) {
+    std::erase(subviews_, view);
+  } else {
+    view->removeFromSuperview();
+  }
   view->superview_ = weak_from_this();
   view->removed_ = false;
   const auto below = std::ranges::find(subviews_, sibling, &std::shared_ptr<UIView>::get);
   subviews_.insert(below == subviews_.end() ? below : below + 1, view);
+  setNeedsLayout();
+  structureChanged();
   view->changed();
   changed();
 }
@@ -213,9 +271,13 @@ void UIView::removeFromSuperview() {
   const std::shared_ptr<UIView> parent = superview_.lock();
   if (!parent) return;
   const std::shared_ptr<UIView> self = shared_from_this();
+  parent->removeConstraintsOn(*this);
   superview_.reset();
   removed_ = true;
   std::erase(parent->subviews_, self);
+  parent->setNeedsLayout();
+  parent->structureChanged();
+  structureChanged();
   changed();
   parent->changed();
 }
@@ -226,27 +288,6 @@ std::shared_ptr<UIView> UIView::viewWithName(std::string_view name) {
     if (auto found = view->viewWithName(name)) return found;
   }
   return nullptr;
-}
-
-void UIView::addConstraint(std::shared_ptr<NSLayoutConstraint> constraint) {
-  constraints_.push_back(std::move(constraint));
-  constraintsChanged();
-}
-
-void UIView::removeConstraint(const std::shared_ptr<NSLayoutConstraint>& constraint) {
-  if (std::erase(constraints_, constraint) > 0) constraintsChanged();
-}
-
-void UIView::constraintsChanged() {
-  if (laidOut_) layoutTarget_ = state_.layout + 1;
-}
-
-void UIView::layoutIfNeeded() {
-  if (layoutRequested) layoutRequested();
-  laidOut_ = true;
-  if (layoutTarget_ > state_.layout) {
-    animatable([this](UIViewState& state) { state.layout = layoutTarget_; });
-  }
 }
 
 void UIView::changed() {

@@ -20,8 +20,18 @@
 #include "platform/Geometry.h"
 #include "platform/UIColor.h"
 #include "platform/view/NSLayoutConstraint.h"
+#include "platform/view/UIMotionEffect.h"
+#include "platform/view/UITapGestureRecognizer.h"
 
 namespace kindora {
+
+class LayoutEngine;
+
+/// The size of a view that has no opinion of its own in that direction.
+inline constexpr double kNoIntrinsicMetric = -1;
+inline constexpr CGSize kNoIntrinsicSize{kNoIntrinsicMetric, kNoIntrinsicMetric};
+
+enum class UIAccessibilityRole { none, staticText, header, button, alert };
 
 /// Everything about a view that an animation can move.
 struct UIViewState {
@@ -61,7 +71,7 @@ class UIView : public std::enable_shared_from_this<UIView> {
  public:
   using Observer = std::function<void()>;
 
-  UIView() = default;
+  UIView();
   virtual ~UIView();
   UIView(const UIView&) = delete;
   UIView& operator=(const UIView&) = delete;
@@ -110,6 +120,27 @@ class UIView : public std::enable_shared_from_this<UIView> {
   [[nodiscard]] bool isUserInteractionEnabled() const { return userInteractionEnabled_; }
   void setUserInteractionEnabled(bool enabled);
 
+  /// Null takes it away. A view has at most one, the last given.
+  void setTapGestureRecognizer(std::shared_ptr<UITapGestureRecognizer> recognizer);
+  [[nodiscard]] const std::shared_ptr<UITapGestureRecognizer>& tapGestureRecognizer() const {
+    return tapGestureRecognizer_;
+  }
+  /// What is read aloud for the view; none for what only stands there.
+  [[nodiscard]] const std::optional<std::string>& accessibilityLabel() const {
+    return accessibilityLabel_;
+  }
+  [[nodiscard]] UIAccessibilityRole accessibilityRole() const { return accessibilityRole_; }
+  void setAccessibility(UIAccessibilityRole role, const std::optional<std::string>& label);
+
+  /// Effects are kept in the order in which they were added.
+  [[nodiscard]] const std::vector<UIMotionEffectGroup>& motionEffects() const {
+    return motionEffects_;
+  }
+  void addMotionEffect(const UIMotionEffectGroup& group);
+  /// Shows what the effects make of the phone's tilt, each direction -1 to 1. Not a change of
+  /// state.
+  void setTilt(double horizontal, double vertical);
+
   /// Gives the keyboard up; true when it is not, or no longer, with this view.
   virtual bool resignFirstResponder() { return true; }
   /// Gives the keyboard up wherever in this view it is; true when that worked or force is set.
@@ -156,14 +187,42 @@ class UIView : public std::enable_shared_from_this<UIView> {
   /// This view or one inside it that bears the name; null when there is none.
   [[nodiscard]] std::shared_ptr<UIView> viewWithName(std::string_view name);
 
-  [[nodiscard]] const std::vector<std::shared_ptr<NSLayoutConstraint>>& constraints() const {
+  /// Whether the other is this view or lies inside it.
+  [[nodiscard]] bool contains(const UIView& other) const;
+  /// The topmost view above this one, or itself.
+  [[nodiscard]] UIView& topmostView();
+
+  // --- Layout by constraints ---
+
+  /// Those that this view holds; they speak of itself and of what lies inside it.
+  [[nodiscard]] const std::vector<NSLayoutConstraintRef>& constraints() const {
     return constraints_;
   }
-  void addConstraint(std::shared_ptr<NSLayoutConstraint> constraint);
-  void removeConstraint(const std::shared_ptr<NSLayoutConstraint>& constraint);
-  /// Lays out at once what has changed. Whoever draws the view is told through layoutRequested
-  /// first.
+  /// Takes the constraint over from the view that held it.
+  void addConstraint(NSLayoutConstraintRef constraint);
+  void removeConstraint(const NSLayoutConstraintRef& constraint);
+  /// True, as at first: the frame is given and constraints see it as it is. False: constraints that
+  /// mention the view give it its frame; while none does, it keeps the one that it has.
+  [[nodiscard]] bool translatesAutoresizingMaskIntoConstraints() const { return !constraintBased_; }
+  void setTranslatesAutoresizingMaskIntoConstraints(bool translates);
+  /// What the view's content takes, in points; kNoIntrinsicMetric where it takes what it is given.
+  [[nodiscard]] virtual CGSize intrinsicContentSize() const { return kNoIntrinsicSize; }
+  /// The intrinsic size or a baseline may have changed.
+  void invalidateIntrinsicContentSize();
+  /// Where the first line of text stands, in points below the top.
+  [[nodiscard]] virtual double firstBaselineFromTop() const { return 0; }
+  /// Where the last line of text stands, in points above the bottom.
+  [[nodiscard]] virtual double lastBaselineFromBottom() const { return 0; }
+
+  /// Has the view lay itself out at the next pass.
+  void setNeedsLayout();
+  /// Lays out at once what has changed, in the whole tree that this view is part of. Whoever draws
+  /// the view is told through layoutRequested first. Without an end after many rounds (views that
+  /// never agree) it stops where it is.
   void layoutIfNeeded();
+  /// Told to the topmost view, once, when something in its tree is to be laid out: whoever draws it
+  /// then calls layoutIfNeeded in time for the next frame.
+  Observer layoutScheduled;
   Observer layoutRequested;
 
   /// Calls the observer after every change until the subscription is dropped.
@@ -184,9 +243,21 @@ class UIView : public std::enable_shared_from_this<UIView> {
 
  protected:
   void changed();
+  /// A pass of layout has given this view its place, or that of a subview has changed: the moment
+  /// to place what constraints do not place. Overriders call the one that they override.
+  virtual void layoutSubviews() {}
 
  private:
-  void constraintsChanged();
+  friend class LayoutEngine;
+  friend class NSLayoutConstraint;
+
+  void constraintDidChange();
+  void removeConstraintsOn(const UIView& leaving);
+  void scheduleLayout();
+  void structureChanged();
+  void runLayoutPasses();
+  void layOutMarkedViews();
+  [[nodiscard]] CGPoint motionOffset() const;
   void updateShown();
   void resizeSubviews();
   template <typename Change>
@@ -209,9 +280,22 @@ class UIView : public std::enable_shared_from_this<UIView> {
   std::weak_ptr<UIView> superview_;
   bool removed_ = false;
   std::vector<std::shared_ptr<UIView>> subviews_;
-  std::vector<std::shared_ptr<NSLayoutConstraint>> constraints_;
+  std::shared_ptr<UITapGestureRecognizer> tapGestureRecognizer_;
+  std::optional<std::string> accessibilityLabel_;
+  UIAccessibilityRole accessibilityRole_ = UIAccessibilityRole::none;
+  std::vector<UIMotionEffectGroup> motionEffects_;
+  CGPoint tilt_;
+  std::vector<NSLayoutConstraintRef> constraints_;
+  bool constraintBased_ = false;
+  bool intrinsicChanged_ = false;
+  bool needsLayout_ = true;
   bool laidOut_ = false;
   double layoutTarget_ = 0;
+  // Of the topmost view of a tree.
+  std::unique_ptr<LayoutEngine> engine_;
+  bool structureChanged_ = true;
+  bool layoutIsScheduled_ = false;
+  bool isLayingOut_ = false;
   std::map<int, Observer> observers_;
   int nextObserver_ = 1;
 };

@@ -42,11 +42,11 @@ void NewChallengeDetailViewController::connectOutlets() {
   const auto constrain = [&](std::weak_ptr<NSLayoutConstraint>& outlet, NSLayoutAttribute attribute,
                              double constant) {
     auto constraint =
-        std::make_shared<NSLayoutConstraint>(NSLayoutConstraint{.firstItem = imageView,
-                                                                .firstAttribute = attribute,
-                                                                .secondItem = view(),
-                                                                .secondAttribute = attribute,
-                                                                .constant = constant});
+        std::make_shared<NSLayoutConstraint>(NSLayoutConstraint::Parts{.firstItem = imageView,
+                                                                       .firstAttribute = attribute,
+                                                                       .secondItem = view(),
+                                                                       .secondAttribute = attribute,
+                                                                       .constant = constant});
     outlet = constraint;
     root.addConstraint(std::move(constraint));
   };
@@ -110,12 +110,12 @@ void NewChallengeDetailViewController::closeUpLayout() {
   UIView& root = *view();
   root.removeConstraint(centerVerticallyConstraint.lock());
   root.addConstraint(std::make_shared<NSLayoutConstraint>(
-      NSLayoutConstraint{.firstItem = connected(rejectButton),
-                         .firstAttribute = NSLayoutAttribute::top,
-                         .secondItem = connected(challengeDescriptionLabel),
-                         .secondAttribute = NSLayoutAttribute::bottom,
-                         .multiplier = 1,
-                         .constant = kSpaceAboveButtons}));
+      NSLayoutConstraint::Parts{.firstItem = connected(rejectButton),
+                                .firstAttribute = NSLayoutAttribute::top,
+                                .secondItem = connected(challengeDescriptionLabel),
+                                .secondAttribute = NSLayoutAttribute::bottom,
+                                .multiplier = 1,
+                                .constant = kSpaceAboveButtons}));
   animateWithDuration(
       {.duration = kStepSeconds, .delay = 0.5}, [&root] { root.layoutIfNeeded(); },
       guarded([this] { showTexts(); }));

@@ -356,13 +356,13 @@ TEST_F(OpenNewChallengeDetailViewControllerTest, TheButtonsComeToStand16PointsUn
   reportNow(0.71);
   time.advance(0.26);
   const NSLayoutConstraint& added = *screen().view()->constraints().back();
-  EXPECT_EQ(added.firstItem.lock(), screen().rejectButton.lock());
-  EXPECT_EQ(added.firstAttribute, NSLayoutAttribute::top);
-  EXPECT_EQ(added.relation, NSLayoutRelation::equal);
-  EXPECT_EQ(added.secondItem.lock(), screen().challengeDescriptionLabel.lock());
-  EXPECT_EQ(added.secondAttribute, NSLayoutAttribute::bottom);
-  EXPECT_EQ(added.multiplier, 1);
-  EXPECT_EQ(added.constant, 16);
+  EXPECT_EQ(added.firstItem(), screen().rejectButton.lock());
+  EXPECT_EQ(added.firstAttribute(), NSLayoutAttribute::top);
+  EXPECT_EQ(added.relation(), NSLayoutRelation::equal);
+  EXPECT_EQ(added.secondItem(), screen().challengeDescriptionLabel.lock());
+  EXPECT_EQ(added.secondAttribute(), NSLayoutAttribute::bottom);
+  EXPECT_EQ(added.multiplier(), 1);
+  EXPECT_EQ(added.constant(), 16);
 }
 
 TEST_F(OpenNewChallengeDetailViewControllerTest,

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/fakes/FakeViewServices.h"
+
+#include "platform/view/ViewServices.h"
+
+namespace kindora {
+
+FakeViewServices installFakeViewServices() {
+  FakeViewServices fakes{.text = std::make_shared<FakeTextMeasurer>(),
+                         .mainScreen = std::make_shared<FakeScreen>(),
+                         .motion = std::make_shared<FakeMotion>()};
+  installViewServices({.text = fakes.text, .mainScreen = fakes.mainScreen, .motion = fakes.motion});
+  return fakes;
+}
+
+}  // namespace kindora
