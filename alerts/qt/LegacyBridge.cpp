@@ -31,9 +31,9 @@ std::shared_ptr<QavAlertView> alertViewWithAlertController(QavAlertController& c
   const std::vector<QavAlertActionRef> actions = controller.actions();
   const std::optional<std::string> cancelTitle =
       actions.empty() ? std::nullopt : std::optional(buttonTitle(*actions.front()));
-  const auto alertView = QavAlertView::withTitle(
+  const auto alertView = QavAlertView::initWithTitle(
       controller.title(), controller.message(),
-      std::static_pointer_cast<QavAlertController>(controller.shared_from_this()), cancelTitle);
+      std::static_pointer_cast<QavAlertController>(controller.shared_from_this()), cancelTitle, {});
   for (std::size_t i = 1; i < actions.size(); ++i) {
     alertView->addButtonWithTitle(buttonTitle(*actions[i]));
   }

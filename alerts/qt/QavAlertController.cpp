@@ -219,6 +219,11 @@ void QavAlertController::viewDidAppear(bool animated) {
   presentingAlert_ = false;
 }
 
+void QavAlertController::viewDidDisappear(bool animated) {
+  UIViewController::viewDidDisappear(animated);
+  if (didDisappearHandler) didDisappearHandler();
+}
+
 void QavAlertController::viewDidLayoutSubviews() {
   UIViewController::viewDidLayoutSubviews();
   if (std::exchange(didAssignFirstResponder_, true)) return;

@@ -104,6 +104,8 @@ class QavAlertController final : public kindora::UIViewController,
   void setVisualStyle(std::shared_ptr<QavAlertControllerVisualStyle> style);
   /// May keep the alert open when an action was chosen; its handler does not run then.
   std::function<bool(QavAlertAction& action)> shouldDismissBlock;
+  /// Told when the alert has gone from the screen, before the handler of the chosen action.
+  std::function<void()> didDisappearHandler;
 
   // --- Showing it ---
 
@@ -138,6 +140,7 @@ class QavAlertController final : public kindora::UIViewController,
   [[nodiscard]] std::shared_ptr<UIView> loadView() override;
   void viewWillAppear(bool animated) override;
   void viewDidAppear(bool animated) override;
+  void viewDidDisappear(bool animated) override;
   void viewDidLayoutSubviews() override;
   /// Esc and the system's back choose the first cancel action; without one the alert stays.
   bool goBack() override;

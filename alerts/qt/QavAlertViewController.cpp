@@ -126,7 +126,8 @@ void QavAlertViewController::spring(const std::shared_ptr<UIView>& view, double 
 bool QavAlertViewController::goBack() {
   const auto alert = shownAlert_.lock();
   if (!alert || !alert->isVisible() || alert->cancelButtonIndex() < 0) return false;
-  alert->tappedButtonAtIndex(alert->cancelButtonIndex());
+  alert->alertContentViewDidTapButtonAtIndex(*alert->alertContentView(),
+                                             alert->cancelButtonIndex());
   return true;
 }
 

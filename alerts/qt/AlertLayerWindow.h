@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QObject>
+#include <memory>
+
+#include "platform/qt/toolkit/UIViewController.h"
+#include "platform/qt/toolkit/UIWindow.h"
+
+namespace kindora {
+
+/// The window of the toolkit in which the alerts of a Qt Quick window are shown. It is the key
+/// window for as long as it lives, and becomes it at once.
+class AlertLayerWindow final : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(kindora::UIWindow* window READ window CONSTANT)
+
+ public:
+  explicit AlertLayerWindow(QObject* parent = nullptr);
+  ~AlertLayerWindow() override;
+
+  [[nodiscard]] UIWindow* window() const { return window_.get(); }
+
+ private:
+  UIViewControllerRef root_;
+  std::shared_ptr<UIWindow> window_;
+};
+
+}  // namespace kindora
