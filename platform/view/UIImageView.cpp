@@ -15,8 +15,6 @@ void UIImageView::setImage(const UIImageRef& image) { assign(image_, image); }
 
 void UIImageView::setContentMode(UIViewContentMode mode) { assign(contentMode_, mode); }
 
-void UIImageView::setTintColor(const UIColor& color) { assign(tintColor_, std::optional(color)); }
-
 void UIImageView::setBorder(const UIViewBorder& border) { assign(border_, border); }
 
 }  // namespace kindora

@@ -22,9 +22,12 @@ QFont resolvedFont(const UIFont& font) {
   return result;
 }
 
-QColor Appearance::tint() {
-  const UIWindow* window = UIApplication::sharedApplication()->keyWindow();
-  return window != nullptr ? toQColor(window->tintColor()) : QColor();
+QColor Appearance::tint() { return toQColor(tintColor()); }
+
+UIColor Appearance::tintColor() {
+  // Alerts lie above it in windows of their own.
+  const std::vector<UIWindow*>& windows = UIApplication::sharedApplication()->windows();
+  return windows.empty() ? kDefaultTintColor : windows.front()->drawnTintColor();
 }
 
 QColor Appearance::tintedText() { return tint().darker(165); }
