@@ -9,6 +9,7 @@
 #include "app/main/MainStoryboard.h"
 #include "app/shell/AppDelegate.h"
 #include "app/shell/AppPhoneFormatEnvironment.h"
+#include "platform/qt/quick/QtViewServices.h"
 #include "platform/qt/services/QtServices.h"
 
 Q_IMPORT_QML_PLUGIN(Kindora_AppPlugin)
@@ -24,6 +25,7 @@ bool launch(QQmlApplicationEngine& engine) {
   QGuiApplication::setDesktopFileName(QStringLiteral("org.kindora.Kindora"));
   QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/kindora/images/appIcon.svg")));
   installServices(makeQtServices());
+  installViewServices(makeQtViewServices());
   installPhoneFormatEnvironment(std::make_shared<AppPhoneFormatEnvironment>());
 
   AppDelegate& delegate = AppDelegate::sharedDelegate();
