@@ -17,6 +17,4 @@ void UIImageView::setContentMode(UIViewContentMode mode) { assign(contentMode_, 
 
 void UIImageView::setTintColor(const UIColor& color) { assign(tintColor_, std::optional(color)); }
 
-void UIImageView::setBorder(const UIViewBorder& border) { assign(border_, border); }
-
 }  // namespace kindora

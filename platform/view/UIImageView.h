@@ -13,13 +13,6 @@ namespace kindora {
 /// How an image lies in its view's bounds.
 enum class UIViewContentMode { scaleAspectFit, scaleAspectFill, center };
 
-/// A line along the inside of a view's bounds.
-struct UIViewBorder {
-  UIColor color = UIColor::blackColor();
-  double width = 0;  ///< points
-  friend constexpr bool operator==(const UIViewBorder&, const UIViewBorder&) = default;
-};
-
 /// A view that shows one image or none.
 class UIImageView : public UIView {
  public:
@@ -33,8 +26,6 @@ class UIImageView : public UIView {
   /// What template images are drawn in; none is the window's tint.
   [[nodiscard]] const std::optional<UIColor>& tintColor() const { return tintColor_; }
   void setTintColor(const UIColor& color);
-  [[nodiscard]] const UIViewBorder& border() const { return border_; }
-  void setBorder(const UIViewBorder& border);
 
  private:
   template <typename Value>
@@ -43,7 +34,6 @@ class UIImageView : public UIView {
   UIImageRef image_;
   UIViewContentMode contentMode_ = UIViewContentMode::scaleAspectFill;
   std::optional<UIColor> tintColor_;
-  UIViewBorder border_;
 };
 
 }  // namespace kindora
