@@ -98,6 +98,7 @@ void QavAlertView::show() {
   alertContentView_->prepareForShowing();
   for (const std::shared_ptr<UIView>& part : {std::shared_ptr<UIView>(alertBackgroundView_),
                                               std::shared_ptr<UIView>(alertContentView_)}) {
+    part->removeFromSuperview();  // with the constraints of an earlier showing
     addSubview(part);
     qav_alignEdgesWithSuperview(part, UIRectEdge::all);
   }

@@ -24,7 +24,13 @@ constexpr UIEdgeInsets kFieldsInsets{.left = 15, .right = -15};
 
 double onePixel() { return 1 / viewServices().mainScreen->scale(); }
 
-const UIRectEdge kSides = UIRectEdge::left | UIRectEdge::right;
+// With none of the constraints that it had.
+void addAnew(UIView& superview, const std::shared_ptr<UIView>& view) {
+  view->removeFromSuperview();
+  superview.addSubview(view);
+}
+
+constexpr UIRectEdge kSides = UIRectEdge::left | UIRectEdge::right;
 
 }  // namespace
 
@@ -112,7 +118,7 @@ NSLayoutConstraintRef QavAlertViewContentView::pin(const std::shared_ptr<UIView>
 
 void QavAlertViewContentView::layOutLabels() {
   for (const auto& label : {titleLabel_, messageLabel_}) {
-    scrollView_->addSubview(label);  // anew, without the constraints that it had
+    addAnew(*scrollView_, label);
     qav_alignEdgesWithSuperview(
         label, kSides,
         {.left = appearance_.contentPadding.left, .right = -appearance_.contentPadding.right});
@@ -130,7 +136,7 @@ void QavAlertViewContentView::layOutTextFields() {
   textFieldSeparatorView_->removeFromSuperview();
   if (two) inside.push_back(textFieldSeparatorView_);
   for (const auto& view : inside) {
-    textFieldBackgroundView_->addSubview(view);
+    addAnew(*textFieldBackgroundView_, view);
     qav_alignEdgesWithSuperview(view, kSides);
   }
   hold(qav_textFieldsFormat(two));

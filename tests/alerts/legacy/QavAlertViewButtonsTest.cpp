@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace kindora {
 namespace {
 
@@ -20,6 +22,8 @@ struct Row {
   int suggested;
   std::vector<int> otherRows;
 };
+
+void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 
 const char* const kTitles[] = {"Zero", "One", "Two"};
 
