@@ -42,8 +42,8 @@ UIViewControllerRef makeMenu() {
   return makeViewController<MenuTableViewController>(
       QStringLiteral("Gallery"),
       std::vector<MenuRow>{
-          {"Scratch-off", "Rub a cover away, and see it counted", "galleryScratch", kScratch},
-          {"Curves", "Springs and tweens, plotted and played", "galleryCurves", kCurves},
+          {"Scratch-off", "A cover to be rubbed away", "galleryScratch", kScratch},
+          {"Curves", "Springs and tweens, plotted", "galleryCurves", kCurves},
           {"Springy grid", "A thousand cells on springs", "galleryGrid", kSpringyGrid},
           {"Phone numbers", "Laid out as they are typed", "galleryPhone", kPhoneNumbers}});
 }

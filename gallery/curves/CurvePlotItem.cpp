@@ -10,9 +10,9 @@ namespace kindora {
 namespace {
 
 constexpr double kMargin = 4;  // so that line and dots at the edge are whole
-constexpr double kLine = 2.5;
-constexpr double kDot = 2.25;     // radius
-constexpr int kMostDots = 61;     // more would run into each other
+constexpr double kLine = 1.5;
+constexpr float kLineAlpha = 0.5F;
+constexpr double kDot = 2;  // radius
 const QColor kGuide(0xC4, 0xC4, 0xC4);
 
 }  // namespace
@@ -50,12 +50,13 @@ void CurvePlotItem::paint(QPainter* painter) {
     inGap = false;
   }
   painter->setBrush(Qt::NoBrush);
-  painter->setPen(QPen(tint_, kLine, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  QColor lineColor = tint_;
+  lineColor.setAlphaF(kLineAlpha);
+  painter->setPen(QPen(lineColor, kLine, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter->drawPath(path);
 
-  if (points_.size() > kMostDots) return;
-  painter->setPen(QPen(tint_, 1));
-  painter->setBrush(Qt::white);
+  painter->setPen(Qt::NoPen);
+  painter->setBrush(tint_);
   for (const QPointF& point : points_) {
     if (std::isfinite(point.y())) painter->drawEllipse(place(point), kDot, kDot);
   }

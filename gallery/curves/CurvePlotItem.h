@@ -9,9 +9,9 @@
 
 namespace kindora {
 
-/// Draws a curve through points: x from 0 at the left to 1 at the right, y from lowest at the bottom
-/// to highest at the top, with a dot for each point and dashed lines where y is 0 and 1. What is not
-/// a number leaves a gap.
+/// Draws a curve through points: x from 0 at the left to 1 at the right, y from lowest at the
+/// bottom to highest at the top, with a dot for each point, and dashed lines where y is 0 and 1.
+/// What is not a number leaves a gap.
 class CurvePlotItem : public QQuickPaintedItem {
   Q_OBJECT
   QML_ELEMENT

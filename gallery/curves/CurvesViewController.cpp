@@ -33,11 +33,8 @@ CurvesViewController::CurvesViewController()
                 .maximum = 40,
                 .step = 0.5,
                 .value = 10}),
-      mass_({.name = QStringLiteral("Mass"),
-             .minimum = 0.5,
-             .maximum = 5,
-             .step = 0.1,
-             .value = 1}),
+      mass_(
+          {.name = QStringLiteral("Mass"), .minimum = 0.5, .maximum = 5, .step = 0.1, .value = 1}),
       stiffness_({.name = QStringLiteral("Stiffness"),
                   .minimum = 10,
                   .maximum = 400,
@@ -52,8 +49,7 @@ CurvesViewController::CurvesViewController()
   for (const SliderSetting* slider : {&duration_, &damping_, &mass_, &stiffness_, &velocity_}) {
     connect(slider, &SliderSetting::valueChanged, this, &CurvesViewController::readSliders);
   }
-  frames_ = curveFrames(settings_);
-  readSliders();
+  traceCurve();
 }
 
 void CurvesViewController::connectOutlets() {
@@ -115,6 +111,11 @@ void CurvesViewController::apply(const CurveSettings& settings) {
   if (settings == settings_) return;
   settings_ = settings;
   putBallBack();
+  traceCurve();
+  emit curveChanged();
+}
+
+void CurvesViewController::traceCurve() {
   frames_ = curveFrames(settings_);
   lowest_ = 0;
   highest_ = 1;
@@ -122,7 +123,6 @@ void CurvesViewController::apply(const CurveSettings& settings) {
     lowest_ = std::min(lowest_, value);
     highest_ = std::max(highest_, value);
   }
-  emit curveChanged();
 }
 
 // --- The curve ---
@@ -148,8 +148,7 @@ QString CurvesViewController::character() const {
 
 void CurvesViewController::play() {
   const auto ball = connected(ballView);
-  const double room =
-      connected(trackView)->bounds().size.width - ball->bounds().size.width;
+  const double room = connected(trackView)->bounds().size.width - ball->bounds().size.width;
   const auto animation =
       curveAnimation(settings_, shiftedBy(0), shiftedBy(room / (highest_ - lowest_)));
   animation->setFillMode(CAMediaTimingFillMode::forwards);
@@ -163,8 +162,7 @@ void CurvesViewController::putBallBack() {
   if (const auto ball = ballView.lock()) removeAnimationForKey(*ball, kMotion);
 }
 
-void CurvesViewController::animationDidStop(CAKeyframeAnimation& /*animation*/,
-                                            bool /*finished*/) {
+void CurvesViewController::animationDidStop(CAKeyframeAnimation& /*animation*/, bool /*finished*/) {
   setPlaying(false);
 }
 

@@ -25,8 +25,8 @@ class CurvesViewController : public kindora::UIViewController, public CAAnimatio
   Q_PROPERTY(bool spring READ isSpring NOTIFY curveChanged)
   Q_PROPERTY(QStringList timingNames READ timingNames CONSTANT)
   Q_PROPERTY(int timing READ timing WRITE setTiming NOTIFY curveChanged)
-  Q_PROPERTY(bool allowsOverdamping READ allowsOverdamping WRITE setAllowsOverdamping NOTIFY
-                 curveChanged)
+  Q_PROPERTY(
+      bool allowsOverdamping READ allowsOverdamping WRITE setAllowsOverdamping NOTIFY curveChanged)
   Q_PROPERTY(kindora::SliderSetting* duration READ duration CONSTANT)
   Q_PROPERTY(kindora::SliderSetting* damping READ damping CONSTANT)
   Q_PROPERTY(kindora::SliderSetting* mass READ mass CONSTANT)
@@ -85,6 +85,7 @@ class CurvesViewController : public kindora::UIViewController, public CAAnimatio
 
  private:
   void apply(const CurveSettings& settings);
+  void traceCurve();
   void readSliders();
   void putBallBack();
   void setPlaying(bool playing);

@@ -19,7 +19,7 @@ constexpr int kCellsPerRound = 120;  // of the colours
 
 QColor colorOf(int index) {
   const float hue = static_cast<float>(index % kCellsPerRound) / kCellsPerRound;
-  return QColor::fromHsvF(hue, 0.42F, 0.95F);
+  return QColor::fromHsvF(hue, 0.5F, 0.95F);
 }
 
 }  // namespace

@@ -32,7 +32,8 @@ TableCell {
         id: name
         owner: root.cell
         outlet: "nameLabel"
-        x: 48
+        anchors.left: parent.left
+        anchors.leftMargin: 48
         anchors.right: code.left
         anchors.rightMargin: 8
         height: parent.height

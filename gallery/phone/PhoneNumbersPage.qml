@@ -67,38 +67,58 @@ FormPage {
 
     Item {
         width: parent.width
-        height: 96
+        height: 48
 
         PictureItem {
             id: tick
-            x: 32
-            y: 26
-            width: 20
-            height: 20
+            anchors.left: parent.left
+            anchors.leftMargin: 32
+            anchors.verticalCenter: parent.verticalCenter
+            width: root.controller.valid ? 16 : 0
+            height: 16
             visible: root.controller.valid
             imageName: "checkmark"
             tint: Appearance.tintedText
         }
 
         PlainText {
-            x: root.controller.valid ? 64 : 32
-            y: 16
-            width: parent.width - x - 32
-            height: 40
+            anchors.left: tick.right
+            anchors.leftMargin: root.controller.valid ? 8 : 0
+            anchors.right: parent.right
+            anchors.rightMargin: 32
+            height: parent.height
             text: root.controller.verdict
             color: root.controller.valid ? Appearance.tintedText : Qt.rgba(0.45, 0.45, 0.45, 1)
             verticalAlignment: Text.AlignVCenter
         }
+    }
+
+    Item {
+        width: parent.width
+        height: 100
+        visible: root.controller.valid
 
         PlainText {
             x: 32
-            y: 56
             width: parent.width - 64
-            height: 40
-            visible: root.controller.valid
-            text: root.controller.international
-            points: 22
-            verticalAlignment: Text.AlignVCenter
+            anchors.bottom: card.top
+            anchors.bottomMargin: 8
+            text: "From abroad"
+            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            Accessible.role: Accessible.Heading
+        }
+
+        Card {
+            id: card
+            y: 44
+
+            PlainText {
+                width: parent.width
+                height: 40
+                text: root.controller.international
+                points: 22
+                verticalAlignment: Text.AlignVCenter
+            }
         }
     }
 }

@@ -16,8 +16,7 @@ ScratchDemoViewController::ScratchDemoViewController()
                     .value = 50,
                     .decimals = 0,
                     .unit = QStringLiteral("px")}) {
-  connect(&brushRadius_, &SliderSetting::valueChanged, this,
-          &ScratchDemoViewController::startAnew);
+  connect(&brushRadius_, &SliderSetting::valueChanged, this, &ScratchDemoViewController::startAnew);
 }
 
 void ScratchDemoViewController::connectOutlets() {
