@@ -33,8 +33,6 @@ bool launch(QQmlApplicationEngine& engine) {
   delegate.window->makeKeyAndVisible();
 
   engine.addImportPath(QStringLiteral("qrc:/qt/qml"));  // the default from Qt 6.5 on
-  engine.setInitialProperties(
-      {{QStringLiteral("host"), QVariant::fromValue(delegate.window.get())}});
   engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Kindora/App/Main.qml")));
   return !engine.rootObjects().isEmpty();
 }

@@ -7,8 +7,6 @@ import Kindora.Platform
 Window {
     id: root
 
-    required property UIWindow host
-
     width: 390
     height: 844
     minimumWidth: 320
@@ -19,11 +17,10 @@ Window {
     // Where no window manager does it.
     Component.onCompleted: root.requestActivate()
 
-    WindowHost {
+    WindowStack {
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(parent.width, 480)
         height: parent.height
         focus: true
-        host: root.host
     }
 }

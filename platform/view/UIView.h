@@ -20,9 +20,9 @@
 #include "platform/Geometry.h"
 #include "platform/UIColor.h"
 #include "platform/view/NSLayoutConstraint.h"
-#include "platform/view/UIViewTint.h"
 #include "platform/view/UIMotionEffect.h"
 #include "platform/view/UITapGestureRecognizer.h"
+#include "platform/view/UIViewTint.h"
 
 namespace kindora {
 
