@@ -26,9 +26,8 @@ void startProgram(const ProgramIdentity& identity) {
   installPhoneFormatEnvironment(std::make_shared<AppPhoneFormatEnvironment>());
 }
 
-bool showWindow(QQmlApplicationEngine& engine, UIWindow& window, const QUrl& file) {
+bool showWindows(QQmlApplicationEngine& engine, const QUrl& file) {
   engine.addImportPath(QStringLiteral("qrc:/qt/qml"));  // the default from Qt 6.5 on
-  engine.setInitialProperties({{QStringLiteral("host"), QVariant::fromValue(&window)}});
   engine.load(file);
   return !engine.rootObjects().isEmpty();
 }

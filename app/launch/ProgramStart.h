@@ -4,14 +4,12 @@
 //
 //   startProgram({.name = "kindora", .displayName = "Kindora"});
 //   ... make a window and its root controller ...
-//   return showWindow(engine, *window, QUrl("qrc:/qt/qml/Kindora/App/Main.qml"));
+//   return showWindows(engine, QUrl("qrc:/qt/qml/Kindora/App/Main.qml"));
 #pragma once
 
 #include <QQmlApplicationEngine>
 #include <QString>
 #include <QUrl>
-
-#include "platform/qt/toolkit/UIWindow.h"
 
 namespace kindora {
 
@@ -25,8 +23,8 @@ struct ProgramIdentity {
 /// a QGuiApplication, before anything else of the program is made.
 void startProgram(const ProgramIdentity& identity);
 
-/// Draws a window with a QML file whose root is a PhoneWindow. False, with what is wrong on
-/// standard error, when it cannot be drawn.
-[[nodiscard]] bool showWindow(QQmlApplicationEngine& engine, UIWindow& window, const QUrl& file);
+/// Draws the windows that are visible with a QML file whose root is a PhoneWindow. False, with what
+/// is wrong on standard error, when it cannot be drawn.
+[[nodiscard]] bool showWindows(QQmlApplicationEngine& engine, const QUrl& file);
 
 }  // namespace kindora

@@ -24,8 +24,7 @@ bool launch(QQmlApplicationEngine& engine) {
   delegate.applicationDidFinishLaunching();
   delegate.window->makeKeyAndVisible();
 
-  return showWindow(engine, *delegate.window,
-                    QUrl(QStringLiteral("qrc:/qt/qml/Kindora/App/Main.qml")));
+  return showWindows(engine, QUrl(QStringLiteral("qrc:/qt/qml/Kindora/App/Main.qml")));
 }
 
 }  // namespace kindora

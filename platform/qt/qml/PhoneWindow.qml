@@ -3,11 +3,10 @@
 import QtQuick
 import Kindora.Platform
 
-// A program's window: a phone's screen, centred where there is more room.
+// A program's window: a phone's screen, centred where there is more room, with all the app's windows
+// in it.
 Window {
     id: root
-
-    required property UIWindow host
 
     width: 390
     height: 844
@@ -18,11 +17,10 @@ Window {
     // Where no window manager does it.
     Component.onCompleted: root.requestActivate()
 
-    WindowHost {
+    WindowStack {
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(parent.width, 480)
         height: parent.height
         focus: true
-        host: root.host
     }
 }
