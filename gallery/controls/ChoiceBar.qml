@@ -9,7 +9,8 @@ import Kindora.Platform
 Rectangle {
     id: root
 
-    required property list<string> names
+    // Texts.
+    required property var names
     required property int current
     signal chosen(int index)
 

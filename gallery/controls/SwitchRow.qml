@@ -8,12 +8,17 @@ import Kindora.Platform
 T.Switch {
     id: root
 
+    function press() {
+        root.toggle();
+        root.toggled();
+    }
+
     width: parent?.width ?? 0
     implicitHeight: 48
     focusPolicy: Qt.StrongFocus
     Accessible.name: root.text
-    Keys.onReturnPressed: root.click()
-    Keys.onEnterPressed: root.click()
+    Keys.onReturnPressed: root.press()
+    Keys.onEnterPressed: root.press()
 
     contentItem: PlainText {
         text: root.text

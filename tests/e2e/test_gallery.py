@@ -101,6 +101,9 @@ class Gallery(kindora_e2e.AppTest):
         app.click(switch)
         kindora_e2e.wait_until(lambda: app.pixel(*line) != with_grid, "the grid goes")
         self.assertFalse(app.wait_for("Show the grid").has("checked"))
+        self.tab_to("Show the grid")
+        app.key("Return")
+        kindora_e2e.wait_until(lambda: app.pixel(*line) == with_grid, "the grid comes back")
 
     # The curves.
 

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <algorithm>
 
 namespace kindora {
 namespace {
@@ -16,11 +16,11 @@ TEST(CurveSettings, AFrameIsASixtiethOfASecond) {
 
 TEST(CurveSettings, ASpringOvershootsBelowCriticalDampingAlone) {
   const auto highest = [](double damping) {
-    double highest = 0;
+    double most = 0;
     for (const double value : curveFrames({.duration = 2, .damping = damping})) {
-      highest = std::max(highest, value);
+      most = std::max(most, value);
     }
-    return highest;
+    return most;
   };
   EXPECT_GT(highest(5), 1.3);
   EXPECT_LE(highest(20), 1);

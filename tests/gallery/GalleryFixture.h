@@ -6,27 +6,14 @@
 
 #include <memory>
 
-#include "app/shell/AppPhoneFormatEnvironment.h"
 #include "gallery/GalleryStoryboard.h"
 #include "gallery/menu/MenuTableViewController.h"
 #include "platform/fakes/FakeServices.h"
 #include "platform/qt/toolkit/UIWindow.h"
 #include "tests/support/ManualTime.h"
+#include "tests/support/PhoneFormatsOf.h"
 
 namespace kindora {
-
-// The app's formats, in a country of the test's own.
-class PhoneFormatsOf final : public PhoneFormatEnvironment {
- public:
-  explicit PhoneFormatsOf(std::string country) : country_(std::move(country)) {}
-  PhoneFormatData data(std::string_view name, std::string_view type) override {
-    return AppPhoneFormatEnvironment().data(name, type);
-  }
-  std::string countryCode() override { return country_; }
-
- private:
-  std::string country_;
-};
 
 /// The gallery without a display, on fakes and manual time.
 class GalleryFixture : public ::testing::Test {
