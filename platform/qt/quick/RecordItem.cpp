@@ -2,26 +2,31 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "platform/qt/quick/RecordItem.h"
 
-#include <QPointer>
-
 #include "platform/qt/quick/CodeViewItem.h"
 
 namespace kindora {
 
 RecordItem::RecordItem(QQuickItem* parent) : QQuickItem(parent) {}
 
-RecordItem::~RecordItem() = default;
+RecordItem::~RecordItem() { leave(); }
+
+void RecordItem::leave() {
+  drawn_.reset();
+  if (!view_) return;
+  view_->locateInWindow = {};
+  view_->layoutScheduled = {};
+}
 
 void RecordItem::setRecord(const ViewHandle& record) {
   if (view_ == record.view) return;
-  drawn_.reset();
+  leave();
   view_ = record.view;
   if (view_) {
-    view_->locateInWindow = [item = QPointer<RecordItem>(this)]() -> std::optional<CGPoint> {
-      if (!item) return std::nullopt;
-      const QPointF origin = item->mapToScene({0, 0});
+    view_->locateInWindow = [this]() -> std::optional<CGPoint> {
+      const QPointF origin = mapToScene({0, 0});
       return CGPoint{origin.x(), origin.y()};
     };
+    view_->layoutScheduled = [this] { polish(); };
     place();
     drawn_ = std::make_unique<CodeViewItem>(view_, this);
   }

@@ -83,6 +83,7 @@ class ViewItem : public QQuickItem {
 
  private:
   void connectView();
+  void windowTintDidChange();
 
   QObject* owner_ = nullptr;
   QString outlet_;
