@@ -74,7 +74,8 @@ function(kindora_qml_module NAME)
     PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
     PRIVATE ${DIRECTORIES})
   target_link_libraries(kindora_${NAME} PUBLIC ${ARG_LINKS})
-  target_compile_definitions(kindora_${NAME} PUBLIC QT_NO_CAST_FROM_ASCII)
+  # How strict they are is up to those who use an installed module.
+  target_compile_definitions(kindora_${NAME} PUBLIC $<BUILD_INTERFACE:QT_NO_CAST_FROM_ASCII>)
   qt_add_qml_module(
     kindora_${NAME}
     URI ${ARG_URI}
@@ -84,7 +85,12 @@ function(kindora_qml_module NAME)
     IMPORT_PATH ${CMAKE_BINARY_DIR}/qml
     DEPENDENCIES QtQuick ${ARG_IMPORTS}
     SOURCES ${ARG_SOURCES}
-    QML_FILES ${ARG_QML})
+    QML_FILES ${ARG_QML}
+    OUTPUT_TARGETS PARTS)
+  # An installed module is linked as a whole.
+  target_link_libraries(kindora_${NAME} INTERFACE $<INSTALL_INTERFACE:Kindora::${NAME}plugin>)
+  set_target_properties(kindora_${NAME} PROPERTIES KINDORA_MODULE_PARTS
+                                                   "kindora_${NAME}plugin;${PARTS}")
   # Our own sources obey the strict flags; generated ones are not ours to mend.
   get_target_property(STRICT kindora_options INTERFACE_COMPILE_OPTIONS)
   foreach(FILE IN LISTS ARG_SOURCES)

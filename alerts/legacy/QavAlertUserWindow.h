@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-namespace kindora {
+#include "platform/view/UIViewTint.h"
 
-/// How a view treats its tint colour.
-enum class UIViewTintAdjustmentMode { automatic = 0, normal = 1, dimmed = 2 };
+namespace kindora {
 
 /// What alerts ask of a window of the app.
 class QavAlertUserWindow {

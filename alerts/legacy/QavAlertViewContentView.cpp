@@ -142,8 +142,7 @@ void QavAlertViewContentView::styleRows() {
   const auto style = [this](const QavAlertViewButtonTable& table, const UIFont& font) {
     for (const auto& row : table.rows()) {
       row->textLabel()->setFont(font);
-      row->textLabel()->setTextColor(
-          appearance_.buttonTextColor.value_or(UIColor::defaultTintColor()));
+      row->textLabel()->setTextColor(appearance_.buttonTextColor.value_or(tintColor()));
       row->setEnabled(true);
     }
   };

@@ -15,6 +15,4 @@ void UIImageView::setImage(const UIImageRef& image) { assign(image_, image); }
 
 void UIImageView::setContentMode(UIViewContentMode mode) { assign(contentMode_, mode); }
 
-void UIImageView::setTintColor(const UIColor& color) { assign(tintColor_, std::optional(color)); }
-
 }  // namespace kindora

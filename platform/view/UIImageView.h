@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <optional>
-
 #include "platform/UIColor.h"
 #include "platform/UIImage.h"
 #include "platform/view/UIView.h"
@@ -23,9 +21,6 @@ class UIImageView : public UIView {
   virtual void setImage(const UIImageRef& image);
   [[nodiscard]] UIViewContentMode contentMode() const { return contentMode_; }
   void setContentMode(UIViewContentMode mode);
-  /// What template images are drawn in; none is the window's tint.
-  [[nodiscard]] const std::optional<UIColor>& tintColor() const { return tintColor_; }
-  void setTintColor(const UIColor& color);
 
  private:
   template <typename Value>
@@ -33,7 +28,6 @@ class UIImageView : public UIView {
 
   UIImageRef image_;
   UIViewContentMode contentMode_ = UIViewContentMode::scaleAspectFill;
-  std::optional<UIColor> tintColor_;
 };
 
 }  // namespace kindora

@@ -22,6 +22,7 @@
 #include "platform/view/NSLayoutConstraint.h"
 #include "platform/view/UIMotionEffect.h"
 #include "platform/view/UITapGestureRecognizer.h"
+#include "platform/view/UIViewTint.h"
 
 namespace kindora {
 
@@ -153,6 +154,16 @@ class UIView : public std::enable_shared_from_this<UIView> {
   /// Gives the keyboard up wherever in this view it is; true when that worked or force is set.
   bool endEditing(bool force);
 
+  /// Automatic is what the superview has, and normal where there is none.
+  [[nodiscard]] UIViewTintAdjustmentMode tintAdjustmentMode() const { return tintAdjustmentMode_; }
+  void setTintAdjustmentMode(UIViewTintAdjustmentMode mode);
+  [[nodiscard]] bool isTintDimmed() const;
+  /// None unless it was set on this very view.
+  [[nodiscard]] const std::optional<UIColor>& ownTintColor() const { return ownTintColor_; }
+  void setTintColor(const UIColor& color);
+  /// The view's own tint, else the nearest superview's, else the given one; grey while dimmed.
+  [[nodiscard]] UIColor tintColor(const UIColor& otherwise = kDefaultTintColor) const;
+
   /// Subviews are cut off at the bounds, with the corner radius.
   [[nodiscard]] bool clipsToBounds() const { return clipsToBounds_; }
   void setClipsToBounds(bool clips);
@@ -234,6 +245,8 @@ class UIView : public std::enable_shared_from_this<UIView> {
   /// then calls layoutIfNeeded in time for the next frame.
   Observer layoutScheduled;
   Observer layoutRequested;
+  /// Called when this view has been laid out.
+  Observer layoutFinished;
 
   /// Calls the observer after every change until the subscription is dropped.
   class Subscription {
@@ -270,6 +283,7 @@ class UIView : public std::enable_shared_from_this<UIView> {
   [[nodiscard]] CGPoint motionOffset() const;
   void updateShown();
   void resizeSubviews();
+  void tintChanged();
   template <typename Change>
   void animatable(Change change);
 
@@ -288,6 +302,8 @@ class UIView : public std::enable_shared_from_this<UIView> {
   bool clipsToBounds_ = false;
   UIViewBorder border_;
   bool fillsSuperview_ = false;
+  UIViewTintAdjustmentMode tintAdjustmentMode_ = UIViewTintAdjustmentMode::automatic;
+  std::optional<UIColor> ownTintColor_;
   std::weak_ptr<UIView> superview_;
   bool removed_ = false;
   std::vector<std::shared_ptr<UIView>> subviews_;

@@ -121,7 +121,10 @@ void UIView::runLayoutPasses() {
 }
 
 void UIView::layOutMarkedViews() {
-  if (std::exchange(needsLayout_, false)) layoutSubviews();
+  if (std::exchange(needsLayout_, false)) {
+    layoutSubviews();
+    if (layoutFinished) layoutFinished();
+  }
   const auto inside = subviews_;  // the views may change it while they lay themselves out
   for (const auto& view : inside) view->layOutMarkedViews();
 }

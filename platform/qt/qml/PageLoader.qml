@@ -8,6 +8,7 @@ Loader {
     id: root
 
     required property UIViewController controller
+    property url page: root.controller.page
 
-    Component.onCompleted: root.setSource(root.controller.page, { "controller": root.controller })
+    Component.onCompleted: root.setSource(root.page, { "controller": root.controller })
 }

@@ -10,5 +10,6 @@ PageLoader {
     readonly property real progress: root.controller.presentationProgress
     readonly property bool covers: root.controller.coversPresenter && root.progress >= 1
 
+    page: root.controller.presentedPage
     y: root.controller.coversPresenter ? (1 - root.progress) * root.height : 0
 }

@@ -20,6 +20,9 @@ FocusScope {
 
     // Pages come in from the side.
     clip: true
+    onWidthChanged: root.host.reportSize(root.width, root.height)
+    onHeightChanged: root.host.reportSize(root.width, root.height)
+    Component.onCompleted: root.host.reportSize(root.width, root.height)
 
     PageLoader {
         anchors.fill: parent

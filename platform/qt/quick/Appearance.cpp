@@ -15,14 +15,18 @@ namespace kindora {
 QFont resolvedFont(const UIFont& font) {
   static const bool hasAvenir = QFontDatabase::hasFamily(QStringLiteral("Avenir Next"));
   QFont result(hasAvenir ? QStringLiteral("Avenir Next") : QStringLiteral("Lato"));
-  result.setWeight(font.name.ends_with("Bold") ? QFont::Bold : QFont::Medium);
+  const QFont::Weight regular = font.name.starts_with("System") ? QFont::Normal : QFont::Medium;
+  result.setWeight(font.name.ends_with("Bold") ? QFont::Bold : regular);
   result.setPixelSize(static_cast<int>(std::lround(font.pointSize)));
   return result;
 }
 
-QColor Appearance::tint() {
-  const UIWindow* window = UIApplication::sharedApplication()->keyWindow();
-  return window != nullptr ? toQColor(window->tintColor()) : QColor();
+QColor Appearance::tint() { return toQColor(tintColor()); }
+
+UIColor Appearance::tintColor() {
+  // Alerts lie above it in windows of their own.
+  const std::vector<UIWindow*>& windows = UIApplication::sharedApplication()->windows();
+  return windows.empty() ? kDefaultTintColor : windows.front()->drawnTintColor();
 }
 
 QColor Appearance::tintedText() { return tint().darker(165); }

@@ -7,6 +7,7 @@
 #include <QFont>
 #include <QObject>
 
+#include "platform/UIColor.h"
 #include "platform/UIFont.h"
 
 namespace kindora {
@@ -26,6 +27,8 @@ class Appearance : public QObject {
 
  public:
   [[nodiscard]] static QColor tint();
+  /// The tint, and the toolkit's own before there is a window.
+  [[nodiscard]] static UIColor tintColor();
   /// The tint, as much darker as small text on white needs to be readable.
   [[nodiscard]] static QColor tintedText();
   [[nodiscard]] static QColor barTint();

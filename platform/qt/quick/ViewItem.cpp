@@ -19,8 +19,7 @@ QColor templateTint(const UIImageView& view) {
   if (!view.image() || view.image()->renderingMode() != UIImageRenderingMode::alwaysTemplate) {
     return {};
   }
-  if (view.tintColor()) return toQColor(*view.tintColor());
-  return Appearance::tint();
+  return toQColor(view.tintColor(Appearance::tintColor()));
 }
 
 ViewItem::ViewItem(QQuickItem* parent) : QQuickItem(parent) {}

@@ -2,11 +2,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "platform/qt/toolkit/UIApplication.h"
 
+#include <QJSEngine>
+
 namespace kindora {
 
 UIApplication* UIApplication::sharedApplication() {
   static UIApplication& application = *new UIApplication;  // outlives every static
   return &application;
+}
+
+UIApplication* UIApplication::create(QQmlEngine* /*qmlEngine*/, QJSEngine* /*jsEngine*/) {
+  QJSEngine::setObjectOwnership(sharedApplication(), QJSEngine::CppOwnership);
+  return sharedApplication();
 }
 
 void UIApplication::setApplicationSupportsShakeToEdit(bool supports) {
@@ -15,7 +22,21 @@ void UIApplication::setApplicationSupportsShakeToEdit(bool supports) {
   emit listensForMotionChanged();
 }
 
-void UIApplication::setKeyWindow(UIWindow* window) { keyWindow_ = window; }
+void UIApplication::setKeyWindow(UIWindow* window) {
+  if (keyWindow_ == window) return;
+  const QPointer<UIWindow> before = keyWindow_;
+  keyWindow_ = window;
+  if (before) emit before->keyChanged();
+  if (window != nullptr) emit window->keyChanged();
+  emit keyWindowChanged();
+}
+
+void UIApplication::orderWindow(UIWindow& window) { windowList_.raise(window); }
+
+void UIApplication::removeWindow(UIWindow& window) {
+  if (keyWindow_ == &window) setKeyWindow(nullptr);
+  windowList_.remove(window);
+}
 
 bool UIApplication::listensForMotion() const {
   return supportsShakeToEdit_ && UIResponder::firstResponder() != nullptr;

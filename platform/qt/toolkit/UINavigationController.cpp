@@ -46,6 +46,11 @@ void UINavigationController::setBackgroundColor(const UIColor& color) {
   emit backgroundColorChanged();
 }
 
+UIViewControllerRef UINavigationController::visibleViewController() {
+  const UIViewControllerRef presented = presentedViewController();
+  return presented ? presented : topViewController();
+}
+
 QColor UINavigationController::background() const { return toQColor(backgroundColor_); }
 
 void UINavigationController::adopt(const UIViewControllerRef& controller) {

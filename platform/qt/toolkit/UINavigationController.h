@@ -56,6 +56,8 @@ class UINavigationController : public kindora::UIViewController {
 
   [[nodiscard]] const std::vector<UIViewControllerRef>& viewControllers() const { return stack_; }
   [[nodiscard]] UIViewControllerRef topViewController() const { return stack_.back(); }
+  /// What the controller or its container presents, else the top of the stack.
+  [[nodiscard]] UIViewControllerRef visibleViewController();
   [[nodiscard]] UINavigationBar* navigationBar() { return &bar_; }
 
   /// Behind all pages.

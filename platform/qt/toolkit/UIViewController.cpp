@@ -7,26 +7,22 @@
 #include <utility>
 
 #include "platform/FatalError.h"
-#include "platform/qt/toolkit/UIApplication.h"
+#include "platform/qt/toolkit/ModalPresentation.h"
 #include "platform/qt/toolkit/UINavigationController.h"
 #include "platform/qt/toolkit/UITabBarController.h"
+#include "platform/qt/toolkit/UIViewControllerTransitioningDelegate.h"
+#include "platform/qt/toolkit/UIWindow.h"
 
 namespace kindora {
-
-// What a controller presents, while it comes, stays or goes.
-struct UIViewController::Presentation {
-  UIViewControllerRef presented;
-  bool dismissing = false;
-  std::vector<Completion> dismissed;
-  Completion presentedCompletion;
-  ProgressAnimation animation;
-};
 
 UIViewController::UIViewController() {
   QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
 }
 
-UIViewController::~UIViewController() = default;
+UIViewController::~UIViewController() {
+  for (const auto& child : children_) child->parent_ = nullptr;
+  if (view_) view_->layoutFinished = {};
+}
 
 // --- Life ---
 
@@ -37,10 +33,16 @@ const std::shared_ptr<UIView>& UIViewController::view() {
 
 void UIViewController::loadViewIfNeeded() {
   if (view_) return;
-  view_ = std::make_shared<UIView>();
-  view_->setName("view");
+  view_ = loadView();
+  view_->layoutFinished = [this] { viewDidLayoutSubviews(); };
   if (scene_ != nullptr && scene_->connectOutlets) scene_->connectOutlets(*this);
   viewDidLoad();
+}
+
+std::shared_ptr<UIView> UIViewController::loadView() {
+  auto view = std::make_shared<UIView>();
+  view->setName("view");
+  return view;
 }
 
 void UIViewController::beginAppearanceTransition(bool appearing, bool animated) {
@@ -99,17 +101,72 @@ UIViewController* UIViewController::containmentRoot() {
   return top;
 }
 
+void UIViewController::addChildViewController(const UIViewControllerRef& child) {
+  if (child->parent_ == this) return;
+  child->removeFromParentViewController();
+  child->parent_ = this;
+  children_.push_back(child);
+  const bool seen = appearance_ == Appearance::appearing || appearance_ == Appearance::appeared;
+  if (seen) child->beginAppearanceTransition(true, false);
+  if (appearance_ == Appearance::appeared) child->endAppearanceTransition();
+}
+
+void UIViewController::removeFromParentViewController() {
+  if (parent_ == nullptr) return;
+  const UIViewControllerRef self = shared_from_this();
+  std::erase(parent_->children_, self);
+  parent_ = nullptr;
+  beginAppearanceTransition(false, false);
+  endAppearanceTransition();
+  didMoveToParentViewController(nullptr);
+}
+
+std::vector<UIViewController*> UIViewController::visibleChildren() const {
+  std::vector<UIViewController*> children;
+  for (const auto& child : children_) children.push_back(child.get());
+  return children;
+}
+
+UIWindow* UIViewController::window() {
+  UIViewController* root = containmentRoot();
+  while (root->presenting_ != nullptr) root = root->presenting_->containmentRoot();
+  return root->window_;
+}
+
 bool UIViewController::goBack() { return false; }
 
 // --- Presentation ---
 
 UIViewControllerRef UIViewController::presentedViewController() {
   const auto& presentation = containmentRoot()->presentation_;
-  return presentation ? presentation->presented : nullptr;
+  return presentation ? presentation->presented() : nullptr;
 }
 
 UIViewController* UIViewController::presentingViewController() {
   return containmentRoot()->presenting_;
+}
+
+ModalPresentation* UIViewController::ownPresentation() {
+  const UIViewController* presenting = presentingViewController();
+  return presenting != nullptr ? presenting->presentation_.get() : nullptr;
+}
+
+UIPresentationController* UIViewController::presentationController() {
+  const ModalPresentation* presentation = ownPresentation();
+  return presentation != nullptr ? presentation->presentationController() : nullptr;
+}
+
+UIViewControllerTransitionCoordinator* UIViewController::transitionCoordinator() {
+  const ModalPresentation* own = ownPresentation();
+  if (own != nullptr && own->coordinator() != nullptr) return own->coordinator();
+  const auto& presentation = containmentRoot()->presentation_;
+  return presentation ? presentation->coordinator() : nullptr;
+}
+
+std::shared_ptr<UIViewControllerTransitioningDelegate> UIViewController::customTransitioning()
+    const {
+  return modalPresentationStyle_ == UIModalPresentationStyle::custom ? transitioningDelegate()
+                                                                     : nullptr;
 }
 
 void UIViewController::setPresentationProgress(double progress) {
@@ -122,81 +179,17 @@ void UIViewController::presentViewController(const UIViewControllerRef& controll
                                              Completion completion) {
   UIViewController* host = containmentRoot();
   if (host->presentation_) return;
-  host->presentation_ = std::make_unique<Presentation>();
-  host->presentation_->presented = controller;
-  host->presentation_->presentedCompletion = std::move(completion);
-  controller->presenting_ = host;
-  controller->loadViewIfNeeded();
-  controller->setPresentationProgress(animated ? 0 : 1);
-  if (UIWindow* window = UIApplication::sharedApplication()->keyWindow()) {
-    window->presentations()->append(controller);
-  }
-  if (controller->coversPresenter()) host->beginAppearanceTransition(false, animated);
-  controller->beginAppearanceTransition(true, animated);
-  if (!animated) {
-    host->endPresenting(*controller);
-    return;
-  }
-  host->presentation_->animation = ProgressAnimation(
-      {.duration = controller->presentationDuration(), .curve = UIViewAnimationCurve::easeOut},
-      [presented = controller.get()](double done) { presented->setPresentationProgress(done); },
-      [host, presented = controller.get()] { host->endPresenting(*presented); });
-}
-
-void UIViewController::endPresenting(UIViewController& presented) {
-  // Whatever is told here may dismiss at once what has just come.
-  const Completion completion = std::exchange(presentation_->presentedCompletion, {});
-  if (presented.coversPresenter()) endAppearanceTransition();
-  presented.endAppearanceTransition();
-  if (completion) completion();
+  const auto presentation = std::make_shared<ModalPresentation>(*host, controller);
+  host->presentation_ = presentation;
+  presentation->present(animated, std::move(completion));
 }
 
 void UIViewController::dismissViewController(bool animated, Completion completion) {
-  UIViewController* host = containmentRoot();
-  if (host->presentation_) {
-    host->dismissPresented(animated, std::move(completion));
-  } else if (host->presenting_ != nullptr) {
-    host->presenting_->dismissPresented(animated, std::move(completion));
+  auto presentation = containmentRoot()->presentation_;
+  if (!presentation && presentingViewController() != nullptr) {
+    presentation = presentingViewController()->presentation_;
   }
-}
-
-void UIViewController::dismissPresented(bool animated, Completion completion) {
-  if (completion) presentation_->dismissed.push_back(std::move(completion));
-  if (presentation_->dismissing) return;
-  const UIViewControllerRef presented = presentation_->presented;
-  // Whatever stands above it goes with it.
-  if (presented->presentation_) presented->dismissPresented(false, {});
-  presentation_->animation = {};
-  endPresenting(*presented);
-  if (!presentation_ || presentation_->dismissing) return;
-  presentation_->dismissing = true;
-  presented->beginAppearanceTransition(false, animated);
-  if (presented->coversPresenter()) beginAppearanceTransition(true, animated);
-  if (!animated) {
-    finishDismissal();
-    return;
-  }
-  const double from = presented->presentationProgress();
-  presentation_->animation = ProgressAnimation(
-      {.duration = presented->presentationDuration() * from,
-       .curve = UIViewAnimationCurve::easeOut},
-      [target = presented.get(), from](double done) {
-        target->setPresentationProgress(from * (1 - done));
-      },
-      [this] { finishDismissal(); });
-}
-
-void UIViewController::finishDismissal() {
-  const auto ended = std::exchange(presentation_, nullptr);
-  const UIViewControllerRef& presented = ended->presented;
-  presented->presenting_ = nullptr;
-  presented->setPresentationProgress(0);
-  if (UIWindow* window = UIApplication::sharedApplication()->keyWindow()) {
-    window->presentations()->remove(presented);
-  }
-  presented->endAppearanceTransition();
-  if (presented->coversPresenter()) endAppearanceTransition();
-  for (const Completion& completion : ended->dismissed) completion();
+  if (presentation) presentation->dismiss(animated, std::move(completion));
 }
 
 // --- Storyboard ---
@@ -206,7 +199,23 @@ void UIViewController::setScene(const UIStoryboard& storyboard, const UIStoryboa
   scene_ = &scene;
 }
 
-QUrl UIViewController::page() const { return scene_ != nullptr ? scene_->page : QUrl(); }
+QUrl UIViewController::page() const {
+  if (scene_ != nullptr) return scene_->page;
+  return view_ && view_->isMadeInCode()
+             ? QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Platform/RecordPage.qml"))
+             : QUrl();
+}
+
+QUrl UIViewController::presentedPage() {
+  return presentationController() != nullptr
+             ? QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Platform/PresentationHost.qml"))
+             : page();
+}
+
+ViewHandle UIViewController::presentationContainer() {
+  const UIPresentationController* controller = presentationController();
+  return {controller != nullptr ? controller->containerView() : nullptr};
+}
 
 std::shared_ptr<UIView> UIViewController::outlet(std::string_view name) {
   return view()->viewWithName(name);

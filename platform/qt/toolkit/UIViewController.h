@@ -20,15 +20,24 @@
 #include "platform/qt/toolkit/UIStoryboard.h"
 #include "platform/qt/toolkit/UITabBar.h"
 #include "platform/qt/toolkit/UIViewAnimation.h"
+#include "platform/qt/toolkit/ViewHandle.h"
 #include "platform/view/UIView.h"
 
 namespace kindora {
 
+class ModalPresentation;
 class UINavigationController;
+class UIPresentationController;
 class UITabBarController;
 class UIViewController;
+class UIViewControllerTransitionCoordinator;
+class UIViewControllerTransitioningDelegate;
+class UIWindow;
 
 enum class UIPopoverArrowDirection { up, down };
+
+/// Custom: comes and goes as its transitioning delegate shows it, above what stays in sight.
+enum class UIModalPresentationStyle { fullScreen = 0, custom = 4 };
 
 /// What a presented controller belongs to, where it is shown as a bubble beside it. On a phone's
 /// screen sheets and pages come from below instead.
@@ -53,6 +62,9 @@ class UIViewController : public kindora::UIResponder,
   Q_PROPERTY(
       double presentationProgress READ presentationProgress NOTIFY presentationProgressChanged)
   Q_PROPERTY(bool coversPresenter READ coversPresenter CONSTANT)
+  Q_PROPERTY(QUrl presentedPage READ presentedPage CONSTANT)
+  Q_PROPERTY(kindora::ViewHandle rootView READ rootView CONSTANT)
+  Q_PROPERTY(kindora::ViewHandle presentationContainer READ presentationContainer CONSTANT)
 
  public:
   using Completion = std::function<void()>;
@@ -66,11 +78,16 @@ class UIViewController : public kindora::UIResponder,
   [[nodiscard]] const std::shared_ptr<UIView>& view();
   [[nodiscard]] bool isViewLoaded() const { return view_ != nullptr; }
   void loadViewIfNeeded();
+  /// Makes the root view. One without a name is drawn as its record and the records inside it say,
+  /// and needs no page.
+  [[nodiscard]] virtual std::shared_ptr<UIView> loadView();
   virtual void viewDidLoad() {}
   virtual void viewWillAppear(bool /*animated*/) {}
   virtual void viewDidAppear(bool /*animated*/) {}
   virtual void viewWillDisappear(bool /*animated*/) {}
   virtual void viewDidDisappear(bool /*animated*/) {}
+  /// After each layout of the root view.
+  virtual void viewDidLayoutSubviews() {}
 
   /// For containers: starts and ends the change from hidden to visible or back. Calls that do not
   /// change anything are ignored, so that each callback comes once, will before did.
@@ -90,14 +107,27 @@ class UIViewController : public kindora::UIResponder,
   [[nodiscard]] UITabBarController* tabBarController() const;
   /// The topmost container that holds this controller, or the controller itself.
   [[nodiscard]] UIViewController* containmentRoot();
+  /// Makes the controller a child that is on the screen when this one is; whoever adds it puts its
+  /// view where it belongs and then calls its didMoveToParentViewController. A child of another
+  /// leaves that one first.
+  void addChildViewController(const UIViewControllerRef& child);
+  void removeFromParentViewController();
+  [[nodiscard]] const std::vector<UIViewControllerRef>& childViewControllers() const {
+    return children_;
+  }
+  /// The parent is null after the controller was removed.
+  virtual void didMoveToParentViewController(UIViewController* /*parent*/) {}
   /// The controllers inside this one that are on the screen when it is.
-  [[nodiscard]] virtual std::vector<UIViewController*> visibleChildren() const { return {}; }
+  [[nodiscard]] virtual std::vector<UIViewController*> visibleChildren() const;
+  /// The window whose root, or what that presents, holds this controller; null when none does.
+  [[nodiscard]] UIWindow* window();
   /// Goes back by one; false when there is nothing to go back to, or the way back is hidden.
   virtual bool goBack();
 
   // --- Presentation ---
 
-  /// Presents above this controller's whole container. Ignored while something is presented there.
+  /// Presents above this controller's whole container, in its window. Ignored while something is
+  /// presented there.
   void presentViewController(const UIViewControllerRef& controller, bool animated,
                              Completion completion = {});
   /// Dismisses what this controller or its container presents, else this controller itself when it
@@ -113,9 +143,32 @@ class UIViewController : public kindora::UIResponder,
   [[nodiscard]] double presentationProgress() const { return presentationProgress_; }
   /// True when what presents this one is out of sight below it, so that it hears that it
   /// disappears.
-  [[nodiscard]] virtual bool coversPresenter() const { return true; }
+  [[nodiscard]] virtual bool coversPresenter() const {
+    return modalPresentationStyle_ != UIModalPresentationStyle::custom;
+  }
   /// Seconds that coming and going take.
   [[nodiscard]] virtual double presentationDuration() const { return 0.4; }
+
+  /// Before the controller is presented.
+  [[nodiscard]] UIModalPresentationStyle modalPresentationStyle() const {
+    return modalPresentationStyle_;
+  }
+  void setModalPresentationStyle(UIModalPresentationStyle style) {
+    modalPresentationStyle_ = style;
+  }
+  /// Counts for the custom style. Held weakly.
+  [[nodiscard]] std::shared_ptr<UIViewControllerTransitioningDelegate> transitioningDelegate()
+      const {
+    return transitioningDelegate_.lock();
+  }
+  void setTransitioningDelegate(
+      const std::shared_ptr<UIViewControllerTransitioningDelegate>& delegate) {
+    transitioningDelegate_ = delegate;
+  }
+  /// Of the custom presentation of this controller's container; null without one.
+  [[nodiscard]] UIPresentationController* presentationController();
+  /// Of the custom transition that this controller's container takes part in; null without one.
+  [[nodiscard]] UIViewControllerTransitionCoordinator* transitionCoordinator();
 
   [[nodiscard]] const UIPopoverAnchor& popoverAnchor() const { return popoverAnchor_; }
   void setPopoverAnchor(const UIPopoverAnchor& anchor) { popoverAnchor_ = anchor; }
@@ -128,6 +181,10 @@ class UIViewController : public kindora::UIResponder,
   void setScene(const UIStoryboard& storyboard, const UIStoryboardScene& scene);
   [[nodiscard]] const UIStoryboard* storyboard() const { return storyboard_; }
   [[nodiscard]] virtual QUrl page() const;
+  /// What draws the controller while it is presented: its page, unless that is custom.
+  [[nodiscard]] QUrl presentedPage();
+  [[nodiscard]] ViewHandle rootView() { return {view()}; }
+  [[nodiscard]] ViewHandle presentationContainer();
 
   [[nodiscard]] std::shared_ptr<UIView> outlet(std::string_view name) override;
 
@@ -144,16 +201,18 @@ class UIViewController : public kindora::UIResponder,
   void presentationProgressChanged();
 
  protected:
+  friend class ModalPresentation;
   friend class UINavigationController;
   friend class UITabBarController;
+  friend class UIWindow;
 
  private:
   enum class Appearance { disappeared, appearing, appeared, disappearing };
-  struct Presentation;
 
-  void endPresenting(UIViewController& presented);
-  void finishDismissal();
-  void dismissPresented(bool animated, Completion completion);
+  /// The presentation by which this controller's container came; null without one.
+  [[nodiscard]] ModalPresentation* ownPresentation();
+  /// The delegate, when the style asks for it.
+  [[nodiscard]] std::shared_ptr<UIViewControllerTransitioningDelegate> customTransitioning() const;
   void setPresentationProgress(double progress);
   void unwind(const UIStoryboardSegueTemplate& segue, const std::any& sender);
   [[nodiscard]] UIViewController* unwindTarget(std::string_view action);
@@ -165,10 +224,14 @@ class UIViewController : public kindora::UIResponder,
   UINavigationItem navigationItem_;
   UITabBarItem tabBarItem_;
   UIViewController* parent_ = nullptr;
-  std::unique_ptr<Presentation> presentation_;
+  std::vector<UIViewControllerRef> children_;
+  QPointer<UIWindow> window_;  // of which this is the root
+  std::shared_ptr<ModalPresentation> presentation_;
   QPointer<UIViewController> presenting_;
   double presentationProgress_ = 0;
   bool definesPresentationContext_ = false;
+  UIModalPresentationStyle modalPresentationStyle_ = UIModalPresentationStyle::fullScreen;
+  std::weak_ptr<UIViewControllerTransitioningDelegate> transitioningDelegate_;
   UIPopoverAnchor popoverAnchor_;
   const UIStoryboard* storyboard_ = nullptr;
   const UIStoryboardScene* scene_ = nullptr;

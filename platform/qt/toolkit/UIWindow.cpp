@@ -7,8 +7,20 @@
 
 namespace kindora {
 
+namespace {
+
+UIApplication& application() { return *UIApplication::sharedApplication(); }
+
+void showOrHide(UIViewController& controller, bool shows) {
+  controller.beginAppearanceTransition(shows, false);
+  controller.endAppearanceTransition();
+}
+
+}  // namespace
+
 UIWindow::UIWindow() = default;
-UIWindow::~UIWindow() = default;
+
+UIWindow::~UIWindow() { application().removeWindow(*this); }
 
 void UIWindow::setTintColor(const UIColor& color) {
   if (tintColor_ == color) return;
@@ -16,17 +28,76 @@ void UIWindow::setTintColor(const UIColor& color) {
   emit tintColorChanged();
 }
 
+void UIWindow::setTintAdjustmentMode(UIViewTintAdjustmentMode mode) {
+  if (tintAdjustmentMode_ == mode) return;
+  tintAdjustmentMode_ = mode;
+  emit tintColorChanged();
+}
+
+UIColor UIWindow::drawnTintColor() const {
+  return tintAdjustmentMode_ == UIViewTintAdjustmentMode::dimmed ? desaturated(tintColor_)
+                                                                 : tintColor_;
+}
+
+void UIWindow::setWindowLevel(double level) {
+  if (windowLevel_ == level) return;
+  windowLevel_ = level;
+  if (!hidden_) application().orderWindow(*this);
+}
+
+void UIWindow::reportSize(double width, double height) {
+  if (size_ == CGSize{width, height}) return;
+  size_ = {width, height};
+  placeRootView();
+  emit sizeChanged();
+}
+
+// A view that a storyboard knows is placed by its item.
+void UIWindow::placeRootView() {
+  if (root_ && root_->isViewLoaded() && root_->view()->isMadeInCode()) {
+    root_->view()->setFrame(bounds());
+  }
+}
+
 void UIWindow::setRootViewController(const UIViewControllerRef& controller) {
   if (root_ == controller) return;
+  const UIViewControllerRef before = root_;
   root_ = controller;
+  if (before) before->window_ = nullptr;
+  if (before && !hidden_) showOrHide(*before, false);
+  if (root_) root_->window_ = this;
+  if (root_ && !hidden_) {
+    root_->loadViewIfNeeded();
+    placeRootView();
+    showOrHide(*root_, true);
+  }
   emit rootViewControllerChanged();
 }
 
 void UIWindow::makeKeyAndVisible() {
-  UIApplication::sharedApplication()->setKeyWindow(this);
-  if (!root_) return;
-  root_->beginAppearanceTransition(true, false);
-  root_->endAppearanceTransition();
+  setHidden(false);
+  application().orderWindow(*this);
+  application().setKeyWindow(this);
+}
+
+bool UIWindow::isKeyWindow() const { return application().keyWindow() == this; }
+
+void UIWindow::setHidden(bool hidden) {
+  if (hidden_ == hidden) return;
+  hidden_ = hidden;
+  if (root_ && !hidden) {
+    root_->loadViewIfNeeded();
+    placeRootView();
+  }
+  hidden ? application().removeWindow(*this) : application().orderWindow(*this);
+  if (root_) showOrHide(*root_, !hidden);
+}
+
+std::shared_ptr<UIWindow> makeWindow() {
+  return {new UIWindow, [](UIWindow* window) {
+            window->setHidden(true);
+            window->deleteLater();
+          }};
 }
 
 bool UIWindow::goBack() {

@@ -60,6 +60,8 @@ class ToolkitFixture : public ::testing::Test {
     return lines;
   }
   void note(const std::string& what) { log_->push_back(what); }
+  /// Where screens of other classes write down what they are told.
+  [[nodiscard]] std::shared_ptr<Lines> logged() const { return log_; }
 
   UIWindow window;
   ManualTime time{std::make_shared<ManualQueue>()};

@@ -100,5 +100,53 @@ TEST_F(UIApplicationTest, AWindowThatHasGoneIsNotItsKeyWindow) {
   EXPECT_EQ(application.keyWindow(), nullptr);
 }
 
+// --- Windows ---
+
+using Windows = std::vector<UIWindow*>;
+
+TEST_F(UIApplicationTest, ListsVisibleWindowsByLevel) {
+  UIWindow alert;
+  alert.setWindowLevel(UIWindowLevelAlert);
+  UIWindow first;
+  UIWindow second;
+  for (UIWindow* window : {&alert, &first, &second}) window->makeKeyAndVisible();
+  EXPECT_EQ(application.windows(), (Windows{&first, &second, &alert}));
+  EXPECT_EQ(application.keyWindow(), &second);
+}
+
+TEST_F(UIApplicationTest, AWindowMadeKeyAgainComesToTheTopOfItsLevel) {
+  UIWindow first;
+  UIWindow second;
+  UIWindow alert;
+  alert.setWindowLevel(UIWindowLevelAlert);
+  for (UIWindow* window : {&first, &second, &alert, &first}) window->makeKeyAndVisible();
+  EXPECT_EQ(application.windows(), (Windows{&second, &first, &alert}));
+}
+
+TEST_F(UIApplicationTest, AWindowThatChangesItsLevelMoves) {
+  UIWindow first;
+  UIWindow second;
+  for (UIWindow* window : {&first, &second}) window->makeKeyAndVisible();
+  first.setWindowLevel(1);
+  EXPECT_EQ(application.windows(), (Windows{&second, &first}));
+  first.setWindowLevel(-1);
+  EXPECT_EQ(application.windows(), (Windows{&first, &second}));
+}
+
+TEST_F(UIApplicationTest, AWindowThatHasGoneIsListedNoLonger) {
+  UIWindow first;
+  first.makeKeyAndVisible();
+  auto second = std::make_unique<UIWindow>();
+  second->makeKeyAndVisible();
+  int changes = 0;
+  QObject context;
+  QObject::connect(&application, &UIApplication::keyWindowChanged, &context,
+                   [&changes] { ++changes; });
+  second.reset();
+  EXPECT_EQ(application.windows(), Windows{&first});
+  EXPECT_EQ(application.keyWindow(), nullptr);
+  EXPECT_EQ(changes, 1);
+}
+
 }  // namespace
 }  // namespace kindora

@@ -470,5 +470,17 @@ TEST_F(UINavigationControllerTest, TellsAChangedBackgroundOnce) {
   EXPECT_EQ(navigation->backgroundColor(), UIColor::whiteColor());
 }
 
+// --- What is seen ---
+
+TEST_F(UINavigationControllerTest, TheTopIsVisibleUnlessSomethingIsPresented) {
+  const auto top = navigation->topViewController();
+  const auto presented = screen("presented");
+  EXPECT_EQ(navigation->visibleViewController(), top);
+  navigation->presentViewController(presented, false);
+  EXPECT_EQ(navigation->visibleViewController(), presented);
+  navigation->dismissViewController(false);
+  EXPECT_EQ(navigation->visibleViewController(), top);
+}
+
 }  // namespace
 }  // namespace kindora

@@ -153,5 +153,156 @@ TEST_F(UIViewControllerTest, AnUnconnectedOutletStopsWhenItIsUsed) {
   EXPECT_DEATH(static_cast<void>(connected(nothing)), "fatal error: an outlet is not connected");
 }
 
+// --- Views made in code ---
+
+class CodeController final : public UIViewController {
+ public:
+  std::shared_ptr<UIView> loadView() override { return std::make_shared<UIView>(); }
+  void viewDidLayoutSubviews() override { ++layouts; }
+  void didMoveToParentViewController(UIViewController* parent) override {
+    parents.push_back(parent);
+  }
+  int layouts = 0;
+  std::vector<UIViewController*> parents;
+};
+
+TEST_F(UIViewControllerTest, TheRootViewOfAStoryboardIsNamed) {
+  EXPECT_EQ(screen("a")->view()->name(), "view");
+}
+
+TEST_F(UIViewControllerTest, MayMakeItsOwnRootView) {
+  const auto a = makeViewController<CodeController>();
+  EXPECT_TRUE(a->page().isEmpty());
+  EXPECT_TRUE(a->view()->isMadeInCode());
+  EXPECT_EQ(a->rootView().view, a->view());
+  EXPECT_TRUE(a->page().path().endsWith(QStringLiteral("/RecordPage.qml")));
+}
+
+TEST_F(UIViewControllerTest, HearsOfEachLayoutOfItsView) {
+  const auto a = makeViewController<CodeController>();
+  a->loadViewIfNeeded();
+  EXPECT_EQ(a->layouts, 0);
+  a->view()->layoutIfNeeded();
+  EXPECT_EQ(a->layouts, 1);
+}
+
+TEST_F(UIViewControllerTest, AViewThatOutlivesItsControllerTellsNobody) {
+  auto a = std::make_unique<CodeController>();
+  const auto view = a->view();
+  a.reset();
+  view->layoutIfNeeded();
+  EXPECT_EQ(view->layoutFinished, nullptr);
+}
+
+// --- Children ---
+
+TEST_F(UIViewControllerTest, AChildAppearsWithItsParent) {
+  const auto a = screen("a");
+  const auto b = screen("b");
+  a->addChildViewController(b);
+  EXPECT_EQ(b->parentViewController(), a.get());
+  EXPECT_EQ(a->childViewControllers(), std::vector<UIViewControllerRef>{b});
+  EXPECT_EQ(log(), Lines{});
+  show(a);
+  EXPECT_EQ(log(), (Lines{"a: loads", "a: will appear", "b: loads", "b: will appear",
+                          "a: did appear", "b: did appear"}));
+}
+
+TEST_F(UIViewControllerTest, AChildAddedToWhatIsVisibleAppearsAtOnce) {
+  const auto a = screen("a");
+  const auto b = screen("b");
+  show(a);
+  log();
+  a->addChildViewController(b);
+  EXPECT_EQ(log(), (Lines{"b: loads", "b: will appear", "b: did appear"}));
+  b->removeFromParentViewController();
+  EXPECT_EQ(log(), (Lines{"b: will disappear", "b: did disappear"}));
+  EXPECT_EQ(b->parentViewController(), nullptr);
+  EXPECT_TRUE(a->childViewControllers().empty());
+}
+
+TEST_F(UIViewControllerTest, AChildAddedWhileItsParentAppearsAppearsOnceWithIt) {
+  class Adding final : public UIViewController {
+   public:
+    explicit Adding(UIViewControllerRef added) : child(std::move(added)) {}
+    void viewWillAppear(bool /*animated*/) override { addChildViewController(child); }
+    const UIViewControllerRef child;
+  };
+  show(makeViewController<Adding>(screen("b")));
+  EXPECT_EQ(log(), (Lines{"b: loads", "b: will appear", "b: did appear"}));
+}
+
+TEST_F(UIViewControllerTest, AChildOfAnotherLeavesThatOne) {
+  const auto a = screen("a");
+  const auto b = screen("b");
+  const auto child = makeViewController<CodeController>();
+  a->addChildViewController(child);
+  b->addChildViewController(child);
+  b->addChildViewController(child);
+  EXPECT_TRUE(a->childViewControllers().empty());
+  EXPECT_EQ(b->childViewControllers().size(), 1u);
+  EXPECT_EQ(child->parents, std::vector<UIViewController*>{nullptr});
+}
+
+TEST_F(UIViewControllerTest, AChildThatIsRemovedHearsThatItHasNoParent) {
+  const auto a = screen("a");
+  const auto child = makeViewController<CodeController>();
+  a->addChildViewController(child);
+  child->didMoveToParentViewController(a.get());
+  child->removeFromParentViewController();
+  child->removeFromParentViewController();
+  EXPECT_EQ(child->parents, (std::vector<UIViewController*>{a.get(), nullptr}));
+}
+
+TEST_F(UIViewControllerTest, AChildOutlivesItsParentAlone) {
+  auto a = std::make_unique<CodeController>();
+  const auto child = screen("b");
+  a->addChildViewController(child);
+  a.reset();
+  EXPECT_EQ(child->parentViewController(), nullptr);
+}
+
+TEST_F(UIViewControllerTest, AChildPresentsAboveItsContainer) {
+  const auto a = screen("a");
+  const auto b = screen("b");
+  a->addChildViewController(b);
+  show(a);
+  const auto c = screen("c");
+  b->presentViewController(c, false);
+  EXPECT_EQ(c->presentingViewController(), a.get());
+}
+
+// --- Windows ---
+
+TEST_F(UIViewControllerTest, BelongsToTheWindowThatHoldsItsContainerOrPresenter) {
+  const auto a = screen("a");
+  const auto b = screen("b");
+  const auto c = screen("c");
+  EXPECT_EQ(a->window(), nullptr);
+  window.setRootViewController(makeViewController<UINavigationController>(a));
+  EXPECT_EQ(a->window(), &window);
+  a->presentViewController(b, false);
+  EXPECT_EQ(b->window(), &window);
+  b->presentViewController(c, false);
+  EXPECT_EQ(c->window(), &window);
+  a->dismissViewController(false);
+  EXPECT_EQ(b->window(), nullptr);
+  const auto gone = window.rootViewController();
+  window.setRootViewController(nullptr);
+  EXPECT_EQ(a->window(), nullptr);
+}
+
+TEST_F(UIViewControllerTest, PresentsInItsOwnWindowWhicheverIsKey) {
+  const auto a = screen("a");
+  const auto b = screen("b");
+  show(a);
+  UIWindow other;
+  other.setRootViewController(screen("c"));
+  other.makeKeyAndVisible();
+  a->presentViewController(b, false);
+  EXPECT_EQ(window.presentations()->items(), std::vector<UIViewControllerRef>{b});
+  EXPECT_EQ(other.presentations()->count(), 0);
+}
+
 }  // namespace
 }  // namespace kindora

@@ -70,7 +70,7 @@ TEST_F(UIImageViewTest, FillsItsBoundsUnlessToldToFit) {
 }
 
 TEST_F(UIImageViewTest, HasNoTintOfItsOwnUnlessToldSo) {
-  EXPECT_EQ(view->tintColor(), std::nullopt);
+  EXPECT_EQ(view->ownTintColor(), std::nullopt);
   view->setTintColor(UIColor::yellowColor());
   view->setTintColor(UIColor::yellowColor());
   EXPECT_EQ(view->tintColor(), UIColor::yellowColor());

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/qt/quick/RecordItem.h"
+
+#include <QPointer>
+
+#include "platform/qt/quick/CodeViewItem.h"
+
+namespace kindora {
+
+RecordItem::RecordItem(QQuickItem* parent) : QQuickItem(parent) {}
+
+RecordItem::~RecordItem() = default;
+
+void RecordItem::setRecord(const ViewHandle& record) {
+  if (view_ == record.view) return;
+  drawn_.reset();
+  view_ = record.view;
+  if (view_) {
+    view_->locateInWindow = [item = QPointer<RecordItem>(this)]() -> std::optional<CGPoint> {
+      if (!item) return std::nullopt;
+      const QPointF origin = item->mapToScene({0, 0});
+      return CGPoint{origin.x(), origin.y()};
+    };
+    place();
+    drawn_ = std::make_unique<CodeViewItem>(view_, this);
+  }
+  emit recordChanged();
+}
+
+void RecordItem::geometryChange(const QRectF& now, const QRectF& before) {
+  QQuickItem::geometryChange(now, before);
+  place();
+}
+
+void RecordItem::place() {
+  if (!view_) return;
+  // A QML item has no size until its bindings have run.
+  if (width() > 0 && height() > 0) view_->setFrame({{0, 0}, {width(), height()}});
+  polish();
+}
+
+void RecordItem::updatePolish() {
+  if (view_) view_->layoutIfNeeded();
+}
+
+}  // namespace kindora

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QQuickItem>
+#include <memory>
+#include <vector>
+
+#include "platform/qt/toolkit/ViewHandle.h"
+#include "platform/view/UIView.h"
+
+namespace kindora {
+
+class CodeViewItem;
+
+/// Draws a tree of views made in code. Its root is as large as the item, and what needs layout is
+/// laid out before the next frame.
+class RecordItem : public QQuickItem {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(kindora::ViewHandle record READ record WRITE setRecord NOTIFY recordChanged)
+
+ public:
+  explicit RecordItem(QQuickItem* parent = nullptr);
+  ~RecordItem() override;
+
+  [[nodiscard]] ViewHandle record() const { return {view_}; }
+  void setRecord(const ViewHandle& record);
+
+ signals:
+  void recordChanged();
+
+ protected:
+  void geometryChange(const QRectF& now, const QRectF& before) override;
+  void updatePolish() override;
+
+ private:
+  void place();
+
+  std::shared_ptr<UIView> view_;
+  std::unique_ptr<CodeViewItem> drawn_;
+};
+
+}  // namespace kindora
