@@ -5,10 +5,11 @@
 #include <QPointer>
 
 #include "platform/qt/quick/CodeViewItem.h"
+#include "platform/qt/quick/QtViewServices.h"
 
 namespace kindora {
 
-RecordItem::RecordItem(QQuickItem* parent) : QQuickItem(parent) {}
+RecordItem::RecordItem(QQuickItem* parent) : QQuickItem(parent) { ensureViewServices(); }
 
 RecordItem::~RecordItem() = default;
 
