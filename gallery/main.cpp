@@ -25,5 +25,5 @@ int main(int argc, char* argv[]) {
 
   QQmlApplicationEngine engine;
   const QUrl file(QStringLiteral("qrc:/qt/qml/Kindora/Gallery/GalleryWindow.qml"));
-  return showWindow(engine, window, file) ? QGuiApplication::exec() : EXIT_FAILURE;
+  return showWindows(engine, file) ? QGuiApplication::exec() : EXIT_FAILURE;
 }
