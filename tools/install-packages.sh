@@ -20,14 +20,14 @@ build_packages=(
   qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
   qml6-module-qtquick qml6-module-qtquick-templates
   qml6-module-qtquick-window
-  qml6-module-qtmultimedia
+  qml6-module-qtmultimedia qml6-module-qt5compat-graphicaleffects
 )
 
 run_packages=(
   # Platform plugins, picture formats, software OpenGL and the app's typeface.
   qt6-qpa-plugins qt6-wayland libqt6svg6 libgl1-mesa-dri fonts-lato
-  # The camera page; the app runs without it.
-  qml6-module-qtmultimedia
+  # The camera page, and the blur behind alerts; the app runs without them.
+  qml6-module-qtmultimedia qml6-module-qt5compat-graphicaleffects
   # A virtual display, shown as a page on the loopback address.
   xvfb x11vnc websockify novnc
 )

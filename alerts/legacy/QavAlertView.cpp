@@ -15,14 +15,17 @@ constexpr double kCornerRadius = 7;  // points
 
 // A handler may replace itself while it runs, so a copy is called.
 template <typename... Arguments>
-void tell(std::function<void(Arguments...)> handler, Arguments... arguments) {
-  if (handler) handler(arguments...);
+void tell(const std::function<void(Arguments...)>& handler, Arguments... arguments) {
+  const std::function<void(Arguments...)> told = handler;
+  if (told) told(arguments...);
 }
 
 // What the delegate answers, else the handler, else yes.
-bool decided(std::optional<bool> byDelegate, std::function<bool(int)> handler, int buttonIndex) {
+bool decided(std::optional<bool> byDelegate, const std::function<bool(int)>& handler,
+             int buttonIndex) {
   if (byDelegate) return *byDelegate;
-  return handler ? handler(buttonIndex) : true;
+  const std::function<bool(int)> asked = handler;
+  return asked ? asked(buttonIndex) : true;
 }
 
 }  // namespace
@@ -39,7 +42,7 @@ QavAlertViewCoordinator& QavAlertView::transitionCoordinator() {
 std::shared_ptr<QavAlertView> QavAlertView::initWithTitle(
     const Text& title, const Text& message, std::weak_ptr<QavAlertViewDelegate> delegate,
     const Text& cancelButtonTitle, const Titles& otherButtonTitles) {
-  const std::shared_ptr<QavAlertView> alert(new QavAlertView);
+  std::shared_ptr<QavAlertView> alert(new QavAlertView);
   alert->setTranslatesAutoresizingMaskIntoConstraints(false);
   qav_addParallax(*alert, {kParallax, kParallax});
   alert->setClipsToBounds(true);

@@ -7,7 +7,7 @@
 namespace kindora {
 
 std::shared_ptr<QavAlertViewBackgroundView> QavAlertViewBackgroundView::make() {
-  const std::shared_ptr<QavAlertViewBackgroundView> view(new QavAlertViewBackgroundView);
+  std::shared_ptr<QavAlertViewBackgroundView> view(new QavAlertViewBackgroundView);
   view->setTranslatesAutoresizingMaskIntoConstraints(false);
   view->panel_->setTranslatesAutoresizingMaskIntoConstraints(false);
   view->addSubview(view->panel_);

@@ -13,7 +13,7 @@ constexpr double kTitleInset = 8;  // points
 }  // namespace
 
 std::shared_ptr<QavAlertViewButtonRow> QavAlertViewButtonRow::withTitle(const std::string& title) {
-  const std::shared_ptr<QavAlertViewButtonRow> row(new QavAlertViewButtonRow);
+  std::shared_ptr<QavAlertViewButtonRow> row(new QavAlertViewButtonRow);
   const auto& label = row->textLabel_;
   label->setText(title);
   label->setTextAlignment(NSTextAlignment::center);

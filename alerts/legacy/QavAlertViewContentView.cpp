@@ -16,7 +16,7 @@ constexpr double kFieldCornerRadius = 5;  // points
 
 std::shared_ptr<QavAlertViewContentView> QavAlertViewContentView::initWithTitle(
     const std::optional<std::string>& title, const std::optional<std::string>& message) {
-  const std::shared_ptr<QavAlertViewContentView> view(new QavAlertViewContentView);
+  std::shared_ptr<QavAlertViewContentView> view(new QavAlertViewContentView);
   view->makeElements();
   view->setTitle(title);
   view->setMessage(message);
@@ -128,6 +128,7 @@ void QavAlertViewContentView::setFirstOtherButtonEnabled(bool enabled) {
 
 void QavAlertViewContentView::fillTables() {
   std::vector<std::string> others;
+  others.reserve(static_cast<std::size_t>(buttons_.numberOfOtherRows()));
   for (int row = 0; row < buttons_.numberOfOtherRows(); ++row) {
     others.push_back(buttons_.titleOfOtherRow(row));
   }
@@ -142,8 +143,7 @@ void QavAlertViewContentView::styleRows() {
   const auto style = [this](const QavAlertViewButtonTable& table, const UIFont& font) {
     for (const auto& row : table.rows()) {
       row->textLabel()->setFont(font);
-      row->textLabel()->setTextColor(
-          appearance_.buttonTextColor.value_or(UIColor::defaultTintColor()));
+      row->textLabel()->setTextColor(appearance_.buttonTextColor.value_or(tintColor()));
       row->setEnabled(true);
     }
   };

@@ -35,9 +35,8 @@ std::shared_ptr<QavAlertView> QavAlertView::alertWithTitleMessageSubviewButtons(
     const Text& title, const Text& message, const std::shared_ptr<UIView>& subview,
     const Titles& buttons) {
   const bool hasButtons = !buttons.empty();
-  const auto alert =
-      initWithTitle(title, message, {}, hasButtons ? Text(buttons.front()) : std::nullopt,
-                    hasButtons ? Titles(buttons.begin() + 1, buttons.end()) : Titles{});
+  auto alert = initWithTitle(title, message, {}, hasButtons ? Text(buttons.front()) : std::nullopt,
+                             hasButtons ? Titles(buttons.begin() + 1, buttons.end()) : Titles{});
   if (subview) alert->contentView()->addSubview(subview);
   return alert;
 }

@@ -34,6 +34,13 @@ inline constexpr CGSize kNoIntrinsicSize{kNoIntrinsicMetric, kNoIntrinsicMetric}
 
 enum class UIAccessibilityRole { none, staticText, header, button, alert };
 
+/// A line along the inside of a view's bounds.
+struct UIViewBorder {
+  UIColor color = UIColor::blackColor();
+  double width = 0;  ///< points
+  friend constexpr bool operator==(const UIViewBorder&, const UIViewBorder&) = default;
+};
+
 /// Everything about a view that an animation can move.
 struct UIViewState {
   CGRect frame;  ///< in the superview's space, before the transform
@@ -106,6 +113,9 @@ class UIView : public std::enable_shared_from_this<UIView> {
   void setPresentation(const UIViewState& presentation);
   [[nodiscard]] const UIViewKeyframeValues& keyframeValues() const { return keyframes_; }
   void setKeyframeValues(const UIViewKeyframeValues& values);
+
+  [[nodiscard]] const UIViewBorder& border() const { return border_; }
+  void setBorder(const UIViewBorder& border);
 
   /// Not drawn, pressed or read aloud while it is hidden.
   [[nodiscard]] bool isHidden() const { return hidden_; }
@@ -299,6 +309,7 @@ class UIView : public std::enable_shared_from_this<UIView> {
   double shadowPathRadius_ = -1;
   bool userInteractionEnabled_ = true;
   bool hidden_ = false;
+  UIViewBorder border_;
   bool clipsToBounds_ = false;
   UIViewBorder border_;
   bool fillsSuperview_ = false;

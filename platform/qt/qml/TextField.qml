@@ -37,10 +37,15 @@ TextInputItem {
     T.TextField {
         id: field
         anchors.fill: parent
-        font: Appearance.font(17)
+        font: root.fieldFont
         color: root.textColor.valid ? root.textColor : Qt.rgba(0.13, 0.13, 0.13, 1)
         selectionColor: Qt.alpha(Appearance.tint, 0.4)
         selectedTextColor: field.color
+        leftPadding: root.leftInset
+        rightPadding: root.rightInset
+        topPadding: root.topInset
+        bottomPadding: root.bottomInset
+        echoMode: root.secure ? TextInput.Password : TextInput.Normal
         verticalAlignment: TextInput.AlignVCenter
         selectByMouse: true
         inputMethodHints: root.hints
@@ -68,9 +73,13 @@ TextInputItem {
 
         PlainText {
             anchors.fill: parent
+            anchors.leftMargin: field.leftPadding
+            anchors.rightMargin: field.rightPadding
+            anchors.topMargin: field.topPadding
+            anchors.bottomMargin: field.bottomPadding
             visible: field.text === "" && field.preeditText === ""
             text: root.placeholder
-            points: 17
+            font: field.font
             color: Qt.rgba(0.6, 0.6, 0.6, 1)
             verticalAlignment: Text.AlignVCenter
             Accessible.ignored: true

@@ -3,54 +3,184 @@
 #include "platform/qt/quick/CodeViewItem.h"
 
 #include <QQuickWindow>
-#include <QSGRectangleNode>
 #include <algorithm>
 
 #include "platform/qt/quick/Colors.h"
+#include "platform/qt/quick/DrawnPlace.h"
+#include "platform/qt/quick/GroundItem.h"
 #include "platform/qt/quick/PageCurlItem.h"
 #include "platform/qt/quick/PictureItem.h"
+#include "platform/qt/quick/RecordPart.h"
+#include "platform/qt/quick/Screen.h"
+#include "platform/qt/quick/ScrollViewItem.h"
 #include "platform/qt/quick/ShadowItem.h"
 #include "platform/qt/quick/ViewItem.h"
+#include "platform/view/MotionEffects.h"
+#include "platform/view/UILabel.h"
+#include "platform/view/UIScrollView.h"
+#include "platform/view/UITextField.h"
+#include "platform/view/UIVisualEffectView.h"
 
 namespace kindora {
 namespace {
 
 constexpr double kShadowBlur = 8;  // points
+// Subviews are drawn at 1, 2, 3 and so on.
+constexpr double kShadowZ = -2;
+constexpr double kGroundZ = -1;
+constexpr double kBorderZ = 1e6;
+
+// The part in QML that shows what is special about the view's class.
+QString faceOf(const UIView& view) {
+  if (dynamic_cast<const UILabel*>(&view) != nullptr) return QStringLiteral("RecordLabel");
+  if (dynamic_cast<const UITextField*>(&view) != nullptr) return QStringLiteral("RecordTextField");
+  if (dynamic_cast<const UIScrollView*>(&view) != nullptr) {
+    return QStringLiteral("RecordScrollView");
+  }
+  if (dynamic_cast<const UIVisualEffectView*>(&view) != nullptr) {
+    return QStringLiteral("RecordPanel");
+  }
+  return {};
+}
 
 }  // namespace
 
 CodeViewItem::CodeViewItem(std::shared_ptr<UIView> view, QQuickItem* parent)
     : QQuickItem(parent), view_(std::move(view)) {
-  setFlag(ItemHasContents);
+  place();
+  makeFace();
   subscription_ = view_->observe([this] { viewDidChange(); });
   viewDidChange();
 }
 
-CodeViewItem::~CodeViewItem() = default;
+CodeViewItem::~CodeViewItem() {
+  subscription_ = {};
+  MotionEffects::shared().hide(view_);
+}
 
 void CodeViewItem::viewDidChange() {
   const UIViewState& shown = view_->presentation();
-  setPosition(
-      {shown.frame.origin.x + shown.translation.x, shown.frame.origin.y + shown.translation.y});
-  setSize({shown.frame.size.width, shown.frame.size.height});
+  place();
   setOpacity(shown.alpha);
   setScale(shown.scaling);
   setVisible(!view_->isHidden());
   keyframeTransform_.set(view_->keyframeValues().transform, *this);
-  const bool blocks = view_->isUserInteractionEnabled();
-  setAcceptedMouseButtons(blocks ? Qt::AllButtons : Qt::NoButton);
-  setAcceptTouchEvents(blocks);
+  const bool takesInput = view_->isUserInteractionEnabled();
+  setEnabled(takesInput);
+  setAcceptedMouseButtons(takesInput ? Qt::AllButtons : Qt::NoButton);
+  setAcceptTouchEvents(takesInput);
   if (shown.shadowOpacity > 0 || shadow_ != nullptr) drawShadow();
   if (const auto* picture = dynamic_cast<const UIImageView*>(view_.get())) drawPicture(*picture);
-  drawSubviews(*view_, *this, drawn_);
-  update();
+  drawGround();
+  makeFace();
+  makeButton();
+  drawSubviews(*view_, contentItem(), drawn_);
+  // A clip costs a pass of its own.
+  setClip(view_->clipsToBounds() && overflows(*view_));
+  tellInside();
+  followTilt();
+}
+
+void CodeViewItem::tellInside() {
+  const UIViewState& shown = view_->presentation();
+  const auto* scroll = dynamic_cast<const UIScrollView*>(view_.get());
+  const Surroundings now{.origin = shown.frame.origin,
+                         .size = shown.frame.size,
+                         .scrolled = scroll != nullptr ? scroll->contentOffset() : CGPoint{},
+                         .cornerRadius = shown.cornerRadius,
+                         .clips = view_->clipsToBounds(),
+                         .speaksForAll = view_->tapGestureRecognizer() != nullptr &&
+                                         view_->accessibilityLabel().has_value()};
+  if (now == told_) return;
+  told_ = now;
+  for (const auto& inside : drawn_) inside->surroundingsChanged();
+}
+
+void CodeViewItem::surroundingsChanged() {
+  place();
+  drawGround();
+  if (face_) face_->refresh();
+  for (const auto& inside : drawn_) inside->surroundingsChanged();
+}
+
+void CodeViewItem::place() {
+  const CGPoint moved = view_->presentation().translation;
+  const double ratio =
+      window() != nullptr ? window()->effectiveDevicePixelRatio() : mainScreenScale();
+  const QRectF rect = drawnRect(*view_, ratio);
+  setPosition(rect.topLeft() + QPointF(moved.x, moved.y));
+  setSize(rect.size());
+}
+
+void CodeViewItem::geometryChange(const QRectF& now, const QRectF& before) {
+  QQuickItem::geometryChange(now, before);
+  for (QQuickItem* each :
+       {static_cast<QQuickItem*>(face_.get()), static_cast<QQuickItem*>(button_.get()),
+        static_cast<QQuickItem*>(ground_), static_cast<QQuickItem*>(border_)}) {
+    if (each != nullptr) each->setSize(size());
+  }
+}
+
+void CodeViewItem::itemChange(ItemChange change, const ItemChangeData& data) {
+  QQuickItem::itemChange(change, data);
+  if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) place();
+  if (change == ItemSceneChange || change == ItemVisibleHasChanged) followTilt();
+}
+
+void CodeViewItem::followTilt() {
+  if (view_->motionEffects().empty()) return;
+  if (window() != nullptr && isVisible()) {
+    MotionEffects::shared().show(view_);
+  } else {
+    MotionEffects::shared().hide(view_);
+  }
+}
+
+void CodeViewItem::makeFace() {
+  if (face_) return;
+  QString part = faceOf(*view_);
+  // Others are read aloud only when they say so.
+  const bool speaks =
+      view_->accessibilityRole() != UIAccessibilityRole::none && !view_->tapGestureRecognizer();
+  if (part.isEmpty() && speaks) part = QStringLiteral("RecordSpeech");
+  if (!part.isEmpty()) face_ = makeRecordPart(part, view_, *this);
+}
+
+void CodeViewItem::makeButton() {
+  if (button_ || !view_->tapGestureRecognizer()) return;
+  button_ = makeRecordPart(QStringLiteral("RecordButton"), view_, *this);
+}
+
+QQuickItem& CodeViewItem::contentItem() {
+  const auto* scroll = qobject_cast<const ScrollViewItem*>(face_.get());
+  return scroll != nullptr && scroll->content() != nullptr ? *scroll->content() : *this;
+}
+
+void CodeViewItem::drawGround() {
+  const UIViewState& shown = view_->presentation();
+  const UIViewBorder& border = view_->border();
+  // A picture draws its own ground, below which a border would not show.
+  const bool pictured = picture_ != nullptr || curl_ != nullptr;
+  const bool bordered = border.width > 0 && border.color.alpha > 0;
+  GroundItem*& item = pictured ? border_ : ground_;
+  if (item == nullptr) {
+    if (!bordered && (pictured || shown.backgroundColor.alpha <= 0)) return;
+    item = new GroundItem(this);
+    item->setZ(pictured ? kBorderZ : kGroundZ);
+    item->setSize(size());
+  }
+  item->setLook({.color = pictured ? QColor(Qt::transparent) : toQColor(shown.backgroundColor),
+                 .borderColor = toQColor(border.color),
+                 .borderWidth = bordered ? border.width : 0,
+                 .radius = visibleRadius(),
+                 .cut = roundedCut(*view_)});
 }
 
 void CodeViewItem::drawShadow() {
   const UIViewState& shown = view_->presentation();
   if (shadow_ == nullptr) {
     shadow_ = new ShadowItem(this);
-    shadow_->setZ(-1);  // below the view's own ground
+    shadow_->setZ(kShadowZ);
   }
   shadow_->setPosition({shown.shadowOffset.width, shown.shadowOffset.height});
   shadow_->setSize(size());
@@ -90,26 +220,20 @@ void CodeViewItem::drawPicture(const UIImageView& picture) {
   }
 }
 
-QSGNode* CodeViewItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
-  const UIColor& ground = view_->presentation().backgroundColor;
-  // A picture draws its own ground.
-  if (ground.alpha == 0 || picture_ != nullptr) {
-    delete old;
-    return nullptr;
+bool CodeViewItem::handsInputOn() const {
+  for (auto up = view_->superview(); up; up = up->superview()) {
+    if (up->tapGestureRecognizer()) return true;
+    if (dynamic_cast<const UIScrollView*>(up.get()) != nullptr) return true;
   }
-  auto* node = static_cast<QSGRectangleNode*>(old);
-  if (node == nullptr) node = window()->createRectangleNode();
-  node->setRect(boundingRect());
-  node->setColor(toQColor(ground));
-  return node;
+  return false;
 }
 
-void CodeViewItem::mousePressEvent(QMouseEvent* event) { event->accept(); }
+void CodeViewItem::mousePressEvent(QMouseEvent* event) { event->setAccepted(!handsInputOn()); }
 // Wheels, unlike presses, come whether they are asked for or not.
 void CodeViewItem::wheelEvent(QWheelEvent* event) {
-  event->setAccepted(view_->isUserInteractionEnabled());
+  event->setAccepted(view_->isUserInteractionEnabled() && !handsInputOn());
 }
-void CodeViewItem::touchEvent(QTouchEvent* event) { event->accept(); }
+void CodeViewItem::touchEvent(QTouchEvent* event) { event->setAccepted(!handsInputOn()); }
 
 void drawSubviews(const UIView& view, QQuickItem& parent,
                   std::vector<std::unique_ptr<CodeViewItem>>& drawn) {
@@ -121,6 +245,8 @@ void drawSubviews(const UIView& view, QQuickItem& parent,
     next.push_back(known != drawn.end() ? std::move(*known)
                                         : std::make_unique<CodeViewItem>(subview, &parent));
     next.back()->setZ(static_cast<double>(next.size()));
+    // The keyboard goes from one to the next in the same order.
+    if (next.size() > 1) next.back()->stackAfter(next[next.size() - 2].get());
   }
   drawn = std::move(next);
 }

@@ -3,10 +3,11 @@
 #include "platform/qt/quick/RecordItem.h"
 
 #include "platform/qt/quick/CodeViewItem.h"
+#include "platform/qt/quick/QtViewServices.h"
 
 namespace kindora {
 
-RecordItem::RecordItem(QQuickItem* parent) : QQuickItem(parent) {}
+RecordItem::RecordItem(QQuickItem* parent) : QQuickItem(parent) { ensureViewServices(); }
 
 RecordItem::~RecordItem() { leave(); }
 

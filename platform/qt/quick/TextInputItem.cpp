@@ -7,6 +7,7 @@
 #include <QScopedValueRollback>
 #include <algorithm>
 
+#include "platform/qt/quick/Appearance.h"
 #include "platform/view/UITextField.h"
 #include "platform/view/UITextView.h"
 
@@ -53,16 +54,39 @@ int TextInputItem::selectionEnd() const {
   return input() != nullptr ? static_cast<int>(input()->selectedRange().end()) : 0;
 }
 
+const UITextField* TextInputItem::field() const {
+  return dynamic_cast<const UITextField*>(view().get());
+}
+
 Qt::InputMethodHints TextInputItem::hints() const {
-  const bool dials = input() != nullptr && input()->keyboardType() == UIKeyboardType::phonePad;
-  return dials ? Qt::ImhDialableCharactersOnly | Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText
-               : Qt::ImhNone;
+  Qt::InputMethodHints hints = Qt::ImhNone;
+  if (input() != nullptr && input()->keyboardType() == UIKeyboardType::phonePad) {
+    hints |= Qt::ImhDialableCharactersOnly | Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText;
+  }
+  if (field() != nullptr && field()->autocorrectionType() == UITextAutocorrectionType::no) {
+    hints |= Qt::ImhNoPredictiveText;
+  }
+  if (isSecure()) {
+    hints |=
+        Qt::ImhHiddenText | Qt::ImhSensitiveData | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase;
+  }
+  return hints;
+}
+
+bool TextInputItem::isSecure() const { return field() != nullptr && field()->isSecureTextEntry(); }
+
+QFont TextInputItem::fieldFont() const {
+  const bool own = field() != nullptr && (field()->font() || record().view);
+  return own ? resolvedFont(field()->shownFont()) : Appearance::font(17);
+}
+
+UIEdgeInsets TextInputItem::textInsets() const {
+  return field() != nullptr ? field()->textInsets() : UIEdgeInsets{};
 }
 
 Qt::EnterKeyType TextInputItem::enterKey() const {
-  const auto* field = dynamic_cast<const UITextField*>(view().get());
-  if (field == nullptr) return Qt::EnterKeyDefault;
-  switch (field->returnKeyType()) {
+  if (field() == nullptr) return Qt::EnterKeyDefault;
+  switch (field()->returnKeyType()) {
     case UIReturnKeyType::standard:
       break;
     case UIReturnKeyType::next:

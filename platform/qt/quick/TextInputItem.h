@@ -9,6 +9,8 @@
 
 namespace kindora {
 
+class UITextField;
+
 /// Draws a text field or text view with an input item inside it, to which the user types. What the
 /// user does there is told to the view; what the view makes of it comes back as inputReset.
 class TextInputItem : public kindora::ViewItem {
@@ -20,6 +22,12 @@ class TextInputItem : public kindora::ViewItem {
   Q_PROPERTY(int selectionEnd READ selectionEnd NOTIFY viewChanged)
   Q_PROPERTY(Qt::InputMethodHints hints READ hints NOTIFY viewChanged)
   Q_PROPERTY(Qt::EnterKeyType enterKey READ enterKey NOTIFY viewChanged)
+  Q_PROPERTY(bool secure READ isSecure NOTIFY viewChanged)
+  Q_PROPERTY(QFont fieldFont READ fieldFont NOTIFY viewChanged)
+  Q_PROPERTY(double leftInset READ leftInset NOTIFY viewChanged)
+  Q_PROPERTY(double rightInset READ rightInset NOTIFY viewChanged)
+  Q_PROPERTY(double topInset READ topInset NOTIFY viewChanged)
+  Q_PROPERTY(double bottomInset READ bottomInset NOTIFY viewChanged)
   Q_PROPERTY(double contentInset READ contentInset NOTIFY viewChanged)
 
  public:
@@ -32,6 +40,14 @@ class TextInputItem : public kindora::ViewItem {
   [[nodiscard]] int selectionEnd() const;
   [[nodiscard]] Qt::InputMethodHints hints() const;
   [[nodiscard]] Qt::EnterKeyType enterKey() const;
+  /// Dots are shown in place of what is typed.
+  [[nodiscard]] bool isSecure() const;
+  /// A field's font; in a storyboard the app's at 17 points unless the field has one of its own.
+  [[nodiscard]] QFont fieldFont() const;
+  [[nodiscard]] double leftInset() const { return textInsets().left; }
+  [[nodiscard]] double rightInset() const { return textInsets().right; }
+  [[nodiscard]] double topInset() const { return textInsets().top; }
+  [[nodiscard]] double bottomInset() const { return textInsets().bottom; }
   [[nodiscard]] double contentInset() const;
 
   /// The input item holds that text now, with undecided text of an input method at the caret.
@@ -55,6 +71,8 @@ class TextInputItem : public kindora::ViewItem {
 
  private:
   [[nodiscard]] UITextInput* input() const;
+  [[nodiscard]] const UITextField* field() const;
+  [[nodiscard]] UIEdgeInsets textInsets() const;
   void resetUnlessShown();
 
   QString shownText_;  // what the input item holds, without undecided text

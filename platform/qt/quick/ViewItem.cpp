@@ -46,6 +46,13 @@ void ViewItem::setOutlet(const QString& outlet) {
   if (isComponentComplete()) connectView();
 }
 
+void ViewItem::setRecord(const ViewHandle& record) {
+  if (record_ == record.view) return;
+  record_ = record.view;
+  emit recordChanged();
+  if (isComponentComplete()) connectView();
+}
+
 void ViewItem::componentComplete() {
   QQuickItem::componentComplete();
   connectView();
@@ -53,8 +60,10 @@ void ViewItem::componentComplete() {
 
 void ViewItem::connectView() {
   subscription_ = {};
-  view_.reset();
-  if (auto* owner = dynamic_cast<OutletOwner*>(owner_)) {
+  view_ = record_;
+  if (record_) {
+    subscription_ = view_->observe([this] { viewDidChange(); });
+  } else if (auto* owner = dynamic_cast<OutletOwner*>(owner_)) {
     view_ = owner->outlet(outlet_.toStdString());
     if (!view_) fatalError("no outlet \"" + outlet_.toStdString() + "\"");
     subscription_ = view_->observe([this] { viewDidChange(); });
@@ -69,6 +78,10 @@ void ViewItem::connectView() {
 }
 
 void ViewItem::viewDidChange() {
+  if (record_) {
+    emit viewChanged();
+    return;
+  }
   if (view_) {
     setOpacity(view_->presentation().alpha);
     setScale(view_->presentation().scaling);
@@ -82,7 +95,7 @@ void ViewItem::viewDidChange() {
 
 void ViewItem::geometryChange(const QRectF& now, const QRectF& before) {
   QQuickItem::geometryChange(now, before);
-  if (!view_) return;
+  if (!view_ || record_) return;
   view_->reportFrame({{now.x(), now.y()}, {now.width(), now.height()}});
   keyframeTransform_.set(view_->keyframeValues().transform, *this);  // about the new centre
 }
@@ -155,6 +168,18 @@ QPointF ViewItem::translation() const {
 }
 
 double ViewItem::cornerRadius() const { return view_ ? view_->presentation().cornerRadius : 0; }
+
+QString ViewItem::spoken() const {
+  return view_ ? QString::fromStdString(view_->accessibilityLabel().value_or("")) : QString();
+}
+
+bool ViewItem::isHeading() const {
+  return view_ && view_->accessibilityRole() == UIAccessibilityRole::header;
+}
+
+bool ViewItem::isAnnounced() const {
+  return view_ && view_->accessibilityRole() == UIAccessibilityRole::alert;
+}
 
 double ViewItem::layoutProgress() const { return view_ ? view_->presentation().layout : 0; }
 

@@ -10,6 +10,7 @@
 
 #include "platform/qt/quick/ImageHandle.h"
 #include "platform/qt/quick/KeyframeTransform.h"
+#include "platform/qt/toolkit/ViewHandle.h"
 #include "platform/view/UIView.h"
 
 namespace kindora {
@@ -22,11 +23,15 @@ class UIImageView;
 /// Draws the view that an outlet names: takes alpha, scale, input and presence from it, offers the
 /// rest as properties, and reports to it the place that the storyboard gives to the item. Stops
 /// when the owner has no such outlet.
+///
+/// In place of an outlet it may be given a view itself. Then it only shows what the view contains:
+/// place, alpha and presence are left to the item in which it lies.
 class ViewItem : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QObject* owner READ owner WRITE setOwner NOTIFY ownerChanged REQUIRED)
   Q_PROPERTY(QString outlet READ outlet WRITE setOutlet NOTIFY outletChanged REQUIRED)
+  Q_PROPERTY(kindora::ViewHandle record READ record WRITE setRecord NOTIFY recordChanged)
   Q_PROPERTY(QString text READ text NOTIFY viewChanged)
   Q_PROPERTY(QColor textColor READ textColor NOTIFY viewChanged)
   Q_PROPERTY(QFont textFont READ textFont NOTIFY viewChanged)
@@ -39,6 +44,9 @@ class ViewItem : public QQuickItem {
   Q_PROPERTY(QPointF shadowOffset READ shadowOffset NOTIFY viewChanged)
   Q_PROPERTY(QPointF translation READ translation NOTIFY viewChanged)
   Q_PROPERTY(double cornerRadius READ cornerRadius NOTIFY viewChanged)
+  Q_PROPERTY(QString spoken READ spoken NOTIFY viewChanged)
+  Q_PROPERTY(bool heading READ isHeading NOTIFY viewChanged)
+  Q_PROPERTY(bool announced READ isAnnounced NOTIFY viewChanged)
   Q_PROPERTY(double layoutProgress READ layoutProgress NOTIFY viewChanged)
 
  public:
@@ -48,6 +56,11 @@ class ViewItem : public QQuickItem {
   void setOwner(QObject* owner);
   [[nodiscard]] const QString& outlet() const { return outlet_; }
   void setOutlet(const QString& outlet);
+
+  [[nodiscard]] ViewHandle record() const { return {record_}; }
+  void setRecord(const ViewHandle& record);
+  /// Looks at the view anew, as after a change.
+  void refresh() { viewDidChange(); }
 
   [[nodiscard]] QString text() const;
   [[nodiscard]] QColor textColor() const;  ///< invalid when the storyboard is to choose
@@ -65,12 +78,18 @@ class ViewItem : public QQuickItem {
   [[nodiscard]] QPointF shadowOffset() const;
   [[nodiscard]] QPointF translation() const;
   [[nodiscard]] double cornerRadius() const;
+  /// What is read aloud for the view; empty when it does not say.
+  [[nodiscard]] QString spoken() const;
+  [[nodiscard]] bool isHeading() const;
+  /// Read aloud as soon as it shows.
+  [[nodiscard]] bool isAnnounced() const;
   /// How many of its changes of layout the view has gone through, with fractions on the way.
   [[nodiscard]] double layoutProgress() const;
 
  signals:
   void ownerChanged();
   void outletChanged();
+  void recordChanged();
   void viewChanged();
 
  protected:
@@ -87,6 +106,7 @@ class ViewItem : public QQuickItem {
 
   QObject* owner_ = nullptr;
   QString outlet_;
+  std::shared_ptr<UIView> record_;
   std::shared_ptr<UIView> view_;
   UIView::Subscription subscription_;
   KeyframeTransform keyframeTransform_;

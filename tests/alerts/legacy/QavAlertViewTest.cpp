@@ -366,7 +366,7 @@ TEST_F(QavAlertViewTest, LookReachesLabelsFieldsAndButtons) {
   a->setTextFieldTextColor(red);
   a->setSuggestedButtonFont(UIFont::systemFontOfSize(3));
   a->setNormalButtonFont(UIFont::systemFontOfSize(4));
-  EXPECT_EQ(suggestedRow(a)->textLabel()->textColor(), UIColor::defaultTintColor());
+  EXPECT_EQ(suggestedRow(a)->textLabel()->textColor(), kDefaultTintColor);
   a->setButtonTextColor(red);
   const auto& content = a->alertContentView();
   EXPECT_EQ(content->messageLabel()->font(), UIFont::systemFontOfSize(1));
