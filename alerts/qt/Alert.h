@@ -24,7 +24,8 @@ class QavAlertController;
 ///         id: question
 ///         title: "Delete?"
 ///         AlertAction { text: "Keep"; style: AlertAction.Cancel }
-///         AlertAction { text: "Delete"; style: AlertAction.Destructive; onTriggered: list.clear() }
+///         AlertAction { text: "Delete"; style: AlertAction.Destructive; onTriggered: list.clear()
+///         }
 ///     }
 ///     Button { onClicked: question.open() }
 ///

@@ -53,12 +53,12 @@ class AlertWindow final : public QavAlertWindow {
 
 void installAlertWindows() {
   static const bool once = [] {
-    installAlertEnvironment(
-        {.keyWindow = []() -> std::shared_ptr<QavAlertUserWindow> {
-           UIWindow* window = UIApplication::sharedApplication()->keyWindow();
-           return window != nullptr ? std::make_shared<UserWindow>(window) : nullptr;
-         },
-         .makeAlertWindow = [] { return std::make_shared<AlertWindow>(); }});
+    installAlertEnvironment({.keyWindow = []() -> std::shared_ptr<QavAlertUserWindow> {
+                               UIWindow* window = UIApplication::sharedApplication()->keyWindow();
+                               return window != nullptr ? std::make_shared<UserWindow>(window)
+                                                        : nullptr;
+                             },
+                             .makeAlertWindow = [] { return std::make_shared<AlertWindow>(); }});
     return true;
   }();
   static_cast<void>(once);

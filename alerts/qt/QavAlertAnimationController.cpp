@@ -23,8 +23,7 @@ double QavAlertAnimationController::transitionDuration(const UITransitionContext
 
 void QavAlertAnimationController::animateTransition(const UITransitionContextRef& context) {
   using Key = UITransitionContextViewControllerKey;
-  UIViewController* controller =
-      context->viewControllerForKey(presentation_ ? Key::to : Key::from);
+  UIViewController* controller = context->viewControllerForKey(presentation_ ? Key::to : Key::from);
   const std::shared_ptr<UIView> view = controller->view();
   if (presentation_) {
     context->containerView()->addSubview(view);
@@ -38,10 +37,11 @@ void QavAlertAnimationController::animateTransition(const UITransitionContextRef
         },
         context, [context](bool finished) { context->completeTransition(finished); });
   } else {
-    animate([view] { view->setAlpha(0); }, context, [context, view](bool finished) {
-      view->removeFromSuperview();
-      context->completeTransition(finished);
-    });
+    animate([view] { view->setAlpha(0); }, context,
+            [context, view](bool finished) {
+              view->removeFromSuperview();
+              context->completeTransition(finished);
+            });
   }
 }
 

@@ -6,7 +6,9 @@
 #include <any>
 #include <utility>
 
+#include "alerts/card/QavAlertControllerDefaultVisualStyle.h"
 #include "alerts/legacy/QavAlertView.h"
+#include "alerts/qt/AlertWindows.h"
 #include "alerts/qt/CurrentViewController.h"
 #include "alerts/qt/LegacyBridge.h"
 #include "alerts/qt/ProcessInfo.h"
@@ -31,6 +33,7 @@ QavAlertController::QavAlertController(QavAlertControllerStyle style)
     : preferredStyle_(style),
       visualStyle_(std::make_shared<QavAlertControllerDefaultVisualStyle>()),
       transitioningDelegate_(std::make_shared<QavAlertControllerTransitioningDelegate>()) {
+  installAlertWindows();
   setModalPresentationStyle(UIModalPresentationStyle::custom);
   setTransitioningDelegate(transitioningDelegate_);
 }
@@ -61,9 +64,8 @@ void QavAlertController::initWithTitle(const std::optional<std::string>& title,
   createAlert();
 }
 
-void QavAlertController::initWithAttributedTitle(
-    const std::optional<NSAttributedString>& title,
-    const std::optional<NSAttributedString>& message) {
+void QavAlertController::initWithAttributedTitle(const std::optional<NSAttributedString>& title,
+                                                 const std::optional<NSAttributedString>& message) {
   attributedTitle_ = title;
   attributedMessage_ = message;
   createAlert();
@@ -135,7 +137,8 @@ bool QavAlertController::usesLegacyAlert() const {
 }
 
 const std::shared_ptr<QavAlertView>& QavAlertController::legacyAlertView() {
-  if (!legacyAlertView_ && usesLegacyAlert()) legacyAlertView_ = alertViewWithAlertController(*this);
+  if (!legacyAlertView_ && usesLegacyAlert())
+    legacyAlertView_ = alertViewWithAlertController(*this);
   return legacyAlertView_;
 }
 

@@ -20,9 +20,10 @@
 
 #include "alerts/card/QavAlertAction.h"
 #include "alerts/card/QavAlertControllerView.h"
+#include "alerts/card/QavAlertControllerViewDelegate.h"
 #include "alerts/card/QavAlertControllerVisualStyle.h"
-#include "alerts/legacy/QavAlertViewDelegate.h"
 #include "alerts/helpers/QavIntrinsicallySizedView.h"
+#include "alerts/legacy/QavAlertViewDelegate.h"
 #include "platform/NSAttributedString.h"
 #include "platform/NotificationCenter.h"
 #include "platform/qt/toolkit/UIViewController.h"
@@ -85,8 +86,8 @@ class QavAlertController final : public kindora::UIViewController,
   [[nodiscard]] std::vector<std::shared_ptr<UITextField>> textFields() const {
     return mutableTextFields_;
   }
-  /// Adds a field without autocorrection, in the visual style's font of that moment, and then has it
-  /// configured.
+  /// Adds a field without autocorrection, in the visual style's font of that moment, and then has
+  /// it configured.
   void addTextFieldWithConfigurationHandler(const TextFieldConfiguration& configurationHandler);
   /// Where callers put views of their own, between the texts and the buttons.
   [[nodiscard]] const std::shared_ptr<QavIntrinsicallySizedView>& contentView() const {

@@ -70,8 +70,7 @@ TEST_F(LegacyBridgeTest, AFirstActionWithoutAPlainTitleIsAButtonAllTheSame) {
   EXPECT_EQ(attributed->legacyAlertView()->buttonTitleAtIndex(0), "Rich");
   EXPECT_EQ(attributed->legacyAlertView()->buttonTitleAtIndex(1), "B");
   const auto untitled = legacy();
-  untitled->addAction(
-      QavAlertAction::actionWithTitle(std::nullopt, QavAlertActionStyle::standard));
+  untitled->addAction(QavAlertAction::actionWithTitle(std::nullopt, QavAlertActionStyle::standard));
   EXPECT_EQ(untitled->legacyAlertView()->numberOfButtons(), 1);
   EXPECT_EQ(legacy()->legacyAlertView()->numberOfButtons(), 0);
 }

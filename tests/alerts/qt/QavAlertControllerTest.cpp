@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include "alerts/card/QavAlertControllerDefaultVisualStyle.h"
 #include "platform/KeyboardNotification.h"
 #include "tests/alerts/qt/AlertFixture.h"
 
@@ -25,9 +26,9 @@ TEST_F(QavAlertControllerTest, BeginsWithNothingAndItsDefaults) {
   EXPECT_EQ(controller->modalPresentationStyle(), UIModalPresentationStyle::custom);
   EXPECT_EQ(static_cast<int>(controller->modalPresentationStyle()), 4);
   EXPECT_NE(controller->transitioningDelegate(), nullptr);
-  EXPECT_NE(std::dynamic_pointer_cast<QavAlertControllerDefaultVisualStyle>(
-                controller->visualStyle()),
-            nullptr);
+  EXPECT_NE(
+      std::dynamic_pointer_cast<QavAlertControllerDefaultVisualStyle>(controller->visualStyle()),
+      nullptr);
   EXPECT_NE(controller->visualStyle(), alert()->visualStyle());
   EXPECT_FALSE(controller->presentingAlert());
 }
@@ -282,9 +283,8 @@ TEST_F(QavAlertControllerTest, AVetoKeepsTheAlertAndTheHandlerStill) {
 TEST_F(QavAlertControllerTest, LivesUntilTheHandlerHasRun) {
   auto controller = alert();
   const std::weak_ptr<QavAlertController> gone = controller;
-  const auto chosen =
-      QavAlertAction::actionWithTitle("Yes", QavAlertActionStyle::standard,
-                                      [&](QavAlertAction&) { EXPECT_FALSE(gone.expired()); });
+  const auto chosen = QavAlertAction::actionWithTitle(
+      "Yes", QavAlertActionStyle::standard, [&](QavAlertAction&) { EXPECT_FALSE(gone.expired()); });
   controller->addAction(chosen);
   controller->presentWithCompletion();
   pass();
