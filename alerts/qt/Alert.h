@@ -31,7 +31,7 @@ class QavAlertController;
 ///
 /// What it says is taken over when it opens; only the enabled state of its actions and the text of
 /// its fields are followed while it is open.
-class Alert final : public QObject {
+class Alert : public QObject {
   Q_OBJECT
   QML_ELEMENT
   Q_CLASSINFO("DefaultProperty", "actions")

@@ -9,7 +9,7 @@
 namespace kindora {
 
 /// A button of an Alert.
-class AlertAction final : public QObject {
+class AlertAction : public QObject {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QString text READ text WRITE setText NOTIFY changed)

@@ -13,7 +13,7 @@ namespace kindora {
 
 /// The window of the toolkit in which the alerts of a Qt Quick window are shown. It is the key
 /// window for as long as it lives, and becomes it at once.
-class AlertLayerWindow final : public QObject {
+class AlertLayerWindow : public QObject {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(kindora::UIWindow* window READ window CONSTANT)

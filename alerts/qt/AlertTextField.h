@@ -12,7 +12,7 @@
 namespace kindora {
 
 /// A line of text that an Alert asks for. The text is kept from one opening to the next.
-class AlertTextField final : public QObject {
+class AlertTextField : public QObject {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)

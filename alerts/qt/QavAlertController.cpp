@@ -147,7 +147,7 @@ void QavAlertController::presentWithCompletion(Completion completion) {
     const std::shared_ptr<QavAlertView> alertView = legacyAlertView();
     alertView->didPresentHandler = std::move(completion);
     alertView->show();
-  } else if (UIViewController* top = qav_currentViewController()) {
+  } else if (const UIViewControllerRef top = qav_currentViewController()) {
     presentFromViewController(*top, std::move(completion));
   }
 }
