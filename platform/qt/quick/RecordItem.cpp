@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "platform/qt/quick/RecordItem.h"
 
-#include <QPointer>
+#include <utility>
 
 #include "platform/qt/quick/CodeViewItem.h"
 #include "platform/qt/quick/QtViewServices.h"
@@ -11,18 +11,25 @@ namespace kindora {
 
 RecordItem::RecordItem(QQuickItem* parent) : QQuickItem(parent) { ensureViewServices(); }
 
-RecordItem::~RecordItem() = default;
+RecordItem::~RecordItem() { leave(); }
+
+void RecordItem::leave() {
+  if (drawn_) retire(std::move(drawn_));
+  if (!view_) return;
+  view_->locateInWindow = {};
+  view_->layoutScheduled = {};
+}
 
 void RecordItem::setRecord(const ViewHandle& record) {
   if (view_ == record.view) return;
-  drawn_.reset();
+  leave();
   view_ = record.view;
   if (view_) {
-    view_->locateInWindow = [item = QPointer<RecordItem>(this)]() -> std::optional<CGPoint> {
-      if (!item) return std::nullopt;
-      const QPointF origin = item->mapToScene({0, 0});
+    view_->locateInWindow = [this]() -> std::optional<CGPoint> {
+      const QPointF origin = mapToScene({0, 0});
       return CGPoint{origin.x(), origin.y()};
     };
+    view_->layoutScheduled = [this] { polish(); };
     place();
     drawn_ = std::make_unique<CodeViewItem>(view_, this);
   }

@@ -14,7 +14,7 @@ namespace kindora {
 class CodeViewItem;
 
 /// Draws a tree of views made in code. Its root is as large as the item, and what needs layout is
-/// laid out before the next frame.
+/// laid out before the next frame. At most one item draws a tree.
 class RecordItem : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
@@ -35,6 +35,7 @@ class RecordItem : public QQuickItem {
   void updatePolish() override;
 
  private:
+  void leave();
   void place();
 
   std::shared_ptr<UIView> view_;
