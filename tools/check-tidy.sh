@@ -24,7 +24,7 @@ files=("$@")
 if [[ ${#files[@]} -eq 0 ]]; then
   mapfile -t files < <(
     comm -12 \
-      <(git ls-files -- 'app/*.cpp' 'effects/*.cpp' 'model/*.cpp' 'phoneformat/*.cpp' 'platform/*.cpp' \
+      <(git ls-files -- 'alerts/*.cpp' 'app/*.cpp' 'effects/*.cpp' 'model/*.cpp' 'phoneformat/*.cpp' 'platform/*.cpp' \
         'screens/*.cpp' |
         sort) \
       <(sed -n "s|^ *\"file\": \"$PWD/\(.*\)\",\{0,1\}\$|\1|p" "$build/compile_commands.json" | sort -u)

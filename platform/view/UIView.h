@@ -20,9 +20,9 @@
 #include "platform/Geometry.h"
 #include "platform/UIColor.h"
 #include "platform/view/NSLayoutConstraint.h"
-#include "platform/view/UIViewTint.h"
 #include "platform/view/UIMotionEffect.h"
 #include "platform/view/UITapGestureRecognizer.h"
+#include "platform/view/UIViewTint.h"
 
 namespace kindora {
 
@@ -68,6 +68,13 @@ struct UIViewKeyframeValues {
 /// The state between two states, at fraction 0 the first and at 1 the second, not clamped.
 [[nodiscard]] UIViewState interpolated(const UIViewState& from, const UIViewState& to,
                                        double fraction);
+
+/// A line along the inside of a view's bounds.
+struct UIViewBorder {
+  UIColor color = UIColor::blackColor();
+  double width = 0;  ///< points
+  friend constexpr bool operator==(const UIViewBorder&, const UIViewBorder&) = default;
+};
 
 /// An animation that plays on a view for as long as the view keeps it.
 class UIViewLayerAnimation {
@@ -170,6 +177,9 @@ class UIView : public std::enable_shared_from_this<UIView> {
   /// Subviews are cut off at the bounds, with the corner radius.
   [[nodiscard]] bool clipsToBounds() const { return clipsToBounds_; }
   void setClipsToBounds(bool clips);
+
+  [[nodiscard]] const UIViewBorder& border() const { return border_; }
+  void setBorder(const UIViewBorder& border);
 
   /// In the superview's space, before the transform.
   [[nodiscard]] CGRect frame() const { return state_.frame; }
@@ -301,6 +311,7 @@ class UIView : public std::enable_shared_from_this<UIView> {
   bool hidden_ = false;
   UIViewBorder border_;
   bool clipsToBounds_ = false;
+  UIViewBorder border_;
   bool fillsSuperview_ = false;
   UIViewTintAdjustmentMode tintAdjustmentMode_ = UIViewTintAdjustmentMode::automatic;
   std::optional<UIColor> ownTintColor_;

@@ -4,30 +4,17 @@
 
 #include <string_view>
 
-#include "app/shell/AppPhoneFormatEnvironment.h"
 #include "model/Friends.h"
 #include "platform/Services.h"
 #include "screens/badges/BadgesViewController.h"
 #include "screens/picker/KindoraTableViewController.h"
 #include "tests/support/AppFixture.h"
+#include "tests/support/PhoneFormatsOf.h"
 
 namespace kindora {
 namespace {
 
 constexpr UIColor kRed{0.82, 0.01, 0.11, 1};
-
-// The app's formats, in a country of the test's own.
-class PhoneFormatsOf final : public PhoneFormatEnvironment {
- public:
-  explicit PhoneFormatsOf(std::string country) : country_(std::move(country)) {}
-  PhoneFormatData data(std::string_view name, std::string_view type) override {
-    return AppPhoneFormatEnvironment().data(name, type);
-  }
-  std::string countryCode() override { return country_; }
-
- private:
-  std::string country_;
-};
 
 class InviteFriendTableViewControllerTest : public AppFixture {
  protected:

@@ -49,20 +49,4 @@ FocusScope {
             enabled: presented.onTop
         }
     }
-
-    Shortcut {
-        sequences: ["Esc", "Back", "Alt+Left"]
-        onActivated: root.host.goBack()
-    }
-
-    ShakeSource {
-        id: shakes
-        window: root.Window.window
-    }
-
-    // For those who cannot shake.
-    Shortcut {
-        sequence: "Ctrl+Shift+K"
-        onActivated: shakes.shake()
-    }
 }

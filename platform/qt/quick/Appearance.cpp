@@ -21,6 +21,11 @@ QFont resolvedFont(const UIFont& font) {
   return result;
 }
 
+Appearance::Appearance() {
+  connect(UIApplication::sharedApplication(), &UIApplication::tintColorChanged, this,
+          &Appearance::tintChanged);
+}
+
 QColor Appearance::tint() { return toQColor(tintColor()); }
 
 UIColor Appearance::tintColor() {

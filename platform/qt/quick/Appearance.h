@@ -17,8 +17,8 @@ class Appearance : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_SINGLETON
-  Q_PROPERTY(QColor tint READ tint CONSTANT)
-  Q_PROPERTY(QColor tintedText READ tintedText CONSTANT)
+  Q_PROPERTY(QColor tint READ tint NOTIFY tintChanged)
+  Q_PROPERTY(QColor tintedText READ tintedText NOTIFY tintChanged)
   Q_PROPERTY(QColor barTint READ barTint CONSTANT)
   Q_PROPERTY(QColor barForeground READ barForeground CONSTANT)
   Q_PROPERTY(QColor barTitle READ barTitle CONSTANT)
@@ -26,6 +26,9 @@ class Appearance : public QObject {
   Q_PROPERTY(QFont tabFont READ tabFont CONSTANT)
 
  public:
+  Appearance();
+
+  /// Of the lowest window, which is the app's own; grey while that window is dimmed.
   [[nodiscard]] static QColor tint();
   /// The tint, and the toolkit's own before there is a window.
   [[nodiscard]] static UIColor tintColor();
@@ -39,6 +42,9 @@ class Appearance : public QObject {
   /// The app's font at that many points of the view.
   Q_INVOKABLE static QFont font(double points);
   Q_INVOKABLE static QFont boldFont(double points);
+
+ signals:
+  void tintChanged();
 };
 
 /// The font asked for where the device has it; else Lato, in the weight that the name ends in.

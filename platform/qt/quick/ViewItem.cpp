@@ -8,6 +8,7 @@
 #include "platform/qt/quick/Appearance.h"
 #include "platform/qt/quick/Colors.h"
 #include "platform/qt/toolkit/OutletOwner.h"
+#include "platform/qt/toolkit/UIApplication.h"
 #include "platform/view/UIButton.h"
 #include "platform/view/UIImageView.h"
 #include "platform/view/UILabel.h"
@@ -22,7 +23,14 @@ QColor templateTint(const UIImageView& view) {
   return toQColor(view.tintColor(Appearance::tintColor()));
 }
 
-ViewItem::ViewItem(QQuickItem* parent) : QQuickItem(parent) {}
+ViewItem::ViewItem(QQuickItem* parent) : QQuickItem(parent) {
+  connect(UIApplication::sharedApplication(), &UIApplication::tintColorChanged, this,
+          &ViewItem::windowTintDidChange);
+}
+
+void ViewItem::windowTintDidChange() {
+  if (imageView() != nullptr && templateTint(*imageView()).isValid()) emit viewChanged();
+}
 
 void ViewItem::setOwner(QObject* owner) {
   if (owner_ == owner) return;

@@ -102,6 +102,7 @@ class ViewItem : public QQuickItem {
 
  private:
   void connectView();
+  void windowTintDidChange();
 
   QObject* owner_ = nullptr;
   QString outlet_;

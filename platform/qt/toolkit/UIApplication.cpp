@@ -31,11 +31,24 @@ void UIApplication::setKeyWindow(UIWindow* window) {
   emit keyWindowChanged();
 }
 
-void UIApplication::orderWindow(UIWindow& window) { windowList_.raise(window); }
+bool UIApplication::goBack() { return keyWindow_ && keyWindow_->goBack(); }
+
+void UIApplication::orderWindow(UIWindow& window) {
+  windowList_.raise(window);
+  tellOrder();
+}
+
+// Whatever lay below the window, or above it, may be covered or free now.
+void UIApplication::tellOrder() {
+  const std::vector<UIWindow*> windows = windowList_.items();
+  for (UIWindow* other : windows) emit other->coveredChanged();
+  emit tintColorChanged();
+}
 
 void UIApplication::removeWindow(UIWindow& window) {
   if (keyWindow_ == &window) setKeyWindow(nullptr);
   windowList_.remove(window);
+  tellOrder();
 }
 
 bool UIApplication::listensForMotion() const {

@@ -39,6 +39,8 @@ class UIApplication final : public QObject {
   /// visible.
   [[nodiscard]] const std::vector<UIWindow*>& windows() const { return windowList_.items(); }
   [[nodiscard]] WindowList* windowList() { return &windowList_; }
+  /// Goes back in the key window.
+  Q_INVOKABLE bool goBack();
   /// For windows, when they become visible or change their level.
   void orderWindow(UIWindow& window);
   /// For windows, when they are hidden or gone.
@@ -52,8 +54,12 @@ class UIApplication final : public QObject {
  signals:
   void listensForMotionChanged();
   void keyWindowChanged();
+  /// The lowest window's tint, or how it is drawn.
+  void tintColorChanged();
 
  private:
+  void tellOrder();
+
   UIApplication() = default;
   bool supportsShakeToEdit_ = false;
   QPointer<UIWindow> keyWindow_;

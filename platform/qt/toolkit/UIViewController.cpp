@@ -112,9 +112,9 @@ void UIViewController::addChildViewController(const UIViewControllerRef& child) 
 }
 
 void UIViewController::removeFromParentViewController() {
-  if (parent_ == nullptr) return;
   const UIViewControllerRef self = shared_from_this();
-  std::erase(parent_->children_, self);
+  // Stacks and tabs keep their own.
+  if (parent_ == nullptr || std::erase(parent_->children_, self) == 0) return;
   parent_ = nullptr;
   beginAppearanceTransition(false, false);
   endAppearanceTransition();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "platform/qt/toolkit/UIWindow.h"
 
+#include <algorithm>
+
 #include "platform/qt/toolkit/UIApplication.h"
 #include "platform/qt/toolkit/UIViewController.h"
 
@@ -18,7 +20,7 @@ void showOrHide(UIViewController& controller, bool shows) {
 
 }  // namespace
 
-UIWindow::UIWindow() = default;
+UIWindow::UIWindow() : tintColor_(kDefaultTintColor) {}
 
 UIWindow::~UIWindow() { application().removeWindow(*this); }
 
@@ -26,12 +28,14 @@ void UIWindow::setTintColor(const UIColor& color) {
   if (tintColor_ == color) return;
   tintColor_ = color;
   emit tintColorChanged();
+  emit application().tintColorChanged();
 }
 
 void UIWindow::setTintAdjustmentMode(UIViewTintAdjustmentMode mode) {
   if (tintAdjustmentMode_ == mode) return;
   tintAdjustmentMode_ = mode;
   emit tintColorChanged();
+  emit application().tintColorChanged();
 }
 
 UIColor UIWindow::drawnTintColor() const {
@@ -43,6 +47,14 @@ void UIWindow::setWindowLevel(double level) {
   if (windowLevel_ == level) return;
   windowLevel_ = level;
   if (!hidden_) application().orderWindow(*this);
+}
+
+bool UIWindow::isCovered() const {
+  const std::vector<UIWindow*>& windows = application().windows();
+  const auto self = std::ranges::find(windows, this);
+  return self != windows.end() && std::any_of(self + 1, windows.end(), [](const UIWindow* above) {
+           return above->windowLevel_ >= UIWindowLevelAlert;
+         });
 }
 
 void UIWindow::reportSize(double width, double height) {

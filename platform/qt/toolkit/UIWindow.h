@@ -29,6 +29,7 @@ class UIWindow : public QObject {
       kindora::UIViewController* rootViewController READ root NOTIFY rootViewControllerChanged)
   Q_PROPERTY(kindora::ControllerList* presentations READ presentations CONSTANT)
   Q_PROPERTY(bool key READ isKeyWindow NOTIFY keyChanged)
+  Q_PROPERTY(bool covered READ isCovered NOTIFY coveredChanged)
 
  public:
   UIWindow();
@@ -45,6 +46,10 @@ class UIWindow : public QObject {
   /// Windows of a higher level lie above those of a lower one.
   [[nodiscard]] double windowLevel() const { return windowLevel_; }
   void setWindowLevel(double level);
+
+  /// True while a window of the alert level or above lies over this one: it stays in sight, but
+  /// nothing reaches it.
+  [[nodiscard]] bool isCovered() const;
 
   /// In points. A root view made in code is as large.
   [[nodiscard]] CGRect bounds() const { return {{0, 0}, size_}; }
@@ -74,6 +79,7 @@ class UIWindow : public QObject {
   void rootViewControllerChanged();
   void tintColorChanged();
   void keyChanged();
+  void coveredChanged();
   void sizeChanged();
 
  private:

@@ -360,6 +360,19 @@ TEST_F(ScratchImageViewItemScratchAwayTest, AskedAgainItGoesOnAsItWas) {
   EXPECT_TRUE(isErased(40, 78));
 }
 
+TEST_F(ScratchImageViewItemScratchAwayTest, StopsWhenItIsToldTo) {
+  item->scratchAway();
+  time.advance(0.9);
+  const std::size_t heard = ear->heard.size();
+  item->stopScratchingAway();
+  time.advance(1);
+  EXPECT_EQ(ear->heard.size(), heard);
+  EXPECT_FALSE(isErased(40, 78));
+  item->scratchAway();
+  time.advance(2);
+  EXPECT_TRUE(isErased(40, 78));
+}
+
 TEST_F(ScratchImageViewItemScratchAwayTest, WorksWithoutACover) {
   cover->setImage(nullptr, 8);
   item->scratchAway();

@@ -254,6 +254,13 @@ TEST_F(UIViewControllerTest, AChildThatIsRemovedHearsThatItHasNoParent) {
   EXPECT_EQ(child->parents, (std::vector<UIViewController*>{a.get(), nullptr}));
 }
 
+TEST_F(UIViewControllerTest, APageOfAStackIsNotRemovedAsAChild) {
+  const auto a = screen("a");
+  const auto stack = makeViewController<UINavigationController>(a);
+  a->removeFromParentViewController();
+  EXPECT_EQ(a->parentViewController(), stack.get());
+}
+
 TEST_F(UIViewControllerTest, AChildOutlivesItsParentAlone) {
   auto a = std::make_unique<CodeController>();
   const auto child = screen("b");

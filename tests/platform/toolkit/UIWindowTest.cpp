@@ -136,6 +136,10 @@ TEST_F(UIWindowTest, TellsANewSizeOnce) {
 
 // --- Tint ---
 
+TEST_F(UIWindowTest, HasTheToolkitsTintAtFirst) {
+  EXPECT_EQ(window.tintColor(), kDefaultTintColor);
+}
+
 TEST_F(UIWindowTest, DrawsItsTintInGreyWhileItIsDimmed) {
   int changes = 0;
   QObject::connect(&window, &UIWindow::tintColorChanged, [&changes] { ++changes; });

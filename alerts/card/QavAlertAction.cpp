@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "alerts/card/QavAlertAction.h"
+
+#include <utility>
+
+namespace kindora {
+
+QavAlertAction::QavAlertAction(QavAlertActionStyle style, Handler handler)
+    : style_(style), handler_(std::move(handler)) {}
+
+QavAlertActionRef QavAlertAction::actionWithTitle(const std::optional<std::string>& title,
+                                                  QavAlertActionStyle style, Handler handler) {
+  const QavAlertActionRef action(new QavAlertAction(style, std::move(handler)));
+  action->title_ = title;
+  return action;
+}
+
+QavAlertActionRef QavAlertAction::actionWithAttributedTitle(
+    const std::optional<NSAttributedString>& attributedTitle, QavAlertActionStyle style,
+    Handler handler) {
+  const QavAlertActionRef action(new QavAlertAction(style, std::move(handler)));
+  action->attributedTitle_ = attributedTitle;
+  return action;
+}
+
+QavAlertActionRef QavAlertAction::copy() const { return actionWithTitle(title_, style_, handler_); }
+
+void QavAlertAction::setEnabled(bool enabled) {
+  if (enabled_ == enabled) return;
+  enabled_ = enabled;
+  // An observer may end its own subscription or another's while it runs.
+  const auto observers = observers_;
+  for (const auto& observer : observers) {
+    if (const Subscription alive = observer.lock()) (*alive)(*this);
+  }
+}
+
+QavAlertAction::Subscription QavAlertAction::observeEnabled(EnabledObserver observer) {
+  std::erase_if(observers_, [](const auto& known) { return known.expired(); });
+  auto subscription = std::make_shared<const EnabledObserver>(std::move(observer));
+  observers_.push_back(subscription);
+  return subscription;
+}
+
+}  // namespace kindora
