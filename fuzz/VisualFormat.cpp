@@ -23,7 +23,7 @@ void check(std::string_view format, const kindora::VisualFormatConstraint& const
               (constraint.secondAttribute != kindora::NSLayoutAttribute::notAnAttribute),
           "a second item has an attribute and no item has none");
   require(std::isfinite(constraint.constant), "constants are finite");
-  require(constraint.priority >= 0 && constraint.priority <= kindora::kRequiredPriority,
+  require(constraint.priority >= 0 && constraint.priority <= kindora::kLayoutPriorityRequired,
           "priorities keep to their range");
 }
 

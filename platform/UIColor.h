@@ -20,6 +20,8 @@ struct UIColor {
   [[nodiscard]] static constexpr UIColor colorWithWhite(double white, double alpha) {
     return {white, white, white, alpha};
   }
+  /// Of what can be pressed, where nothing else is said.
+  [[nodiscard]] static constexpr UIColor defaultTintColor() { return {0, 0.478, 1, 1}; }
   [[nodiscard]] constexpr UIColor colorWithAlphaComponent(double value) const {
     return {red, green, blue, value};
   }

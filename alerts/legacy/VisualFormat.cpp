@@ -29,7 +29,7 @@ struct Predicate {
   NSLayoutRelation relation = NSLayoutRelation::equal;
   double value = 0;
   std::optional<std::string> view;  // in place of the value
-  double priority = kRequiredPriority;
+  double priority = kLayoutPriorityRequired;
 };
 
 // One edge from which, or to which, a gap is measured.
@@ -145,7 +145,7 @@ class Parser {
     const std::size_t start = position_;
     Predicate read;
     if (!readValue(read, false)) return false;
-    if (!(read.value >= 0 && read.value <= kRequiredPriority)) {
+    if (!(read.value >= 0 && read.value <= kLayoutPriorityRequired)) {
       return fail(start, "a priority from 0 to 1000");
     }
     predicate.priority = read.value;

@@ -26,7 +26,6 @@ namespace kindora {
 inline constexpr double kDefaultGap = 8;
 /// The name under which a description speaks of the superview; no view can bear it.
 inline constexpr std::string_view kSuperviewName = "|";
-inline constexpr double kRequiredPriority = 1000;
 
 /// firstItem.firstAttribute (relation) secondItem.secondAttribute + constant. Later views refer to
 /// earlier ones and the superview's far edge to the last, so that gaps count as positive constants.
@@ -36,8 +35,8 @@ struct VisualFormatConstraint {
   NSLayoutRelation relation = NSLayoutRelation::equal;
   std::optional<std::string> secondItem;  ///< none: the constant alone
   NSLayoutAttribute secondAttribute = NSLayoutAttribute::notAnAttribute;
-  double constant = 0;                  ///< in points
-  double priority = kRequiredPriority;  ///< 0 to kRequiredPriority
+  double constant = 0;  ///< in points
+  double priority = kLayoutPriorityRequired;
   friend bool operator==(const VisualFormatConstraint&, const VisualFormatConstraint&) = default;
 };
 

@@ -2,29 +2,21 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/main/Launch.h"
 
-#include <QGuiApplication>
-#include <QIcon>
 #include <QtQml/QQmlExtensionPlugin>
 
+#include "app/launch/ProgramStart.h"
 #include "app/main/MainStoryboard.h"
 #include "app/shell/AppDelegate.h"
-#include "app/shell/AppPhoneFormatEnvironment.h"
-#include "platform/qt/services/QtServices.h"
 
 Q_IMPORT_QML_PLUGIN(Kindora_AppPlugin)
-Q_IMPORT_QML_PLUGIN(Kindora_EffectsPlugin)
-Q_IMPORT_QML_PLUGIN(Kindora_PlatformPlugin)
 Q_IMPORT_QML_PLUGIN(Kindora_ScreensPlugin)
 
 namespace kindora {
 
 bool launch(QQmlApplicationEngine& engine) {
-  QGuiApplication::setApplicationName(QStringLiteral("kindora"));
-  QGuiApplication::setApplicationDisplayName(QStringLiteral("Kindora"));
-  QGuiApplication::setDesktopFileName(QStringLiteral("org.kindora.Kindora"));
-  QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/kindora/images/appIcon.svg")));
-  installServices(makeQtServices());
-  installPhoneFormatEnvironment(std::make_shared<AppPhoneFormatEnvironment>());
+  startProgram({.name = QStringLiteral("kindora"),
+                .displayName = QStringLiteral("Kindora"),
+                .desktopFileName = QStringLiteral("org.kindora.Kindora")});
 
   AppDelegate& delegate = AppDelegate::sharedDelegate();
   delegate.window = std::make_shared<UIWindow>();
@@ -32,11 +24,8 @@ bool launch(QQmlApplicationEngine& engine) {
   delegate.applicationDidFinishLaunching();
   delegate.window->makeKeyAndVisible();
 
-  engine.addImportPath(QStringLiteral("qrc:/qt/qml"));  // the default from Qt 6.5 on
-  engine.setInitialProperties(
-      {{QStringLiteral("host"), QVariant::fromValue(delegate.window.get())}});
-  engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Kindora/App/Main.qml")));
-  return !engine.rootObjects().isEmpty();
+  return showWindow(engine, *delegate.window,
+                    QUrl(QStringLiteral("qrc:/qt/qml/Kindora/App/Main.qml")));
 }
 
 }  // namespace kindora

@@ -1,29 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-import QtQuick
 import Kindora.Platform
 
-// The app's window: a phone's screen, centred where there is more room.
-Window {
-    id: root
-
-    required property UIWindow host
-
-    width: 390
-    height: 844
-    minimumWidth: 320
-    minimumHeight: 480
-    visible: true
+// The app's window.
+PhoneWindow {
     title: "Kindora"
-    color: Qt.rgba(0.9, 0.9, 0.9, 1)
-    // Where no window manager does it.
-    Component.onCompleted: root.requestActivate()
-
-    WindowHost {
-        anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width, 480)
-        height: parent.height
-        focus: true
-        host: root.host
-    }
 }

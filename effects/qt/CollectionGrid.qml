@@ -64,9 +64,15 @@ Flickable {
             }
         }
 
-        PointHandler {
-            id: touch
-            acceptedButtons: Qt.LeftButton
+        // Above the cells: a press that one of them takes is not seen below it.
+        Item {
+            anchors.fill: parent
+            z: 1
+
+            PointHandler {
+                id: touch
+                acceptedButtons: Qt.LeftButton
+            }
         }
     }
 }

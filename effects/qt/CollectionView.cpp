@@ -74,6 +74,7 @@ void CollectionView::layOut() {
   const CGRect near = CGRectInset(bounds_, -kMargin, -kMargin);
   std::vector<UICollectionViewLayoutAttributesRef> arriving;
   for (const auto& attributes : layout_.layoutAttributesForElementsInRect(near)) {
+    if (attributes->decorationKind()) continue;  // only cells are shown here
     auto known = before.extract(attributes->indexPath());
     if (known.empty()) {
       arriving.push_back(attributes);

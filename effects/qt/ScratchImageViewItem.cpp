@@ -166,6 +166,11 @@ void ScratchImageViewItem::scratchAway() {
       [this] { path_.clear(); });
 }
 
+void ScratchImageViewItem::stopScratchingAway() {
+  pathClock_ = {};
+  path_.clear();
+}
+
 void ScratchImageViewItem::followPath(std::size_t points) {
   JxScratchImageView* target = scratchView();
   for (; target != nullptr && followed_ < points; ++followed_) {

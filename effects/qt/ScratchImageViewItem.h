@@ -30,6 +30,8 @@ class ScratchImageViewItem : public kindora::ViewItem {
   /// Scratches the whole cover away, as a finger would that goes over it line by line. Does nothing
   /// while it is at it.
   Q_INVOKABLE void scratchAway();
+  /// Leaves the rest of the cover where it is.
+  Q_INVOKABLE void stopScratchingAway();
 
  signals:
   void radiusChanged();

@@ -109,20 +109,16 @@ void FlowSection::forEachFrame(const Line& line, const Visit& visit) const {
   }
 }
 
-UICollectionViewLayoutAttributesRef FlowSection::attributesOf(int item) const {
+CGRect FlowSection::frameOf(int item) const {
   const int next = firstLineWhere([&](const Line& line) { return line.firstItem > item; });
-  UICollectionViewLayoutAttributesRef found;
+  CGRect found;
   forEachFrame(line(next - 1), [&](int candidate, const CGRect& frame) {
-    if (candidate == item) {
-      found = std::make_shared<UICollectionViewLayoutAttributes>(IndexPath{metrics_.section, item},
-                                                                 frame);
-    }
+    if (candidate == item) found = frame;
   });
   return found;
 }
 
-void FlowSection::appendAttributesInRect(
-    const CGRect& rect, std::vector<UICollectionViewLayoutAttributesRef>& result) const {
+void FlowSection::forEachItemInRect(const CGRect& rect, const ItemVisitor& visit) const {
   const double bottom = rect.origin.y + rect.size.height;
   const int lines = lineCount();
   int index =
@@ -131,9 +127,7 @@ void FlowSection::appendAttributesInRect(
     const Line current = line(index);
     if (!(current.top < bottom)) break;
     forEachFrame(current, [&](int item, const CGRect& frame) {
-      if (!CGRectIntersectsRect(frame, rect)) return;
-      result.push_back(std::make_shared<UICollectionViewLayoutAttributes>(
-          IndexPath{metrics_.section, item}, frame));
+      if (CGRectIntersectsRect(frame, rect)) visit(item, frame);
     });
   }
 }

@@ -11,14 +11,12 @@
 #include <optional>
 #include <vector>
 
-#include "effects/springy/UICollectionViewLayoutAttributes.h"
 #include "platform/Geometry.h"
 
 namespace kindora {
 
 /// What decides how the items of a section flow; lengths in points.
 struct FlowMetrics {
-  int section = 0;
   int itemCount = 0;
   double width = 0;  ///< of the whole section, insets included
   double interitemSpacing = 0;
@@ -31,6 +29,8 @@ struct FlowMetrics {
 
 class FlowSection final {
  public:
+  using ItemVisitor = std::function<void(int item, const CGRect& frame)>;
+
   /// Top is where the section begins in the content, insets included. Items of one size cost
   /// nothing here, others are each asked for their size and leave a record a line.
   FlowSection(FlowMetrics metrics, double top);
@@ -39,10 +39,9 @@ class FlowSection final {
   [[nodiscard]] double bottom() const { return bottom_; }
   [[nodiscard]] int itemCount() const { return metrics_.itemCount; }
   /// The item must be one of the section's.
-  [[nodiscard]] UICollectionViewLayoutAttributesRef attributesOf(int item) const;
-  /// Adds the items that overlap the rectangle, in order, for the price of those and of a search.
-  void appendAttributesInRect(const CGRect& rect,
-                              std::vector<UICollectionViewLayoutAttributesRef>& result) const;
+  [[nodiscard]] CGRect frameOf(int item) const;
+  /// Visits the items that overlap the rectangle, in order, for the price of those and of a search.
+  void forEachItemInRect(const CGRect& rect, const ItemVisitor& visit) const;
 
  private:
   struct Line {

@@ -9,7 +9,7 @@ namespace kindora {
 class UICollectionView;
 
 /// Decides on sizes and spacings of a flow layout, in points. Answers must stay the same until the
-/// layout is invalidated or the collection view has another width.
+/// layout is invalidated or the collection view has another size across the scroll direction.
 class UICollectionViewDelegateFlowLayout {
  public:
   virtual ~UICollectionViewDelegateFlowLayout() = default;

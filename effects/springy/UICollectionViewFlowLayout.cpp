@@ -26,6 +26,30 @@ void UICollectionViewFlowLayout::setSectionInset(UIEdgeInsets insets) {
   invalidateLayout();
 }
 
+void UICollectionViewFlowLayout::setScrollDirection(UICollectionViewScrollDirection direction) {
+  scrollDirection_ = direction;
+  invalidateLayout();
+}
+
+CGSize UICollectionViewFlowLayout::turned(CGSize size) const {
+  return isHorizontal() ? CGSize{size.height, size.width} : size;
+}
+
+CGRect UICollectionViewFlowLayout::turned(const CGRect& rect) const {
+  if (!isHorizontal()) return rect;
+  return {{rect.origin.y, rect.origin.x}, turned(rect.size)};
+}
+
+UIEdgeInsets UICollectionViewFlowLayout::turned(const UIEdgeInsets& insets) const {
+  if (!isHorizontal()) return insets;
+  return {.top = insets.left, .left = insets.top, .bottom = insets.right, .right = insets.bottom};
+}
+
+UICollectionViewLayoutAttributesRef UICollectionViewFlowLayout::makeAttributes(
+    IndexPath path, const CGRect& frame) const {
+  return std::make_shared<UICollectionViewLayoutAttributes>(path, frame);
+}
+
 void UICollectionViewFlowLayout::invalidateLayout() {
   prepared_ = false;
   sections_.clear();
@@ -33,8 +57,8 @@ void UICollectionViewFlowLayout::invalidateLayout() {
 
 void UICollectionViewFlowLayout::prepareLayout() {
   if (collectionView() == nullptr) return;
-  const double width = collectionView()->bounds().size.width;
-  if (prepared_ && width != preparedWidth_) invalidateLayout();
+  const double width = across(collectionView()->bounds().size);
+  if (prepared_ && width != preparedAcross_) invalidateLayout();
   if (prepared_) return;
   double top = 0;
   const int count = collectionView()->numberOfSections();
@@ -42,29 +66,28 @@ void UICollectionViewFlowLayout::prepareLayout() {
     sections_.emplace_back(metricsOfSection(section), top);
     top = sections_.back().bottom();
   }
-  preparedWidth_ = width;
+  preparedAcross_ = width;
   prepared_ = true;
 }
 
 FlowMetrics UICollectionViewFlowLayout::metricsOfSection(int section) const {
   const UICollectionView& view = *collectionView();
-  FlowMetrics metrics{.section = section,
-                      .itemCount = view.numberOfItemsInSection(section),
-                      .width = view.bounds().size.width,
+  FlowMetrics metrics{.itemCount = view.numberOfItemsInSection(section),
+                      .width = across(view.bounds().size),
                       .interitemSpacing = minimumInteritemSpacing_,
                       .lineSpacing = minimumLineSpacing_,
-                      .insets = sectionInset_,
-                      .uniformSize = itemSize_};
+                      .insets = turned(sectionInset_),
+                      .uniformSize = turned(itemSize_)};
   UICollectionViewDelegateFlowLayout* delegate = view.delegate();
   if (delegate == nullptr) return metrics;
   metrics.interitemSpacing =
       delegate->collectionViewLayoutMinimumInteritemSpacingForSectionAtIndex(view, section);
   metrics.lineSpacing =
       delegate->collectionViewLayoutMinimumLineSpacingForSectionAtIndex(view, section);
-  metrics.insets = delegate->collectionViewLayoutInsetForSectionAtIndex(view, section);
+  metrics.insets = turned(delegate->collectionViewLayoutInsetForSectionAtIndex(view, section));
   metrics.uniformSize.reset();
-  metrics.sizeOfItem = [&view, delegate, section](int item) {
-    return delegate->collectionViewLayoutSizeForItemAtIndexPath(view, {section, item});
+  metrics.sizeOfItem = [this, &view, delegate, section](int item) {
+    return turned(delegate->collectionViewLayoutSizeForItemAtIndexPath(view, {section, item}));
   };
   if (metrics.itemCount > 0 &&
       delegate->collectionViewLayoutHasUniformItemSizeInSection(view, section)) {
@@ -74,17 +97,21 @@ FlowMetrics UICollectionViewFlowLayout::metricsOfSection(int section) const {
 }
 
 CGSize UICollectionViewFlowLayout::collectionViewContentSize() const {
-  return {preparedWidth_, sections_.empty() ? 0 : sections_.back().bottom()};
+  return turned(CGSize{preparedAcross_, sections_.empty() ? 0 : sections_.back().bottom()});
 }
 
 std::vector<UICollectionViewLayoutAttributesRef>
 UICollectionViewFlowLayout::layoutAttributesForElementsInRect(const CGRect& rect) const {
   std::vector<UICollectionViewLayoutAttributesRef> result;
-  const double bottom = rect.origin.y + rect.size.height;
+  const CGRect wanted = turned(rect);
+  const double bottom = wanted.origin.y + wanted.size.height;
   double top = 0;
-  for (const FlowSection& section : sections_) {
+  for (int number = 0; number < static_cast<int>(sections_.size()); ++number) {
     if (!(top < bottom)) break;
-    section.appendAttributesInRect(rect, result);
+    const FlowSection& section = sections_[static_cast<std::size_t>(number)];
+    section.forEachItemInRect(wanted, [&](int item, const CGRect& frame) {
+      result.push_back(makeAttributes({number, item}, turned(frame)));
+    });
     top = section.bottom();
   }
   return result;
@@ -95,12 +122,12 @@ UICollectionViewLayoutAttributesRef UICollectionViewFlowLayout::layoutAttributes
   if (path.section < 0 || static_cast<std::size_t>(path.section) >= sections_.size()) return {};
   const FlowSection& section = sections_[static_cast<std::size_t>(path.section)];
   if (path.row < 0 || path.row >= section.itemCount()) return {};
-  return section.attributesOf(path.row);
+  return makeAttributes(path, turned(section.frameOf(path.row)));
 }
 
 bool UICollectionViewFlowLayout::shouldInvalidateLayoutForBoundsChange(const CGRect& newBounds) {
   return collectionView() != nullptr &&
-         newBounds.size.width != collectionView()->bounds().size.width;
+         across(newBounds.size) != across(collectionView()->bounds().size);
 }
 
 }  // namespace kindora

@@ -28,7 +28,8 @@ class UICollectionViewLayout {
   virtual void prepareLayout() = 0;
   /// Size of all the content, in points.
   [[nodiscard]] virtual CGSize collectionViewContentSize() const = 0;
-  /// The cells that lie in the rectangle, in order of their items; touching edges do not count.
+  /// The cells that lie in the rectangle, in order of their items, then what decorates them;
+  /// touching edges do not count.
   [[nodiscard]] virtual std::vector<UICollectionViewLayoutAttributesRef>
   layoutAttributesForElementsInRect(const CGRect& rect) const = 0;
   /// Null when the layout knows no such cell.

@@ -15,6 +15,4 @@ void UIImageView::setImage(const UIImageRef& image) { assign(image_, image); }
 
 void UIImageView::setContentMode(UIViewContentMode mode) { assign(contentMode_, mode); }
 
-void UIImageView::setBorder(const UIViewBorder& border) { assign(border_, border); }
-
 }  // namespace kindora

@@ -11,13 +11,6 @@ namespace kindora {
 /// How an image lies in its view's bounds.
 enum class UIViewContentMode { scaleAspectFit, scaleAspectFill, center };
 
-/// A line along the inside of a view's bounds.
-struct UIViewBorder {
-  UIColor color = UIColor::blackColor();
-  double width = 0;  ///< points
-  friend constexpr bool operator==(const UIViewBorder&, const UIViewBorder&) = default;
-};
-
 /// A view that shows one image or none.
 class UIImageView : public UIView {
  public:
@@ -28,8 +21,6 @@ class UIImageView : public UIView {
   virtual void setImage(const UIImageRef& image);
   [[nodiscard]] UIViewContentMode contentMode() const { return contentMode_; }
   void setContentMode(UIViewContentMode mode);
-  [[nodiscard]] const UIViewBorder& border() const { return border_; }
-  void setBorder(const UIViewBorder& border);
 
  private:
   template <typename Value>
@@ -37,7 +28,6 @@ class UIImageView : public UIView {
 
   UIImageRef image_;
   UIViewContentMode contentMode_ = UIViewContentMode::scaleAspectFill;
-  UIViewBorder border_;
 };
 
 }  // namespace kindora

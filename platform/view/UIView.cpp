@@ -161,6 +161,12 @@ void UIView::setClipsToBounds(bool clips) {
   changed();
 }
 
+void UIView::setBorder(const UIViewBorder& border) {
+  if (border_ == border) return;
+  border_ = border;
+  changed();
+}
+
 void UIView::setShouldRasterize(bool on, double scale) {
   shouldRasterize_ = on;
   rasterizationScale_ = scale;

@@ -107,6 +107,8 @@ struct Refused {
   VisualFormatError error;
 };
 
+void PrintTo(const Refused& row, std::ostream* out) { *out << row.name; }
+
 class VisualFormatRefusal : public testing::TestWithParam<Refused> {};
 
 TEST_P(VisualFormatRefusal, TellsWhereAndWhatWasExpected) {

@@ -22,6 +22,8 @@ class Game : public QObject, public kindora::OutletOwner {
   /// How much of the cover is gone, in [0, 1].
   Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
   Q_PROPERTY(kindora::CollectionView* grid READ grid CONSTANT)
+  /// The cell that was pressed last; -1 for none.
+  Q_PROPERTY(int chosen MEMBER chosen_ NOTIFY chosenChanged)
 
  public:
   Game() {
@@ -57,6 +59,7 @@ class Game : public QObject, public kindora::OutletOwner {
  signals:
   void progressChanged();
   void swollen();
+  void chosenChanged();
 
  private:
   // Hears of scratches and of the ball.
@@ -78,16 +81,20 @@ class Game : public QObject, public kindora::OutletOwner {
   // A thousand cells.
   class Source final : public kindora::UICollectionViewDataSource {
    public:
-    explicit Source(kindora::CollectionView& grid) : grid_(grid) {}
+    explicit Source(Game& game) : game_(game) {}
     int numberOfSectionsInCollectionView() override { return 1; }
     int collectionViewNumberOfItemsInSection(int /*section*/) override { return 1000; }
     kindora::UICollectionViewCellRef collectionViewCellForItemAtIndexPath(
         kindora::IndexPath /*path*/) override {
-      return grid_.dequeueReusableCell("cell");
+      return game_.grid_.dequeueReusableCell("cell");
+    }
+    void collectionViewDidSelectItemAtIndexPath(kindora::IndexPath path) override {
+      game_.chosen_ = path.row;
+      emit game_.chosenChanged();
     }
 
    private:
-    kindora::CollectionView& grid_;
+    Game& game_;
   };
 
   const std::shared_ptr<kindora::UIView> views_ = std::make_shared<kindora::UIView>();
@@ -96,5 +103,6 @@ class Game : public QObject, public kindora::OutletOwner {
   const std::shared_ptr<Listener> listener_ = std::make_shared<Listener>(*this);
   kindora::BelSpringyCollectionViewFlowLayout layout_;
   kindora::CollectionView grid_{layout_};
-  Source source_{grid_};
+  Source source_{*this};
+  int chosen_ = -1;
 };

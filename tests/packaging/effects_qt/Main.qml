@@ -66,6 +66,7 @@ Window {
         x: 20
         y: 204
         text: Math.round(game.progress * 100) + " % scratched"
+              + (game.chosen < 0 ? "" : ", cell " + game.chosen + " pressed")
     }
 
     CollectionGrid {

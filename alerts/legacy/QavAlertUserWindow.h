@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+namespace kindora {
+
+/// How a view treats its tint colour.
+enum class UIViewTintAdjustmentMode { automatic = 0, normal = 1, dimmed = 2 };
+
+/// What alerts ask of a window of the app.
+class QavAlertUserWindow {
+ public:
+  virtual ~QavAlertUserWindow() = default;
+  virtual void setTintAdjustmentMode(UIViewTintAdjustmentMode mode) = 0;
+  /// Shows the window in front of those of its level and gives it the keyboard.
+  virtual void makeKeyAndVisible() = 0;
+};
+
+}  // namespace kindora

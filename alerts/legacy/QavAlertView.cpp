@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "alerts/legacy/QavAlertView.h"
+
+#include <utility>
+
+#include "alerts/helpers/QavParallax.h"
+#include "alerts/legacy/QavAlertViewCoordinator.h"
+
+namespace kindora {
+namespace {
+
+constexpr double kParallax = 15.75;  // points, both ways
+constexpr double kCornerRadius = 7;  // points
+
+// A handler may replace itself while it runs, so a copy is called.
+template <typename... Arguments>
+void tell(std::function<void(Arguments...)> handler, Arguments... arguments) {
+  if (handler) handler(arguments...);
+}
+
+// What the delegate answers, else the handler, else yes.
+bool decided(std::optional<bool> byDelegate, std::function<bool(int)> handler, int buttonIndex) {
+  if (byDelegate) return *byDelegate;
+  return handler ? handler(buttonIndex) : true;
+}
+
+}  // namespace
+
+QavAlertViewAppearance& QavAlertView::appearance() {
+  static QavAlertViewAppearance shared;
+  return shared;
+}
+
+QavAlertViewCoordinator& QavAlertView::transitionCoordinator() {
+  return QavAlertViewCoordinator::sharedCoordinator();
+}
+
+std::shared_ptr<QavAlertView> QavAlertView::initWithTitle(
+    const Text& title, const Text& message, std::weak_ptr<QavAlertViewDelegate> delegate,
+    const Text& cancelButtonTitle, const Titles& otherButtonTitles) {
+  const std::shared_ptr<QavAlertView> alert(new QavAlertView);
+  alert->setTranslatesAutoresizingMaskIntoConstraints(false);
+  qav_addParallax(*alert, {kParallax, kParallax});
+  alert->setClipsToBounds(true);
+  alert->setCornerRadius(kCornerRadius);
+  alert->delegate_ = std::move(delegate);
+  alert->alertBackgroundView_ = QavAlertViewBackgroundView::make();
+  alert->alertContentView_ = QavAlertViewContentView::initWithTitle(title, message);
+  alert->setAccessibility(UIAccessibilityRole::alert, title);
+  alert->alertContentView_->setDelegate(alert);
+  alert->alertContentView_->setCancelButtonTitle(cancelButtonTitle);
+  for (const std::string& other : otherButtonTitles) alert->addButtonWithTitle(other);
+  alert->alertContentView_->setAppearance(appearance());
+  return alert;
+}
+
+std::shared_ptr<QavAlertView> QavAlertView::self() {
+  return std::static_pointer_cast<QavAlertView>(shared_from_this());
+}
+
+void QavAlertView::setTitle(const Text& title) {
+  alertContentView_->setTitle(title);
+  setAccessibility(UIAccessibilityRole::alert, title);
+}
+
+void QavAlertView::setAttributedTitle(const std::optional<NSAttributedString>& title) {
+  alertContentView_->setAttributedTitle(title);
+  setAccessibility(UIAccessibilityRole::alert, this->title());
+}
+
+void QavAlertView::setAlertViewStyle(QavAlertViewStyle style) {
+  alertViewStyle_ = style;
+  alertContentView_->updateContentForStyle(style);
+}
+
+bool QavAlertView::alwaysShowsButtonsVertically() const {
+  return alertContentView_->buttons().alwaysShowsButtonsVertically;
+}
+
+void QavAlertView::setAlwaysShowsButtonsVertically(bool vertically) {
+  alertContentView_->setAlwaysShowsButtonsVertically(vertically);
+}
+
+// --- Showing ---
+
+void QavAlertView::updateFirstOtherButton() {
+  const auto asked = delegate();
+  const auto enable = asked ? asked->alertViewShouldEnableFirstOtherButton(*this) : std::nullopt;
+  if (enable) alertContentView_->setFirstOtherButtonEnabled(*enable);
+}
+
+void QavAlertView::show() {
+  updateFirstOtherButton();
+  alertContentView_->textDidChange = [weak = std::weak_ptr(self())] {
+    if (const auto alert = weak.lock()) alert->updateFirstOtherButton();
+  };
+  alertContentView_->prepareForShowing();
+  for (const std::shared_ptr<UIView>& part : {std::shared_ptr<UIView>(alertBackgroundView_),
+                                              std::shared_ptr<UIView>(alertContentView_)}) {
+    part->removeFromSuperview();  // with the constraints of an earlier showing
+    addSubview(part);
+    qav_alignEdgesWithSuperview(part, UIRectEdge::all);
+  }
+  transitionCoordinator().presentAlert(self());
+}
+
+void QavAlertView::showWithDismissHandler(std::function<void(int buttonIndex)> dismissHandler) {
+  didDismissHandler = std::move(dismissHandler);
+  show();
+}
+
+void QavAlertView::dismissWithClickedButtonIndex(int index, bool animated) {
+  transitionCoordinator().dismissAlert(self(), index, animated);
+}
+
+bool QavAlertView::isVisible() const {
+  return transitionCoordinator().visibleAlert().get() == this;
+}
+
+bool QavAlertView::becomeFirstResponder() { return alertContentView_->becomeFirstResponder(); }
+
+bool QavAlertView::resignFirstResponder() { return alertContentView_->resignFirstResponder(); }
+
+// --- What the coordinator tells ---
+
+void QavAlertView::willBePresented() {
+  if (const auto told = delegate()) told->willPresentAlertView(*this);
+}
+
+void QavAlertView::wasPresented() {
+  if (const auto told = delegate()) told->didPresentAlertView(*this);
+  tell(didPresentHandler);
+}
+
+void QavAlertView::willBeDismissedWithButtonIndex(int index) {
+  if (const auto told = delegate()) told->alertViewWillDismissWithButtonIndex(*this, index);
+  tell(willDismissHandler, index);
+}
+
+void QavAlertView::wasDismissedWithButtonIndex(int index) {
+  if (const auto told = delegate()) told->alertViewDidDismissWithButtonIndex(*this, index);
+  tell(didDismissHandler, index);
+}
+
+// --- Tapping ---
+
+void QavAlertView::alertContentViewDidTapButtonAtIndex(QavAlertViewContentView& /*contentView*/,
+                                                       int buttonIndex) {
+  tappedButtonAtIndex(buttonIndex);
+}
+
+bool QavAlertView::alertContentViewShouldDeselectButtonAtIndex(
+    QavAlertViewContentView& /*contentView*/, int buttonIndex) {
+  const auto asked = delegate();
+  return decided(
+      asked ? asked->alertViewShouldDeselectButtonAtIndex(*this, buttonIndex) : std::nullopt,
+      shouldDeselectButtonHandler, buttonIndex);
+}
+
+void QavAlertView::tappedButtonAtIndex(int index) {
+  if (const auto told = delegate()) told->alertViewClickedButtonAtIndex(*this, index);
+  tell(clickedButtonHandler, index);
+  if (shouldDismiss(index)) dismissWithClickedButtonIndex(index, true);
+}
+
+bool QavAlertView::shouldDismiss(int buttonIndex) {
+  const auto asked = delegate();
+  return decided(
+      asked ? asked->alertViewShouldDismissWithButtonIndex(*this, buttonIndex) : std::nullopt,
+      shouldDismissHandler, buttonIndex);
+}
+
+}  // namespace kindora

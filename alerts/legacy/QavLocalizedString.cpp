@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "alerts/legacy/QavLocalizedString.h"
+
+#include <utility>
+
+namespace kindora {
+namespace {
+
+QavLocalizer& slot() {
+  static QavLocalizer& installed = *new QavLocalizer;
+  return installed;
+}
+
+}  // namespace
+
+void installAlertLocalizer(QavLocalizer localizer) { slot() = std::move(localizer); }
+
+std::string qav_localizedString(std::string_view english) {
+  return slot() ? slot()(english) : std::string(english);
+}
+
+}  // namespace kindora

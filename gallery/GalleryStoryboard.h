@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+#include "platform/qt/toolkit/UINavigationController.h"
+#include "platform/qt/toolkit/UIStoryboard.h"
+
+namespace kindora {
+
+/// The table of the gallery's pages and of the ways between them.
+[[nodiscard]] const UIStoryboard& galleryStoryboard();
+
+/// The window's root: the list of demonstrations in a navigation controller.
+[[nodiscard]] std::shared_ptr<UINavigationController> makeGalleryNavigationController();
+
+}  // namespace kindora

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+
+// A white card with rows one below another, as wide as the page without its margins.
+Rectangle {
+    id: root
+
+    default property alias rows: column.data
+
+    x: 16
+    width: (parent?.width ?? 0) - 32
+    implicitHeight: column.height + 16
+    radius: 20
+    color: "white"
+    border.width: 1
+    border.color: Qt.rgba(0.92, 0.92, 0.92, 1)
+
+    Column {
+        id: column
+        x: 16
+        y: 8
+        width: root.width - 32
+    }
+}

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Kindora.Platform
+
+// One of a few, side by side.
+Rectangle {
+    id: root
+
+    required property list<string> names
+    required property int current
+    signal chosen(int index)
+
+    implicitHeight: 48
+    radius: 14
+    color: Qt.rgba(0.91, 0.91, 0.91, 1)
+
+    Row {
+        anchors.fill: parent
+        anchors.margins: 4
+
+        Repeater {
+            model: root.names
+
+            delegate: T.RadioButton {
+                id: choice
+
+                required property int index
+                required property string modelData
+
+                width: (root.width - 8) / root.names.length
+                height: root.height - 8
+                text: choice.modelData
+                checked: choice.index === root.current
+                focusPolicy: Qt.StrongFocus
+                Accessible.name: choice.text
+                onClicked: root.chosen(choice.index)
+                Keys.onReturnPressed: root.chosen(choice.index)
+                Keys.onEnterPressed: root.chosen(choice.index)
+
+                background: Rectangle {
+                    radius: 10
+                    color: choice.checked ? "white" : "transparent"
+                    border.width: choice.checked ? 1 : 0
+                    border.color: Qt.rgba(0.86, 0.86, 0.86, 1)
+
+                    FocusRing {
+                        visible: choice.visualFocus
+                        radius: 12
+                    }
+                }
+
+                contentItem: PlainText {
+                    text: choice.text
+                    points: 15
+                    font: choice.checked ? Appearance.boldFont(15) : Appearance.font(15)
+                    fontSizeMode: Text.HorizontalFit
+                    minimumPixelSize: 11
+                    horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
+                    Accessible.ignored: true
+                }
+            }
+        }
+    }
+}

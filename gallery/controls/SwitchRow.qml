@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Kindora.Platform
+
+// Something that is on or off.
+T.Switch {
+    id: root
+
+    width: parent?.width ?? 0
+    implicitHeight: 48
+    focusPolicy: Qt.StrongFocus
+    Accessible.name: root.text
+    Keys.onReturnPressed: root.click()
+    Keys.onEnterPressed: root.click()
+
+    contentItem: PlainText {
+        text: root.text
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+
+    indicator: Rectangle {
+        x: root.width - width
+        y: root.height / 2 - height / 2
+        implicitWidth: 52
+        implicitHeight: 32
+        radius: 16
+        color: root.checked ? Appearance.tint : Qt.rgba(0.88, 0.88, 0.88, 1)
+
+        Rectangle {
+            x: 2 + root.visualPosition * 20
+            y: 2
+            width: 28
+            height: 28
+            radius: 14
+            color: "white"
+        }
+
+        FocusRing {
+            visible: root.visualFocus
+            radius: 18
+        }
+
+        Behavior on color {
+            ColorAnimation { duration: 150 }
+        }
+    }
+}

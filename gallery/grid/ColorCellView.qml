@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Effects
+import Kindora.Gallery
+import Kindora.Platform
+
+// A coloured square that sinks when it is pressed.
+CollectionCell {
+    id: root
+
+    readonly property ColorCell colored: root.cell as ColorCell
+
+    spoken: "Cell " + number.text
+
+    Rectangle {
+        anchors.fill: parent
+        radius: 16
+        color: root.colored?.color ?? "white"
+        scale: root.colored?.highlighted ? 0.92 : 1
+
+        Behavior on scale {
+            NumberAnimation { duration: 90 }
+        }
+
+        ViewItem {
+            id: number
+            owner: root.cell
+            outlet: "numberLabel"
+            anchors.fill: parent
+
+            PlainText {
+                anchors.fill: parent
+                text: number.text
+                points: 17
+                color: Qt.rgba(0, 0, 0, 0.62)
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+                Accessible.ignored: true
+            }
+        }
+    }
+}

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QtQml/QQmlExtensionPlugin>
+
+#include "app/AppColors.h"
+#include "app/launch/ProgramStart.h"
+#include "app/shell/AppearanceManager.h"
+#include "gallery/GalleryStoryboard.h"
+
+Q_IMPORT_QML_PLUGIN(Kindora_GalleryPlugin)
+
+int main(int argc, char* argv[]) {
+  using namespace kindora;
+  const QGuiApplication application(argc, argv);
+  startProgram({.name = QStringLiteral("kindora-gallery"),
+                .displayName = QStringLiteral("Kindora Gallery")});
+
+  static UIWindow& window = *new UIWindow;  // outlives the screens
+  window.setRootViewController(makeGalleryNavigationController());
+  window.setTintColor(appColor());
+  AppearanceManager::configureAppearance();
+  window.makeKeyAndVisible();
+
+  QQmlApplicationEngine engine;
+  const QUrl file(QStringLiteral("qrc:/qt/qml/Kindora/Gallery/GalleryWindow.qml"));
+  return showWindow(engine, window, file) ? QGuiApplication::exec() : EXIT_FAILURE;
+}

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Platform
+
+// A demonstration's row: a white card with a picture, a name, and a line about it.
+TableCell {
+    id: root
+
+    implicitHeight: 80
+    spoken: title.text + ", " + detail.text
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.leftMargin: 16
+        anchors.rightMargin: 16
+        radius: 20
+        color: root.cell?.showsSelection ? Qt.rgba(0.92, 0.92, 0.92, 1) : "white"
+        border.width: 1
+        border.color: Qt.rgba(0.92, 0.92, 0.92, 1)
+    }
+
+    ViewItem {
+        id: picture
+        owner: root.cell
+        outlet: "pictureView"
+        x: 32
+        width: 48
+        height: 48
+        anchors.verticalCenter: parent.verticalCenter
+
+        PictureItem {
+            anchors.fill: parent
+            radius: 14
+            image: picture.image
+            ground: Qt.rgba(0.88, 0.88, 0.88, 1)
+        }
+    }
+
+    Column {
+        anchors.left: picture.right
+        anchors.leftMargin: 16
+        anchors.right: arrow.left
+        anchors.rightMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 4
+
+        ViewItem {
+            id: title
+            owner: root.cell
+            outlet: "titleLabel"
+            width: parent.width
+            implicitHeight: titleText.implicitHeight
+
+            PlainText {
+                id: titleText
+                width: parent.width
+                text: title.text
+                points: 17
+                Accessible.ignored: true
+            }
+        }
+
+        ViewItem {
+            id: detail
+            owner: root.cell
+            outlet: "detailLabel"
+            width: parent.width
+            implicitHeight: detailText.implicitHeight
+
+            PlainText {
+                id: detailText
+                width: parent.width
+                text: detail.text
+                points: 13
+                color: Qt.rgba(0.45, 0.45, 0.45, 1)
+                Accessible.ignored: true
+            }
+        }
+    }
+
+    PictureItem {
+        id: arrow
+        anchors.right: parent.right
+        anchors.rightMargin: 32
+        anchors.verticalCenter: parent.verticalCenter
+        width: 16
+        height: 16
+        imageName: "back"
+        tint: Qt.rgba(0.75, 0.75, 0.75, 1)
+        rotation: 180
+    }
+}

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Platform
+
+// A country's row: the tick when it is chosen, the name, and the calling code.
+TableCell {
+    id: root
+
+    readonly property bool chosen: root.cell?.hasCheckmark ?? false
+
+    implicitHeight: 48
+    spaceBelow: 0
+    spoken: name.text + ", " + code.text + (root.chosen ? ", " + qsTr("selected") : "")
+
+    Rectangle {
+        anchors.fill: parent
+        color: root.cell?.showsSelection ? Qt.rgba(0.92, 0.92, 0.92, 1) : "white"
+    }
+
+    PictureItem {
+        x: 16
+        width: 16
+        height: 16
+        anchors.verticalCenter: parent.verticalCenter
+        imageName: "checkmark"
+        tint: Appearance.tintedText
+        visible: root.chosen
+    }
+
+    ViewItem {
+        id: name
+        owner: root.cell
+        outlet: "nameLabel"
+        anchors.left: parent.left
+        anchors.leftMargin: 48
+        anchors.right: code.left
+        anchors.rightMargin: 8
+        height: parent.height
+
+        PlainText {
+            anchors.fill: parent
+            text: name.text
+            verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
+        }
+    }
+
+    ViewItem {
+        id: code
+        owner: root.cell
+        outlet: "codeLabel"
+        anchors.right: parent.right
+        anchors.rightMargin: 16
+        width: 56
+        height: parent.height
+
+        PlainText {
+            anchors.fill: parent
+            text: code.text
+            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            horizontalAlignment: Text.AlignRight
+            verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
+        }
+    }
+
+    Rectangle {
+        anchors.bottom: parent.bottom
+        anchors.right: parent.right
+        anchors.left: name.left
+        height: 1
+        color: Qt.rgba(0.9, 0.9, 0.9, 1)
+    }
+}

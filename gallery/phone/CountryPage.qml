@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Gallery
+import Kindora.Platform
+
+// The countries for which there are phone formats.
+Rectangle {
+    id: root
+
+    required property CountryTableViewController controller
+
+    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+
+    TableList {
+        objectName: "countriesTable"
+        anchors.fill: parent
+        focus: true
+        bottomMargin: 16
+        controller: root.controller
+        prototypes: ({ "countryCell": countryCell })
+    }
+
+    Component {
+        id: countryCell
+        CountryCell {}
+    }
+}

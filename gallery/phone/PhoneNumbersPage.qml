@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Gallery
+import Kindora.Platform
+
+// A phone number of any country.
+FormPage {
+    id: root
+
+    required property PhoneNumbersViewController controller
+
+    FormSection {
+        controller: root.controller
+        section: 0
+        action: root.controller.countryName + ", " + root.controller.callingCode
+
+        PlainText {
+            anchors.left: parent.left
+            anchors.right: code.left
+            anchors.rightMargin: 8
+            height: parent.height
+            text: root.controller.countryName
+            points: 17
+            verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
+        }
+
+        PlainText {
+            id: code
+            anchors.right: arrow.left
+            anchors.rightMargin: 8
+            height: parent.height
+            text: root.controller.callingCode
+            points: 17
+            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
+        }
+
+        PictureItem {
+            id: arrow
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            width: 16
+            height: 16
+            imageName: "back"
+            tint: Qt.rgba(0.75, 0.75, 0.75, 1)
+            rotation: 180
+        }
+    }
+
+    FormSection {
+        controller: root.controller
+        section: 1
+        highlighted: number.inputFocus
+
+        TextField {
+            id: number
+            objectName: "numberField"
+            owner: root.controller
+            outlet: objectName
+            label: root.controller.sectionTitles[1]
+            width: parent.width
+        }
+    }
+
+    Item {
+        width: parent.width
+        height: 48
+
+        PictureItem {
+            id: tick
+            anchors.left: parent.left
+            anchors.leftMargin: 32
+            anchors.verticalCenter: parent.verticalCenter
+            width: root.controller.valid ? 16 : 0
+            height: 16
+            visible: root.controller.valid
+            imageName: "checkmark"
+            tint: Appearance.tintedText
+        }
+
+        PlainText {
+            anchors.left: tick.right
+            anchors.leftMargin: root.controller.valid ? 8 : 0
+            anchors.right: parent.right
+            anchors.rightMargin: 32
+            height: parent.height
+            text: root.controller.verdict
+            color: root.controller.valid ? Appearance.tintedText : Qt.rgba(0.45, 0.45, 0.45, 1)
+            verticalAlignment: Text.AlignVCenter
+        }
+    }
+
+    Item {
+        width: parent.width
+        height: 100
+        visible: root.controller.valid
+
+        PlainText {
+            x: 32
+            width: parent.width - 64
+            anchors.bottom: card.top
+            anchors.bottomMargin: 8
+            text: "From abroad"
+            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            Accessible.role: Accessible.Heading
+        }
+
+        Card {
+            id: card
+            y: 44
+
+            PlainText {
+                width: parent.width
+                height: 40
+                text: root.controller.international
+                points: 22
+                verticalAlignment: Text.AlignVCenter
+            }
+        }
+    }
+}
