@@ -9,10 +9,10 @@
 namespace kindora {
 namespace {
 
-constexpr double kTremor = 0.15;                       // seconds
-constexpr double kHabit = 8;                           // seconds
-constexpr double kFullTilt = std::numbers::pi / 6;     // radians
-constexpr double kWeightless = 1;                      // metres per second squared
+constexpr double kTremor = 0.15;                    // seconds
+constexpr double kHabit = 8;                        // seconds
+constexpr double kFullTilt = std::numbers::pi / 6;  // radians
+constexpr double kWeightless = 1;                   // metres per second squared
 
 double across(const std::array<double, 3>& up) {
   return std::atan2(-up[0], std::hypot(up[1], up[2]));

@@ -15,8 +15,7 @@ namespace kindora {
 QFont resolvedFont(const UIFont& font) {
   static const bool hasAvenir = QFontDatabase::hasFamily(QStringLiteral("Avenir Next"));
   QFont result(hasAvenir ? QStringLiteral("Avenir Next") : QStringLiteral("Lato"));
-  const QFont::Weight regular =
-      font.name.starts_with("System") ? QFont::Normal : QFont::Medium;
+  const QFont::Weight regular = font.name.starts_with("System") ? QFont::Normal : QFont::Medium;
   result.setWeight(font.name.ends_with("Bold") ? QFont::Bold : regular);
   result.setPixelSize(static_cast<int>(std::lround(font.pointSize)));
   return result;

@@ -25,7 +25,8 @@ QFont layoutFont(const UIFont& font) {
   return result;
 }
 
-QList<QTextLayout::FormatRange> formatsOf(const NSAttributedString& text, TextLines::Colors colors) {
+QList<QTextLayout::FormatRange> formatsOf(const NSAttributedString& text,
+                                          TextLines::Colors colors) {
   QList<QTextLayout::FormatRange> formats;
   for (const auto& [range, attributes] : text.runs()) {
     QTextLayout::FormatRange format;
@@ -52,8 +53,7 @@ QList<QTextLayout::FormatRange> formatsFrom(int start, QList<QTextLayout::Format
 }
 
 std::shared_ptr<QTextLayout> laidOut(const QString& text, const QFont& font,
-                                     const QList<QTextLayout::FormatRange>& formats,
-                                     double width) {
+                                     const QList<QTextLayout::FormatRange>& formats, double width) {
   auto layout = std::make_shared<QTextLayout>(text, font);
   QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
   option.setWrapMode(width > 0 ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);

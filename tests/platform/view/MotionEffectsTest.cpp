@@ -26,9 +26,7 @@ class MotionEffectsTest : public ::testing::Test {
   MotionEffects effects;
 };
 
-TEST_F(MotionEffectsTest, TheSensorRestsWithoutViews) {
-  EXPECT_FALSE(fakes.motion->handler);
-}
+TEST_F(MotionEffectsTest, TheSensorRestsWithoutViews) { EXPECT_FALSE(fakes.motion->handler); }
 
 TEST_F(MotionEffectsTest, AViewOnTheScreenFollowsTheTilt) {
   const auto view = make();

@@ -23,7 +23,8 @@ class TiltSensorTest : public ::testing::Test {
   void hold(double x, double y, double z) const {
     const std::pair<char, double> values[] = {{'x', x}, {'y', y}, {'z', z}};
     for (const auto& [axis, value] : values) {
-      QFile file(folder.filePath(QStringLiteral("iio:device0/in_accel_%1_raw").arg(QLatin1Char(axis))));
+      QFile file(
+          folder.filePath(QStringLiteral("iio:device0/in_accel_%1_raw").arg(QLatin1Char(axis))));
       ASSERT_TRUE(file.open(QIODevice::WriteOnly));
       file.write(QByteArray::number(value));
     }
