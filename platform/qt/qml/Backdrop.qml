@@ -30,7 +30,7 @@ Item {
                 anchors.fill: parent
                 sourceItem: modelData
                 sourceRect: root.panel?.places[index] ?? Qt.rect(0, 0, 0, 0)
-                opacity: modelData.opacity
+                opacity: modelData?.opacity ?? 0
                 // The blur leaves nothing finer to be seen.
                 textureSize: Qt.size(Math.ceil(width / 2), Math.ceil(height / 2))
             }

@@ -8,6 +8,7 @@
 #include "platform/qt/quick/Colors.h"
 #include "platform/qt/quick/DrawnPlace.h"
 #include "platform/qt/quick/GroundItem.h"
+#include "platform/qt/quick/LabelItem.h"
 #include "platform/qt/quick/PageCurlItem.h"
 #include "platform/qt/quick/PictureItem.h"
 #include "platform/qt/quick/RecordPart.h"
@@ -53,9 +54,12 @@ CodeViewItem::CodeViewItem(std::shared_ptr<UIView> view, QQuickItem* parent)
   viewDidChange();
 }
 
-CodeViewItem::~CodeViewItem() {
+CodeViewItem::~CodeViewItem() { rest(); }
+
+void CodeViewItem::rest() {
   subscription_ = {};
   MotionEffects::shared().hide(view_);
+  for (std::size_t i = 0; i < drawn_.size(); ++i) drawn_[i].rest();
 }
 
 void CodeViewItem::viewDidChange() {
@@ -74,7 +78,7 @@ void CodeViewItem::viewDidChange() {
   drawGround();
   makeFace();
   makeButton();
-  drawSubviews(*view_, contentItem(), drawn_);
+  drawn_.show(*view_, contentItem());
   // A clip costs a pass of its own.
   setClip(view_->clipsToBounds() && overflows(*view_));
   tellInside();
@@ -93,14 +97,14 @@ void CodeViewItem::tellInside() {
                                          view_->accessibilityLabel().has_value()};
   if (now == told_) return;
   told_ = now;
-  for (const auto& inside : drawn_) inside->surroundingsChanged();
+  for (std::size_t i = 0; i < drawn_.size(); ++i) drawn_[i].surroundingsChanged();
 }
 
 void CodeViewItem::surroundingsChanged() {
   place();
   drawGround();
-  if (face_) face_->refresh();
-  for (const auto& inside : drawn_) inside->surroundingsChanged();
+  if (auto* label = qobject_cast<LabelItem*>(face_.get())) label->refresh();
+  for (std::size_t i = 0; i < drawn_.size(); ++i) drawn_[i].surroundingsChanged();
 }
 
 void CodeViewItem::place() {
@@ -139,9 +143,9 @@ void CodeViewItem::followTilt() {
 void CodeViewItem::makeFace() {
   if (face_) return;
   QString part = faceOf(*view_);
-  // Others are read aloud only when they say so.
-  const bool speaks =
-      view_->accessibilityRole() != UIAccessibilityRole::none && !view_->tapGestureRecognizer();
+  // Others are read aloud only when they say so; a button is by itself.
+  const UIAccessibilityRole role = view_->accessibilityRole();
+  const bool speaks = role != UIAccessibilityRole::none && role != UIAccessibilityRole::button;
   if (part.isEmpty() && speaks) part = QStringLiteral("RecordSpeech");
   if (!part.isEmpty()) face_ = makeRecordPart(part, view_, *this);
 }
@@ -234,21 +238,5 @@ void CodeViewItem::wheelEvent(QWheelEvent* event) {
   event->setAccepted(view_->isUserInteractionEnabled() && !handsInputOn());
 }
 void CodeViewItem::touchEvent(QTouchEvent* event) { event->setAccepted(!handsInputOn()); }
-
-void drawSubviews(const UIView& view, QQuickItem& parent,
-                  std::vector<std::unique_ptr<CodeViewItem>>& drawn) {
-  std::vector<std::unique_ptr<CodeViewItem>> next;
-  for (const auto& subview : view.subviews()) {
-    if (!subview->isMadeInCode()) continue;
-    const auto known = std::ranges::find_if(
-        drawn, [&](const auto& item) { return item && item->view() == subview; });
-    next.push_back(known != drawn.end() ? std::move(*known)
-                                        : std::make_unique<CodeViewItem>(subview, &parent));
-    next.back()->setZ(static_cast<double>(next.size()));
-    // The keyboard goes from one to the next in the same order.
-    if (next.size() > 1) next.back()->stackAfter(next[next.size() - 2].get());
-  }
-  drawn = std::move(next);
-}
 
 }  // namespace kindora

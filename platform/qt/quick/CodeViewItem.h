@@ -4,8 +4,8 @@
 
 #include <QQuickItem>
 #include <memory>
-#include <vector>
 
+#include "platform/qt/quick/DrawnSubviews.h"
 #include "platform/qt/quick/KeyframeTransform.h"
 #include "platform/view/UIImageView.h"
 #include "platform/view/UIView.h"
@@ -29,6 +29,8 @@ class CodeViewItem final : public QQuickItem {
   ~CodeViewItem() override;
 
   [[nodiscard]] const std::shared_ptr<UIView>& view() const { return view_; }
+  /// Follows the view no more.
+  void rest();
 
  protected:
   void geometryChange(const QRectF& now, const QRectF& before) override;
@@ -73,14 +75,10 @@ class CodeViewItem final : public QQuickItem {
   PageCurlItem* curl_ = nullptr;
   std::unique_ptr<ViewItem> face_;
   std::unique_ptr<ViewItem> button_;
-  std::vector<std::unique_ptr<CodeViewItem>> drawn_;
+  DrawnSubviews drawn_;
   Surroundings told_;
   UIView::Subscription subscription_;
   KeyframeTransform keyframeTransform_;
 };
-
-/// Makes the items show the subviews made in code, lowest first; items of views that stay are kept.
-void drawSubviews(const UIView& view, QQuickItem& parent,
-                  std::vector<std::unique_ptr<CodeViewItem>>& drawn);
 
 }  // namespace kindora

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "platform/qt/quick/RecordItem.h"
 
+#include <utility>
+
 #include "platform/qt/quick/CodeViewItem.h"
 #include "platform/qt/quick/QtViewServices.h"
 
@@ -12,7 +14,7 @@ RecordItem::RecordItem(QQuickItem* parent) : QQuickItem(parent) { ensureViewServ
 RecordItem::~RecordItem() { leave(); }
 
 void RecordItem::leave() {
-  drawn_.reset();
+  if (drawn_) retire(std::move(drawn_));
   if (!view_) return;
   view_->locateInWindow = {};
   view_->layoutScheduled = {};

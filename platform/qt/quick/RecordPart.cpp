@@ -47,8 +47,8 @@ std::unique_ptr<ViewItem> makeRecordPart(const QString& type, const std::shared_
        {QStringLiteral("width"), parent.width()},
        {QStringLiteral("height"), parent.height()}});
   std::unique_ptr<ViewItem> part(qobject_cast<ViewItem*>(made));
-  if (!part)
-    fatalError("no part " + type.toStdString() + ": " + component.errorString().toStdString());
+  if (!part) fatalError("cannot show: " + component.errorString().toStdString());
+  part->setParent(&parent);
   return part;
 }
 

@@ -68,7 +68,7 @@ void ScrollViewItem::revealFocus() {
   const QQuickItem* item = window() != nullptr ? window()->activeFocusItem() : nullptr;
   if (item == nullptr || content_ == nullptr || scrollView() == nullptr) return;
   if (!content_->isAncestorOf(item)) return;
-  const QRectF rect = item->mapRectToItem(content_, item->boundingRect());
+  const QRectF rect = item->mapRectToItem(content_, QRectF(QPointF(), item->size()));
   scrollView()->scrollRectToVisible(
       CGRectInset({{rect.x(), rect.y()}, {rect.width(), rect.height()}}, 0, -kMargin));
 }

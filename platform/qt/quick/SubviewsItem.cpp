@@ -2,10 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "platform/qt/quick/SubviewsItem.h"
 
-#include <algorithm>
-
-#include "platform/qt/quick/CodeViewItem.h"
-
 namespace kindora {
 
 SubviewsItem::SubviewsItem(QQuickItem* parent) : ViewItem(parent) {}
@@ -15,7 +11,7 @@ SubviewsItem::~SubviewsItem() = default;
 bool SubviewsItem::isCovered() const { return view() && hasCoveringSubview(*view()); }
 
 void SubviewsItem::viewDidChange() {
-  if (view()) drawSubviews(*view(), *this, drawn_);
+  if (view()) drawn_.show(*view(), *this);
   ViewItem::viewDidChange();
 }
 

@@ -2,14 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <memory>
-#include <vector>
-
+#include "platform/qt/quick/DrawnSubviews.h"
 #include "platform/qt/quick/ViewItem.h"
 
 namespace kindora {
-
-class CodeViewItem;
 
 /// Draws, inside a view that a storyboard knows, the subviews that its controller made in code, at
 /// the places that their records say.
@@ -29,7 +25,7 @@ class SubviewsItem : public kindora::ViewItem {
   void viewDidChange() override;
 
  private:
-  std::vector<std::unique_ptr<CodeViewItem>> drawn_;
+  DrawnSubviews drawn_;
 };
 
 }  // namespace kindora

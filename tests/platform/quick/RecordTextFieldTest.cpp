@@ -19,7 +19,7 @@ class RecordTextFieldTest : public RecordFixture {
 };
 
 TEST_F(RecordTextFieldTest, StandsWhereTheRecordSays) {
-  EXPECT_EQ(input().mapRectToScene(input().boundingRect()), QRectF(20, 20, 160, 30));
+  EXPECT_EQ(input().mapRectToScene({{}, input().size()}), QRectF(20, 20, 160, 30));
   EXPECT_EQ(field->frame(), (CGRect{{20, 20}, {160, 30}}));
 }
 
