@@ -8,6 +8,7 @@
 
 #include <vector>
 
+#include "benchmarks/layout/Sizes.h"
 #include "benchmarks/support/Goals.h"
 #include "benchmarks/support/HeapUse.h"
 #include "platform/layout/Solver.h"
@@ -15,11 +16,7 @@
 namespace kindora::layout {
 namespace {
 
-constexpr int kRepetitions = 9;
 constexpr int kKeptMemory = 32 << 20;  // bytes
-constexpr double kWidth = 270;
-constexpr double kOtherWidth = 320;
-constexpr double kRowHeight = 44;
 
 struct Row {
   Variable left;
@@ -136,10 +133,6 @@ void resize(benchmark::State& state, void (Card::*stack)(int)) {
   if (!card.isSolved(isWide ? kOtherWidth : kWidth)) {
     state.SkipWithError("the rows are not where they must be");
   }
-}
-
-void sizes(benchmark::internal::Benchmark* benchmark) {
-  benchmark->Arg(10)->Arg(100)->Arg(1000)->Repetitions(kRepetitions);
 }
 
 BENCHMARK_CAPTURE(build, stack, &Card::stack)->Name("Layout/Build")->Apply(sizes);

@@ -237,7 +237,7 @@ LayoutEngine::Entry& LayoutEngine::entryOf(UIView& view) {
   }
   entry.firstBaseline = view.firstBaselineFromTop();
   entry.lastBaseline = view.lastBaselineFromBottom();
-  view.intrinsicChanged_ = false;
+  entry.contentRevision = view.contentRevision_;
   return entry;
 }
 
@@ -277,7 +277,8 @@ bool LayoutEngine::takeOverFrames() {
 void LayoutEngine::takeOverContents(bool& baselinesChanged) {
   for (auto& [key, entry] : entries_) {
     const auto view = entry.view.lock();
-    if (!view || !std::exchange(view->intrinsicChanged_, false)) continue;
+    if (!view || entry.contentRevision == view->contentRevision_) continue;
+    entry.contentRevision = view->contentRevision_;
     if (entry.constraintBased) {
       const CGSize content = view->intrinsicContentSize();
       setContent(entry.horizontal, content.width);

@@ -53,6 +53,7 @@ class LayoutEngine final {
     Axis vertical;
     double firstBaseline = 0;
     double lastBaseline = 0;
+    std::uint64_t contentRevision = 0;  // of the view, as it was taken over
     std::uint64_t mark = 0;
   };
   struct Held {

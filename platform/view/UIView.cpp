@@ -280,6 +280,7 @@ void UIView::removeFromSuperview() {
   parent->removeConstraintsOn(*this);
   superview_.reset();
   removed_ = true;
+  layoutIsScheduled_ = false;  // what was true when it last was a topmost view
   std::erase(parent->subviews_, self);
   parent->setNeedsLayout();
   parent->structureChanged();

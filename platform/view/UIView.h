@@ -314,7 +314,7 @@ class UIView : public std::enable_shared_from_this<UIView> {
   CGPoint tilt_;
   std::vector<NSLayoutConstraintRef> constraints_;
   bool constraintBased_ = false;
-  bool intrinsicChanged_ = false;
+  std::uint64_t contentRevision_ = 0;  // grows with every change of intrinsic size or baselines
   bool needsLayout_ = true;
   bool laidOut_ = false;
   double layoutTarget_ = 0;

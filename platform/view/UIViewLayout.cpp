@@ -78,7 +78,7 @@ void UIView::structureChanged() {
 }
 
 void UIView::invalidateIntrinsicContentSize() {
-  intrinsicChanged_ = true;
+  ++contentRevision_;
   scheduleLayout();
 }
 

@@ -234,6 +234,43 @@ TEST_F(LayoutEngineTest, ATreeThatJoinsAnotherBringsItsConstraintsAlong) {
   EXPECT_EQ(box->frame(), (CGRect{{30, 0}, {18, 0}}));
 }
 
+TEST_F(LayoutEngineTest, AViewThatWasInAnotherTreeMeanwhileIsSeenAsItIs) {
+  const auto label = std::make_shared<UILabel>();
+  label->setFont(UIFont::systemFontOfSize(16));
+  label->setText("12345");
+  placed(root, label);
+  same(label, Attribute::left, root, 5);
+  root->layoutIfNeeded();
+  EXPECT_EQ(label->frame().size.width, 40);
+  const auto elsewhere = framed({{0, 0}, {100, 100}});
+  elsewhere->addSubview(label);
+  hold(elsewhere, {.firstItem = label,
+                   .firstAttribute = Attribute::left,
+                   .secondItem = elsewhere,
+                   .secondAttribute = Attribute::left});
+  elsewhere->layoutIfNeeded();
+  label->setText("1234567890");
+  elsewhere->layoutIfNeeded();
+  EXPECT_EQ(label->frame().size.width, 80);
+  root->addSubview(label);
+  same(label, Attribute::left, root, 5);
+  root->layoutIfNeeded();
+  EXPECT_EQ(label->frame(), (CGRect{{5, 0}, {80, 20}}));
+}
+
+TEST_F(LayoutEngineTest, AViewThatLeavesATreeSchedulesItsOwnLayoutAgain) {
+  const auto box = std::make_shared<UIView>();
+  int scheduled = 0;
+  box->setNeedsLayout();  // before anybody listens
+  root->addSubview(box);
+  root->layoutIfNeeded();
+  box->removeFromSuperview();
+  box->layoutIfNeeded();
+  box->layoutScheduled = [&scheduled] { ++scheduled; };
+  box->setNeedsLayout();
+  EXPECT_EQ(scheduled, 1);
+}
+
 TEST_F(LayoutEngineTest, ChangingTheOrderOfSubviewsKeepsTheConstraints) {
   const auto view = placed(root);
   placed(root);
