@@ -184,12 +184,6 @@ void UIView::setHidden(bool hidden) {
   changed();
 }
 
-void UIView::setBorder(const UIViewBorder& border) {
-  if (border_ == border) return;
-  border_ = border;
-  changed();
-}
-
 void UIView::setLayerAnimation(std::string_view key,
                                std::shared_ptr<UIViewLayerAnimation> animation) {
   // The earlier one goes last, since its end may be heard by somebody who asks about this view.

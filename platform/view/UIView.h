@@ -69,13 +69,6 @@ struct UIViewKeyframeValues {
 [[nodiscard]] UIViewState interpolated(const UIViewState& from, const UIViewState& to,
                                        double fraction);
 
-/// A line along the inside of a view's bounds.
-struct UIViewBorder {
-  UIColor color = UIColor::blackColor();
-  double width = 0;  ///< points
-  friend constexpr bool operator==(const UIViewBorder&, const UIViewBorder&) = default;
-};
-
 /// An animation that plays on a view for as long as the view keeps it.
 class UIViewLayerAnimation {
  public:
@@ -177,9 +170,6 @@ class UIView : public std::enable_shared_from_this<UIView> {
   /// Subviews are cut off at the bounds, with the corner radius.
   [[nodiscard]] bool clipsToBounds() const { return clipsToBounds_; }
   void setClipsToBounds(bool clips);
-
-  [[nodiscard]] const UIViewBorder& border() const { return border_; }
-  void setBorder(const UIViewBorder& border);
 
   /// In the superview's space, before the transform.
   [[nodiscard]] CGRect frame() const { return state_.frame; }
@@ -311,7 +301,6 @@ class UIView : public std::enable_shared_from_this<UIView> {
   bool hidden_ = false;
   UIViewBorder border_;
   bool clipsToBounds_ = false;
-  UIViewBorder border_;
   bool fillsSuperview_ = false;
   UIViewTintAdjustmentMode tintAdjustmentMode_ = UIViewTintAdjustmentMode::automatic;
   std::optional<UIColor> ownTintColor_;
