@@ -72,13 +72,13 @@ void QavActionsCollectionView::reloadData() {
 
 QavActionsCollectionView::ViewRef QavActionsCollectionView::cellForItemAtIndexPath(
     IndexPath path) const {
-  const auto found = shown_.find({std::nullopt, path});
+  const auto found = shown_.find(Key(path, ""));
   return found != shown_.end() ? found->second : nullptr;
 }
 
 std::optional<IndexPath> QavActionsCollectionView::indexPathForCell(const UIView& cell) const {
   for (const auto& [key, view] : shown_) {
-    if (view.get() == &cell && !key.first) return key.second;
+    if (view.get() == &cell && key.second.empty()) return key.first;
   }
   return std::nullopt;
 }
@@ -109,6 +109,11 @@ void QavActionsCollectionView::layoutSubviews() {
   layOut();
 }
 
+QavActionsCollectionView::Key QavActionsCollectionView::keyOf(
+    const UICollectionViewLayoutAttributes& attributes) {
+  return {attributes.indexPath(), attributes.decorationKind().value_or("")};
+}
+
 void QavActionsCollectionView::takeBounds() {
   const CGRect now{contentOffset(), UIView::bounds().size};
   if (now == bounds_) return;
@@ -126,14 +131,14 @@ void QavActionsCollectionView::layOut() {
 
   std::map<Key, ViewRef> before = std::exchange(shown_, {});
   for (const auto& element : elements) {
-    auto known = before.extract({element->decorationKind(), element->indexPath()});
+    auto known = before.extract(keyOf(*element));
     if (!known.empty()) shown_.insert(std::move(known));
   }
   // First what has left, so that it can be used for what arrives.
   for (const auto& [key, view] : before) recycle(view);
   std::vector<ViewRef> views;
   for (const auto& element : elements) {
-    ViewRef& view = shown_[{element->decorationKind(), element->indexPath()}];
+    ViewRef& view = shown_[keyOf(*element)];
     if (!view) view = makeView(*element);
     view->applyLayoutAttributes(*element);
     views.push_back(view);

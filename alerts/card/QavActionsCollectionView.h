@@ -76,8 +76,9 @@ class QavActionsCollectionView final : public UIScrollView, public UICollectionV
   void didScroll() override;
 
  private:
-  using Key = std::pair<std::optional<std::string>, IndexPath>;  // no kind: a cell
+  using Key = std::pair<IndexPath, std::string>;  // with the kind; empty for a cell
 
+  [[nodiscard]] static Key keyOf(const UICollectionViewLayoutAttributes& attributes);
   void takeBounds();
   void layOut();
   [[nodiscard]] ViewRef makeView(const UICollectionViewLayoutAttributes& attributes);

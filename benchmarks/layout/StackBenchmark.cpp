@@ -150,6 +150,9 @@ constexpr Goal kGoals[] = {
     {"Layout/Resize/100", "Layout/Build/100", 0.1},
     {"Layout/Resize/1000", "Layout/Build/1000", 0.1},
     {"Layout/Resize/1000", nullptr, 0, "allocations"},
+    // The same with views.
+    {"Layout/BuildViews/1000", "Layout/BuildViews/100", 15},
+    {"Layout/ResizeViews/1000", "Layout/BuildViews/1000", 0.1},
 };
 
 }  // namespace

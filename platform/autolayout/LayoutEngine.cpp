@@ -38,13 +38,15 @@ const UIView& nearestCommonView(const UIView& a, const UIView& b) {
 
 }  // namespace
 
-void LayoutEngine::takeOver(bool structureChanged) {
-  if (structureChanged) takeOverStructure();
+void LayoutEngine::takeOver(Changes changes) {
+  if (changes.structure) takeOverStructure();
   if (held_.empty()) return;
   if (!takeOverFrames()) startAnew();
   bool baselinesChanged = false;
   takeOverContents(baselinesChanged);
-  takeOverConstants(baselinesChanged);
+  if (changes.structure || changes.constants || baselinesChanged || isAnyLeftOut_) {
+    takeOverConstants(baselinesChanged);
+  }
   solver_->update();
 }
 
@@ -212,6 +214,7 @@ void LayoutEngine::enter(Held& held) {
 
 void LayoutEngine::leaveOut(Held& held) {
   held.id = {};
+  isAnyLeftOut_ = true;
   if (std::exchange(held.isReported, true)) return;
   if (leftOut()) leftOut()(*held.constraint);
 }
@@ -313,6 +316,7 @@ void LayoutEngine::setContent(Axis& axis, double content) {
 
 void LayoutEngine::takeOverConstants(bool baselinesChanged) {
   std::vector<Held*> outside;
+  isAnyLeftOut_ = false;
   for (auto& [key, held] : held_) {
     const NSLayoutConstraint& constraint = *held.constraint;
     if (held.id == ConstraintId{}) {

@@ -22,10 +22,16 @@ namespace kindora {
 /// before it is left out until it fits, and reported once.
 class LayoutEngine final {
  public:
+  /// What has happened since the last time. A changed structure may bring changed constants.
+  struct Changes {
+    bool structure = true;
+    bool constants = true;
+  };
+
   explicit LayoutEngine(UIView& root) : root_(root) {}
 
   /// Takes over what has changed: constraints, constants, given frames and sizes of contents.
-  void takeOver(bool structureChanged);
+  void takeOver(Changes changes);
   /// Gives the views that constraints place their frames.
   void placeViews();
 
@@ -97,6 +103,7 @@ class LayoutEngine final {
   std::unordered_map<const UIView*, Entry> entries_;
   std::unordered_map<const NSLayoutConstraint*, Held> held_;
   std::uint64_t mark_ = 0;
+  bool isAnyLeftOut_ = false;  // it may fit at any later pass
 };
 
 }  // namespace kindora

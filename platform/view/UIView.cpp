@@ -269,7 +269,9 @@ void UIView::insertSubviewAbove(const std::shared_ptr<UIView>& view, const UIVie
   }
   view->superview_ = weak_from_this();
   view->removed_ = false;
-  const auto below = std::ranges::find(subviews_, sibling, &std::shared_ptr<UIView>::get);
+  const auto below = sibling == nullptr
+                         ? subviews_.end()
+                         : std::ranges::find(subviews_, sibling, &std::shared_ptr<UIView>::get);
   subviews_.insert(below == subviews_.end() ? below : below + 1, view);
   setNeedsLayout();
   structureChanged();

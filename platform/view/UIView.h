@@ -321,6 +321,7 @@ class UIView : public std::enable_shared_from_this<UIView> {
   // Of the topmost view of a tree.
   std::unique_ptr<LayoutEngine> engine_;
   bool structureChanged_ = true;
+  bool constantsChanged_ = true;
   bool layoutIsScheduled_ = false;
   bool isLayingOut_ = false;
   std::map<int, Observer> observers_;

@@ -67,6 +67,7 @@ void UIView::setTranslatesAutoresizingMaskIntoConstraints(bool translates) {
 
 void UIView::constraintDidChange() {
   if (laidOut_) layoutTarget_ = state_.layout + 1;
+  topmostView().constantsChanged_ = true;
   scheduleLayout();
 }
 
@@ -111,7 +112,8 @@ void UIView::runLayoutPasses() {
   if (!engine_) engine_ = std::make_unique<LayoutEngine>(*this);
   for (int round = 0; round < kMostRounds; ++round) {
     layoutIsScheduled_ = false;
-    engine_->takeOver(std::exchange(structureChanged_, false));
+    engine_->takeOver({.structure = std::exchange(structureChanged_, false),
+                       .constants = std::exchange(constantsChanged_, false)});
     engine_->placeViews();
     layOutMarkedViews();
     if (!layoutIsScheduled_) break;

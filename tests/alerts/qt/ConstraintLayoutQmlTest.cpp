@@ -3,7 +3,6 @@
 // Layout by constraints as QML writes it.
 #include <QQmlComponent>
 #include <QQmlEngine>
-#include <QtPlugin>
 #include <memory>
 
 #include "alerts/qt/ConstraintLayout.h"
@@ -11,8 +10,6 @@
 #include "alerts/qt/ItemView.h"
 #include "alerts/qt/LayoutConstraint.h"
 #include "tests/support/QuickFixture.h"
-
-Q_IMPORT_QML_PLUGIN(Kindora_AlertsPlugin)
 
 namespace kindora {
 namespace {
@@ -34,7 +31,7 @@ class ConstraintLayoutQmlTest : public QuickFixture {
     settle();
   }
   void settle() { static_cast<void>(drawn()); }
-  QQuickItem& item(const char* name) {
+  [[nodiscard]] QQuickItem& item(const char* name) {
     return *layout->findChild<QQuickItem*>(QLatin1String(name));
   }
   QRectF geometry(const char* name) {

@@ -30,12 +30,16 @@ class ConstraintLayoutTest : public QuickFixture {
  protected:
   ConstraintLayoutTest() { layout->setSize({100, 80}); }
 
-  static UIViewRef view(QQuickItem& item) { return viewOfItem(item); }
+  static UIViewRef view(QQuickItem& of) { return viewOfItem(of); }
+  static void setContent(QQuickItem& of, double width, double height) {
+    of.setImplicitWidth(width);
+    of.setImplicitHeight(height);
+  }
   void settle() { static_cast<void>(drawn()); }
   // In the layout's corner.
-  void stand(QQuickItem& item) { qav_alignEdgesWithSuperview(view(item), kCorner); }
-  static QRectF geometry(const QQuickItem& item) {
-    return {item.position(), QSizeF(item.width(), item.height())};
+  void stand(QQuickItem& one) { qav_alignEdgesWithSuperview(view(one), kCorner); }
+  static QRectF geometry(const QQuickItem& of) {
+    return {of.position(), QSizeF(of.width(), of.height())};
   }
 
   std::unique_ptr<CountingLayout> layout = place<CountingLayout>({0, 0, 100, 80});
@@ -57,16 +61,16 @@ TEST_F(ConstraintLayoutTest, AnItemWithoutConstraintsKeepsItsGeometry) {
 
 TEST_F(ConstraintLayoutTest, AnItemIsAsLargeAsItsImplicitSizeAndFollowsIt) {
   stand(item);
-  item.setImplicitSize(30, 20);
+  setContent(item, 30, 20);
   settle();
   EXPECT_EQ(geometry(item), QRectF(0, 0, 30, 20));
-  item.setImplicitSize(40, 25);
+  setContent(item, 40, 25);
   settle();
   EXPECT_EQ(geometry(item), QRectF(0, 0, 40, 25));
 }
 
 TEST_F(ConstraintLayoutTest, AnImplicitSizeOfNothingIsNone) {
-  item.setImplicitSize(0, 20);
+  setContent(item, 0, 20);
   EXPECT_EQ(view(item)->intrinsicContentSize(), (CGSize{kNoIntrinsicMetric, 20}));
 }
 
@@ -92,7 +96,7 @@ TEST_F(ConstraintLayoutTest, ManyChangesAskForOnePassAndNoneForNone) {
   layout->setWidth(60);
   layout->setHeight(70);
   height->setConstant(15);
-  item.setImplicitSize(3, 3);
+  setContent(item, 3, 3);
   settle();
   EXPECT_EQ(layout->passes, 1);
   settle();
@@ -157,9 +161,10 @@ TEST_F(ConstraintLayoutTest, ALayoutThatGoesLeavesItsItemsUnplaced) {
   parentless.setParentItem(layout.get());
   stand(parentless);
   item.setParentItem(nullptr);
+  item.setParent(nullptr);
   layout.reset();
   EXPECT_EQ(view(parentless)->superview(), nullptr);
-  parentless.setImplicitSize(5, 5);
+  setContent(parentless, 5, 5);
   settle();
 }
 
@@ -178,7 +183,7 @@ TEST_F(ConstraintLayoutTest, AnItemThatMovesToAnotherParentLosesWhatHeldItThere)
 TEST_F(ConstraintLayoutTest, ALayoutDirectlyInsideAnotherIsPlacedByIt) {
   ConstraintLayout inner(layout.get());
   QQuickItem content(&inner);
-  content.setImplicitSize(30, 20);
+  setContent(content, 30, 20);
   stand(inner);
   qav_alignEdges(view(content), UIRectEdge::all, view(inner), {4, 4, -4, -4});
   settle();

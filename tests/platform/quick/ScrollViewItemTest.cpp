@@ -4,6 +4,7 @@
 
 #include <QWheelEvent>
 
+#include "platform/qt/quick/TextInputItem.h"
 #include "platform/view/UILabel.h"
 #include "platform/view/UITextField.h"
 #include "tests/platform/quick/RecordFixture.h"
@@ -96,6 +97,14 @@ TEST_F(ScrollViewItemTest, WhatHasTheKeyboardIsScrolledIntoSight) {
   QTest::keyClick(&window, Qt::Key_Tab);
   QTest::keyClick(&window, Qt::Key_Tab);
   EXPECT_GT(scroll->contentOffset().y, 100);
+}
+
+TEST_F(ScrollViewItemTest, AFieldThatHadTheKeyboardBeforeItWasDrawnIsDrawnOnceAndInSight) {
+  auto field = std::make_shared<UITextField>();
+  field->becomeFirstResponder();
+  add(field, {{0, 500}, {200, 30}}, scroll);
+  EXPECT_EQ(item->findChildren<TextInputItem*>().size(), 1);
+  EXPECT_EQ(scroll->contentOffset(), (CGPoint{0, 338}));
 }
 
 TEST_F(ScrollViewItemTest, TheIndicatorShowsOnlyWhereThereIsMore) {
