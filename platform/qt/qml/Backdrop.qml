@@ -48,7 +48,7 @@ Item {
     Rectangle {
         id: shape
         anchors.fill: parent
-        radius: root.panel?.cornerRadius ?? 0
+        radius: root.panel?.visibleRadius ?? 0
         visible: false
     }
 

@@ -16,7 +16,7 @@ BlurItem {
 
     Rectangle {
         anchors.fill: parent
-        radius: root.cornerRadius
+        radius: root.visibleRadius
         color: root.tone
     }
 }

@@ -8,6 +8,7 @@
 #include <QSGRendererInterface>
 #include <algorithm>
 
+#include "platform/qt/quick/DrawnPlace.h"
 #include "platform/view/UIVisualEffectView.h"
 
 namespace kindora {
@@ -114,6 +115,12 @@ QColor BlurItem::tone() const {
 
 QColor BlurItem::windowColor() const {
   return window() != nullptr ? window()->color() : QColor(Qt::white);
+}
+
+double BlurItem::visibleRadius() const {
+  const auto cut = view() ? roundedCut(*view()) : std::nullopt;
+  const bool fills = cut && cut->rect.size() == size() && cut->rect.topLeft().isNull();
+  return fills ? std::max(cornerRadius(), cut->radius) : cornerRadius();
 }
 
 }  // namespace kindora

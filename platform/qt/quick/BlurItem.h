@@ -24,6 +24,8 @@ class BlurItem : public kindora::ViewItem {
   /// What the panel is drawn in over the blur, or instead of it.
   Q_PROPERTY(QColor tone READ tone NOTIFY backdropChanged)
   Q_PROPERTY(QColor windowColor READ windowColor NOTIFY backdropChanged)
+  /// The panel's own corner radius, or that of what it fills and is cut off by.
+  Q_PROPERTY(double visibleRadius READ visibleRadius NOTIFY viewChanged)
 
  public:
   explicit BlurItem(QQuickItem* parent = nullptr);
@@ -33,6 +35,7 @@ class BlurItem : public kindora::ViewItem {
   [[nodiscard]] QVariantList places() const;
   [[nodiscard]] QColor tone() const;
   [[nodiscard]] QColor windowColor() const;
+  [[nodiscard]] double visibleRadius() const;
 
  signals:
   void backdropChanged();
