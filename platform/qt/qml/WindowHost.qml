@@ -12,7 +12,7 @@ FocusScope {
     readonly property int cover: {
         let topmost = -1;
         for (let i = 0; i < presentations.count; ++i) {
-            if ((presentations.itemAt(i) as PresentedPage)?.covers)
+            if ((presentations.itemAt(i) as PresentedLayer)?.covers)
                 topmost = i;
         }
         return topmost;
@@ -24,29 +24,35 @@ FocusScope {
     onHeightChanged: root.host.reportSize(root.width, root.height)
     Component.onCompleted: root.host.reportSize(root.width, root.height)
 
-    PageLoader {
+    CoverableItem {
         anchors.fill: parent
         visible: root.cover < 0
-        focus: root.host.presentations.count === 0
-        enabled: root.host.presentations.count === 0
-        controller: root.host.rootViewController
+        focus: !covered
+        covered: root.host.presentations.count > 0
+        Accessible.role: Accessible.Grouping
+
+        PageLoader {
+            anchors.fill: parent
+            focus: true
+            controller: root.host.rootViewController
+            Accessible.role: Accessible.Pane
+        }
     }
 
     Repeater {
         id: presentations
         model: root.host.presentations
 
-        delegate: PresentedPage {
+        delegate: PresentedLayer {
             id: presented
 
             required property int index
-            readonly property bool onTop: presented.index === root.host.presentations.count - 1
 
             width: root.width
             height: root.height
             visible: root.cover <= presented.index
-            focus: presented.onTop
-            enabled: presented.onTop
+            focus: !presented.covered
+            covered: presented.index < root.host.presentations.count - 1
         }
     }
 }

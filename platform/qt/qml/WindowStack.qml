@@ -10,7 +10,7 @@ FocusScope {
     Repeater {
         model: UIApplication.windowList
 
-        delegate: WindowLayer {
+        delegate: CoverableItem {
             id: layer
 
             required property UIWindow host

@@ -9,6 +9,7 @@
 #include <limits>
 #include <memory>
 #include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -377,6 +378,63 @@ TEST_F(LayerAnimationsTest, NobodyNeedsToHear) {
   play(*fade);
   time.advance(1.01);
   EXPECT_EQ(shownAlpha(), 0.5);
+}
+
+// --- Transactions ---
+
+TEST_F(LayerAnimationsTest, ATransactionIsOverWhenItsLastAnimationIs) {
+  const auto shorter = numbers({0, 1});
+  shorter->setDuration(0.5);
+  int completed = 0;
+  performInAnimationTransaction(
+      [&] {
+        play(*shorter, "opacity");
+        play(*numbers({0, 1}), "position");
+      },
+      [&] { ++completed; });
+  time.advance(0.9);
+  EXPECT_EQ(completed, 0);
+  time.advance(0.2);
+  EXPECT_EQ(completed, 1);
+}
+
+TEST_F(LayerAnimationsTest, ATransactionWithoutAnimationsIsOverAtOnce) {
+  int completed = 0;
+  performInAnimationTransaction([] {}, [&] { ++completed; });
+  EXPECT_EQ(completed, 1);
+}
+
+TEST_F(LayerAnimationsTest, WhatIsAddedAfterATransactionIsNotWaitedFor) {
+  int completed = 0;
+  const auto shorter = numbers({0, 1});
+  shorter->setDuration(0.5);
+  performInAnimationTransaction([&] { play(*shorter); }, [&] { ++completed; });
+  play(*numbers({0, 1}), "position");
+  time.advance(0.6);
+  EXPECT_EQ(completed, 1);
+}
+
+TEST_F(LayerAnimationsTest, AnAnimationThatIsTakenAwayDoesNotHoldATransactionUp) {
+  int completed = 0;
+  performInAnimationTransaction([&] { play(*numbers({0, 1})); }, [&] { ++completed; });
+  removeAnimationForKey(*view, "opacity");
+  EXPECT_EQ(completed, 1);
+}
+
+TEST_F(LayerAnimationsTest, AnAnimationBelongsToTheInnermostTransaction) {
+  std::vector<std::string> over;
+  performInAnimationTransaction(
+      [&] {
+        performInAnimationTransaction(
+            [&] {
+              play(*numbers({0, 1}));
+            },
+            [&] { over.emplace_back("inner"); });
+      },
+      [&] { over.emplace_back("outer"); });
+  EXPECT_THAT(over, ElementsAre("outer"));
+  time.advance(1.1);
+  EXPECT_THAT(over, ElementsAre("outer", "inner"));
 }
 
 }  // namespace

@@ -87,6 +87,17 @@ TEST_F(UIViewKeyframesTest, AnAnimationBlockBeginsFromWhatTheyShow) {
   EXPECT_DOUBLE_EQ(view->presentation().alpha, 0.55);
 }
 
+TEST_F(UIViewKeyframesTest, ATransformTakesThePlaceOfScaleAndDisplacement) {
+  view->setScaling(0.5);
+  view->setTranslation({7, 8});
+  view->setKeyframeValues({.transform = CATransform3DMakeScale(2, 2, 1)});
+  EXPECT_EQ(view->presentation().scaling, 1);
+  EXPECT_EQ(view->presentation().translation, CGPoint{});
+  view->setKeyframeValues({});
+  EXPECT_EQ(view->presentation().scaling, 0.5);
+  EXPECT_EQ(view->presentation().translation, (CGPoint{7, 8}));
+}
+
 TEST_F(UIViewKeyframesTest, ATransformIsKeptForWhoDrawsTheView) {
   const CATransform3D moved{.m41 = 7};
   view->setKeyframeValues({.transform = moved});

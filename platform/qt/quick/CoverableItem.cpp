@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include "platform/qt/quick/WindowLayer.h"
+#include "platform/qt/quick/CoverableItem.h"
 
 #include <QAccessibleObject>
 #include <QQuickWindow>
@@ -8,13 +8,16 @@
 namespace kindora {
 namespace {
 
-// What assistive programs see of a layer: what it holds, or nothing.
-class LayerInterface final : public QAccessibleObject {
+// What assistive programs see: what the item holds, or nothing.
+class CoverableInterface final : public QAccessibleObject {
  public:
-  explicit LayerInterface(WindowLayer* layer) : QAccessibleObject(layer) {}
+  explicit CoverableInterface(CoverableItem* item) : QAccessibleObject(item) {}
 
   QAccessibleInterface* parent() const override {
-    return QAccessible::queryAccessibleInterface(layer().window());
+    for (QQuickItem* up = item().parentItem(); up != nullptr; up = up->parentItem()) {
+      if (auto* found = QAccessible::queryAccessibleInterface(up)) return found;
+    }
+    return QAccessible::queryAccessibleInterface(item().window());
   }
   int childCount() const override { return content() != nullptr ? 1 : 0; }
   QAccessibleInterface* child(int index) const override { return index == 0 ? content() : nullptr; }
@@ -27,36 +30,36 @@ class LayerInterface final : public QAccessibleObject {
   }
   QString text(QAccessible::Text /*kind*/) const override { return {}; }
   QRect rect() const override {
-    const QQuickWindow* window = layer().window();
+    const QQuickWindow* window = item().window();
     if (window == nullptr) return {};
-    const QRect scene = layer().mapRectToScene(layer().boundingRect()).toRect();
+    const QRect scene = item().mapRectToScene(item().boundingRect()).toRect();
     return scene.translated(window->mapToGlobal(QPoint(0, 0)));
   }
   QAccessible::Role role() const override { return QAccessible::Grouping; }
   QAccessible::State state() const override {
     QAccessible::State state;
-    state.disabled = layer().isCovered();
-    state.invisible = !layer().isVisible();
+    state.disabled = item().isCovered();
+    state.invisible = !item().isVisible();
     return state;
   }
 
  private:
-  [[nodiscard]] WindowLayer& layer() const { return *static_cast<WindowLayer*>(object()); }
+  [[nodiscard]] CoverableItem& item() const { return *static_cast<CoverableItem*>(object()); }
   [[nodiscard]] QAccessibleInterface* content() const {
-    if (layer().isCovered() || layer().childItems().isEmpty()) return nullptr;
-    return QAccessible::queryAccessibleInterface(layer().childItems().constFirst());
+    if (item().isCovered() || item().childItems().isEmpty()) return nullptr;
+    return QAccessible::queryAccessibleInterface(item().childItems().constFirst());
   }
 };
 
 QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
-  auto* layer = qobject_cast<WindowLayer*>(object);
-  const bool asked = className == QLatin1String(WindowLayer::staticMetaObject.className());
-  return layer != nullptr && asked ? new LayerInterface(layer) : nullptr;
+  auto* item = qobject_cast<CoverableItem*>(object);
+  const bool asked = className == QLatin1String(CoverableItem::staticMetaObject.className());
+  return item != nullptr && asked ? new CoverableInterface(item) : nullptr;
 }
 
 }  // namespace
 
-WindowLayer::WindowLayer(QQuickItem* parent) : QQuickItem(parent) {
+CoverableItem::CoverableItem(QQuickItem* parent) : QQuickItem(parent) {
   static const bool installed = [] {
     QAccessible::installFactory(makeInterface);
     return true;
@@ -65,7 +68,7 @@ WindowLayer::WindowLayer(QQuickItem* parent) : QQuickItem(parent) {
   setFlag(ItemIsFocusScope);
 }
 
-void WindowLayer::setCovered(bool covered) {
+void CoverableItem::setCovered(bool covered) {
   if (covered_ == covered) return;
   covered_ = covered;
   setEnabled(!covered);

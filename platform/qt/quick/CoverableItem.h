@@ -6,16 +6,16 @@
 
 namespace kindora {
 
-/// Holds the one item that draws a window. Covered, it stays in sight, but neither the pointer nor
-/// the keyboard nor the accessibility tree reaches into it. What it holds must be accessible itself
-/// to be found while it is not covered.
-class WindowLayer : public QQuickItem {
+/// Holds one item over which something else may lie: a window, or a page. Covered, it stays in
+/// sight, but neither the pointer nor the keyboard nor the accessibility tree reaches into it. What
+/// it holds must be accessible itself to be found while it is not covered.
+class CoverableItem : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(bool covered READ isCovered WRITE setCovered NOTIFY coveredChanged)
 
  public:
-  explicit WindowLayer(QQuickItem* parent = nullptr);
+  explicit CoverableItem(QQuickItem* parent = nullptr);
 
   [[nodiscard]] bool isCovered() const { return covered_; }
   void setCovered(bool covered);
