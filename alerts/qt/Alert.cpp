@@ -69,10 +69,15 @@ void Alert::open() {
   controller_->didDisappearHandler = [self = QPointer(this)] {
     if (self) self->ended();
   };
-  emit openedChanged();
   controller_->presentWithCompletion([self = QPointer(this)] {
     if (self) emit self->presented();
   });
+  if (!controller_->usesLegacyAlert() && controller_->presentingViewController() == nullptr) {
+    qWarning("Alert.open: there is nothing to show it above; the window needs an AlertLayer");
+    controller_ = nullptr;
+    return;
+  }
+  emit openedChanged();
 }
 
 void Alert::addAction(AlertAction& action) {

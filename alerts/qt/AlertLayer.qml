@@ -4,18 +4,23 @@ import QtQuick
 import Kindora.Alerts
 import Kindora.Platform
 
-// Shows the alerts of a window: the topmost item in it, over all of it. While one is shown, `content`
-// (the item that holds everything else) gets no input and is not read aloud.
+// Shows a program's alerts in the window that it lies in: over all of it, a header and a footer and
+// open popups included. While one is shown, it has the pointer and the keyboard; else there is
+// nothing. A program has one layer.
 FocusScope {
     id: root
 
-    property Item content: null
     readonly property bool covers:
         layer.window.presentations.count > 0 || UIApplication.windowList.count > 1
 
     anchors.fill: parent
-    z: 1
-    focus: root.covers
+    visible: root.covers
+    z: 1000002
+    // Out of the part that an ApplicationWindow leaves to its content.
+    Window.onContentItemChanged: {
+        if (root.Window.contentItem)
+            root.parent = root.Window.contentItem;
+    }
 
     AlertLayerWindow {
         id: layer
@@ -23,14 +28,11 @@ FocusScope {
 
     WindowStack {
         anchors.fill: parent
-        visible: root.covers
         focus: true
     }
 
-    Binding {
-        target: root.content
-        when: root.content !== null
-        property: "enabled"
-        value: !root.covers
+    KeyboardHold {
+        item: root
+        active: root.covers
     }
 }

@@ -3,6 +3,7 @@
 #include "alerts/qt/AlertLayerWindow.h"
 
 #include "alerts/qt/AlertWindows.h"
+#include "platform/qt/quick/QtViewServices.h"
 #include "platform/view/UIViewTint.h"
 
 namespace kindora {
@@ -22,6 +23,7 @@ class EmptyViewController final : public UIViewController {
 
 AlertLayerWindow::AlertLayerWindow(QObject* parent)
     : QObject(parent), root_(makeViewController<EmptyViewController>()), window_(makeWindow()) {
+  ensureViewServices();
   installAlertWindows();
   window_->setTintColor(kDefaultTintColor);
   window_->setRootViewController(root_);

@@ -11,8 +11,8 @@
 
 namespace kindora {
 
-/// The window of the toolkit in which the alerts of a Qt Quick window are shown. It is the key
-/// window for as long as it lives, and becomes it at once.
+/// The window of the toolkit in which the alerts of a Qt Quick window are shown. It becomes the key
+/// window at once, and installs what views need of the system unless that has been done.
 class AlertLayerWindow : public QObject {
   Q_OBJECT
   QML_ELEMENT

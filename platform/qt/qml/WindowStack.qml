@@ -3,7 +3,8 @@
 import QtQuick
 import Kindora.Platform
 
-// Draws all visible windows above each other. The keyboard belongs to the key window.
+// Draws all visible windows above each other. The keyboard belongs to the key window. Without sight
+// of it, its shortcuts do nothing.
 FocusScope {
     id: root
 
@@ -35,6 +36,7 @@ FocusScope {
     }
 
     Shortcut {
+        enabled: root.visible
         sequences: ["Esc", "Back", "Alt+Left"]
         onActivated: UIApplication.goBack()
     }
@@ -46,6 +48,7 @@ FocusScope {
 
     // For those who cannot shake.
     Shortcut {
+        enabled: root.visible
         sequence: "Ctrl+Shift+K"
         onActivated: shakes.shake()
     }
