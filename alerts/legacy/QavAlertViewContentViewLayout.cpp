@@ -40,6 +40,7 @@ CGSize QavAlertViewContentView::maximumSize() const {
 }
 
 void QavAlertViewContentView::setMaximumSize(CGSize size) {
+  if (maximumSize_ == size) return;
   maximumSize_ = size;
   measuresChanged();
 }

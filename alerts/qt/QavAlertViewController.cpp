@@ -22,6 +22,7 @@ constexpr double kMass = 3;
 constexpr double kStiffness = 1000;
 constexpr double kScaleBefore = 1.26;
 constexpr double kScaleAfter = 0.84;
+constexpr double kVerticalMargins = 40;  // points, both together
 
 std::unique_ptr<TovSpringAnimation> makeSpring(const std::shared_ptr<CAAnimationDelegate>& delegate,
                                                NSValue from, NSValue to) {
@@ -70,6 +71,15 @@ std::shared_ptr<UIView> QavAlertViewController::loadView() {
                               UIRectEdge::top | UIRectEdge::left | UIRectEdge::right);
   bottomSpacingConstraint_ = qav_alignEdge(alertContainerView_, UIRectEdge::bottom, root);
   return root;
+}
+
+void QavAlertViewController::viewDidLayoutSubviews() {
+  UIViewController::viewDidLayoutSubviews();
+  const auto alert = shownAlert_.lock();
+  if (!alert) return;
+  QavAlertViewContentView& content = *alert->alertContentView();
+  content.setMaximumSize(
+      {content.maximumSize().width, view()->frame().size.height - kVerticalMargins});
 }
 
 // --- Transitions ---

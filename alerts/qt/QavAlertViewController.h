@@ -42,6 +42,8 @@ class QavAlertViewController final : public kindora::UIViewController, public CA
   [[nodiscard]] bool dismissingLastAlert() const { return dismissingLastAlert_; }
 
   [[nodiscard]] std::shared_ptr<UIView> loadView() override;
+  /// The alert is never higher than the window less a margin.
+  void viewDidLayoutSubviews() override;
   /// Esc and the system's back press the cancel button of the visible alert, if it has one.
   bool goBack() override;
   void animationDidStop(CAKeyframeAnimation& /*animation*/, bool /*finished*/) override {

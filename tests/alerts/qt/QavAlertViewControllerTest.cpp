@@ -156,5 +156,25 @@ TEST_F(QavAlertViewControllerTest, TheAlertStandsInTheMiddleOfTheRoomThatTheKeyb
   EXPECT_EQ(controller->bottomSpacingConstraint()->constant(), 0);
 }
 
+TEST_F(QavAlertViewControllerTest, TheAlertFitsTheWindowWhenThatIsResized) {
+  const auto longAlert =
+      QavAlertView::alertWithTitleMessageButtons("T", std::string(3000, 'x'), {"OK"});
+  longAlert->show();
+  UIWindow* alertWindow = UIApplication::sharedApplication()->windows().back();
+  ASSERT_EQ(alertWindow->windowLevel(), UIWindowLevelAlert);
+  alertWindow->reportSize(320, 480);
+  alertWindow->root()->view()->layoutIfNeeded();
+  EXPECT_EQ(longAlert->frame().size.height, 440);
+  alertWindow->reportSize(480, 320);
+  alertWindow->root()->view()->layoutIfNeeded();
+  EXPECT_EQ(longAlert->frame().size.height, 280);
+  EXPECT_EQ(longAlert->center(), (CGPoint{240, 160}));
+  time.advance(0.6);
+  longAlert->dismissWithClickedButtonIndex(0, true);
+  time.advance(0.6);
+  EXPECT_EQ(UIApplication::sharedApplication()->windows().size(), 1U);
+  EXPECT_TRUE(window.isKeyWindow());
+}
+
 }  // namespace
 }  // namespace kindora
