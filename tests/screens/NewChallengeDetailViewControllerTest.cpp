@@ -134,7 +134,8 @@ TEST_F(NewChallengeDetailViewControllerTest, TheContentIsHeldInTheMiddle) {
   EXPECT_TRUE(holds(screen().centerVerticallyConstraint));
   EXPECT_TRUE(holds(screen().leftConstraint));
   EXPECT_TRUE(holds(screen().rightConstraint));
-  EXPECT_EQ(screen().centerVerticallyConstraint.lock()->firstAttribute, NSLayoutAttribute::centerY);
+  EXPECT_EQ(screen().centerVerticallyConstraint.lock()->firstAttribute(),
+            NSLayoutAttribute::centerY);
 }
 
 // An outlet that the storyboard forgot.
@@ -291,7 +292,7 @@ TEST_F(OpenNewChallengeDetailViewControllerTest, RevealsOnceHoweverManyReportsCo
   time.advance(2);
   int closings = 0;
   for (const auto& constraint : screen().view()->constraints()) {
-    if (constraint->firstItem.lock() == screen().rejectButton.lock()) ++closings;
+    if (constraint->firstItem() == screen().rejectButton.lock()) ++closings;
   }
   EXPECT_EQ(closings, 1);
 }
