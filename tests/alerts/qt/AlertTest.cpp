@@ -10,7 +10,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
-#include <QtPlugin>
+#include <QtQml/QQmlExtensionPlugin>
 #include <memory>
 
 #include "alerts/qt/KeyboardHold.h"
