@@ -13,7 +13,7 @@
 #include <QtPlugin>
 #include <memory>
 
-#include "alerts/qt/KeyboardHold.h"
+#include "alerts/qt/QavAlertController.h"
 #include "tests/support/ManualTime.h"
 
 Q_IMPORT_QML_PLUGIN(Kindora_AlertsPlugin)
@@ -261,6 +261,31 @@ TEST_F(AlertTest, AnAlertMayOpenAnother) {
   EXPECT_EQ(text("chosen"), "keep ");
 }
 
+TEST_F(AlertTest, OpensOnceTheOneThatIsGoingHasGone) {
+  open();
+  alert().close();
+  alert("form").open();
+  EXPECT_FALSE(alert("form").isOpened());
+  pass();
+  pass();
+  EXPECT_FALSE(alert().isOpened());
+  EXPECT_TRUE(alert("form").isOpened());
+  press(QStringLiteral("Done"));
+  pass();
+  EXPECT_FALSE(alert("form").isOpened());
+}
+
+TEST_F(AlertTest, ClosedBeforeItOpensItDoesNot) {
+  open();
+  alert().close();
+  alert("form").open();
+  alert("form").close();
+  pass();
+  pass();
+  EXPECT_FALSE(alert("form").isOpened());
+  EXPECT_FALSE(layer().isVisible());
+}
+
 // --- The layer ---
 
 using AlertLayer = AlertTest;
@@ -273,6 +298,40 @@ TEST_F(AlertLayer, BlocksNothingWhileNoAlertIsOpen) {
   EXPECT_EQ(text("typed"), "a");
   key(Qt::Key_Escape);
   EXPECT_EQ(count("escapes"), 1);
+}
+
+TEST_F(AlertLayer, CoversAWindowsHeaderToo) {
+  QQmlComponent component(&engine);
+  component.setData(R"(
+    import QtQuick
+    import QtQuick.Templates as T
+    import Kindora.Alerts
+    T.ApplicationWindow {
+        id: root
+        width: 320; height: 480; visible: true
+        property Item layer: layer
+        property int presses: 0
+        header: Item {
+            implicitHeight: 60
+            MouseArea { anchors.fill: parent; onPressed: ++root.presses }
+        }
+        AlertLayer { id: layer }
+    })",
+                    {});
+  window.reset();  // a program has one layer
+  window.reset(qobject_cast<QQuickWindow*>(component.create()));
+  ASSERT_NE(window, nullptr) << component.errorString().toStdString();
+  static_cast<void>(window->grabWindow());
+  const auto* covering = window->property("layer").value<QQuickItem*>();
+  EXPECT_EQ(covering->mapRectToScene(covering->boundingRect()), QRectF(0, 0, 320, 480));
+  QTest::mouseClick(window.get(), Qt::LeftButton, {}, {10, 10});
+  EXPECT_EQ(count("presses"), 1);
+  const auto shown = QavAlertController::showAlertControllerWithTitle("Title", "Message", "OK");
+  pass();
+  QTest::mouseClick(window.get(), Qt::LeftButton, {}, {10, 10});
+  EXPECT_EQ(count("presses"), 1);
+  shown->dismissWithCompletion();
+  pass();
 }
 
 TEST_F(AlertLayer, KeepsThePointerToItself) {
