@@ -12,7 +12,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
-#include <QtPlugin>
+#include <QtQml/QQmlExtensionPlugin>
 #include <chrono>
 #include <cstdlib>
 #include <memory>
