@@ -10,7 +10,9 @@
 #include <string>
 #include <utility>
 
+#include "alerts/qt/CurrentViewController.h"
 #include "alerts/qt/QavAlertController.h"
+#include "platform/qt/toolkit/UIWindow.h"
 
 namespace kindora {
 namespace {
@@ -18,6 +20,11 @@ namespace {
 // QML has no absent text: an empty one takes no room either.
 std::optional<std::string> optionalText(const QString& text) {
   return text.isEmpty() ? std::nullopt : std::optional(text.toStdString());
+}
+
+// What it presented now would go with it. An alert's progress is 1 from when it has come.
+bool isGoing(UIViewController& controller) {
+  return controller.transitionCoordinator() != nullptr && controller.presentationProgress() == 1;
 }
 
 }  // namespace
@@ -53,8 +60,19 @@ QQmlListProperty<AlertAction> Alert::actions() { return {this, &actions_}; }
 
 QQmlListProperty<AlertTextField> Alert::textFields() { return {this, &textFields_}; }
 
+bool Alert::waitsForAnother() {
+  disconnect(opening_);
+  const UIViewControllerRef top = qav_currentViewController();
+  if (!top || !isGoing(*top)) return false;
+  const auto once =
+      static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
+  opening_ = connect(top->window()->presentations(), &ControllerList::countChanged, this,
+                     &Alert::open, once);
+  return true;
+}
+
 void Alert::open() {
-  if (controller_) return;
+  if (controller_ || waitsForAnother()) return;
   controller_ = QavAlertController::alertControllerWithTitle(
       optionalText(title_), optionalText(message_), QavAlertControllerStyle::alert);
   controller_->setActionLayout(static_cast<QavAlertActionLayout>(actionLayout_));
@@ -108,6 +126,7 @@ bool Alert::mayDismiss(const QavAlertAction& chosen) {
 }
 
 void Alert::close() {
+  disconnect(opening_);
   if (controller_) controller_->dismissWithCompletion();
 }
 

@@ -64,7 +64,7 @@ class Alert : public QObject {
   /// From open until the alert has gone.
   [[nodiscard]] bool isOpened() const { return controller_ != nullptr; }
 
-  /// Ignored while it is open.
+  /// Ignored while it is open. Above an alert that is just going it opens once that has gone.
   Q_INVOKABLE void open();
   /// Takes the alert away without an action.
   Q_INVOKABLE void close();
@@ -76,6 +76,7 @@ class Alert : public QObject {
   void presented();
 
  private:
+  [[nodiscard]] bool waitsForAnother();
   void addAction(AlertAction& action);
   [[nodiscard]] bool mayDismiss(const QavAlertAction& chosen);
   void ended();
@@ -87,6 +88,7 @@ class Alert : public QObject {
   QList<AlertAction*> actions_;
   QList<AlertTextField*> textFields_;
   std::shared_ptr<QavAlertController> controller_;
+  QMetaObject::Connection opening_;
 };
 
 }  // namespace kindora

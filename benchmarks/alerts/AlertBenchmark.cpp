@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // What showing an alert with two actions costs the main thread, against a page with nothing on it
 // that is presented in the same way: all views made and laid out, the first frame, in which all is
-// still transparent, and the first one in which something is to be seen. Frames are drawn in software
-// and read back, which both pay. Then what a thousand alerts leave behind. Time is moved by hand.
+// still transparent, and the first one in which something is to be seen. Frames are drawn in
+// software and read back, which both pay. Then what a thousand alerts leave behind. Time is moved
+// by hand.
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
@@ -11,7 +12,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
-#include <QtPlugin>
+#include <QtQml/QQmlExtensionPlugin>
 #include <chrono>
 #include <cstdlib>
 #include <memory>
@@ -114,7 +115,8 @@ class Stage final {
     draw();
   }
 
-  /// Seconds that the program's first alert took, for which all that is kept for later ones is made.
+  /// Seconds that the program's first alert took, for which all that is kept for later ones is
+  /// made.
   [[nodiscard]] double first() const { return first_; }
 
  private:

@@ -13,7 +13,7 @@
 #include <QtQml/QQmlExtensionPlugin>
 #include <memory>
 
-#include "alerts/qt/KeyboardHold.h"
+#include "alerts/qt/QavAlertController.h"
 #include "tests/support/ManualTime.h"
 
 Q_IMPORT_QML_PLUGIN(Kindora_AlertsPlugin)
@@ -87,12 +87,7 @@ class AlertTest : public ::testing::Test {
       if (type != QtDebugMsg && type != QtInfoMsg) warnings() << text;
     });
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    QQmlComponent component(&engine);
-    component.setData(kWindow, {});
-    window.reset(qobject_cast<QQuickWindow*>(component.create()));
-    EXPECT_NE(window, nullptr) << component.errorString().toStdString();
-    window->requestActivate();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    load(kWindow);
   }
   ~AlertTest() override {
     window.reset();
@@ -101,6 +96,15 @@ class AlertTest : public ::testing::Test {
     EXPECT_EQ(warnings().join(u'\n').toStdString(), "");
   }
 
+  void load(const char* qml) {
+    window.reset();  // a program has one layer
+    QQmlComponent component(&engine);
+    component.setData(qml, {});
+    window.reset(qobject_cast<QQuickWindow*>(component.create()));
+    ASSERT_NE(window, nullptr) << component.errorString().toStdString();
+    window->requestActivate();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  }
   Alert& alert(const char* name = "question") {
     return *window->findChild<Alert*>(QLatin1String(name));
   }
@@ -190,27 +194,28 @@ TEST_F(AlertTest, GoesFromTheScreenWithItself) {
 }
 
 TEST_F(AlertTest, AFunctionMayKeepItOpen) {
-  const QJSValue refuse = engine.evaluate(QStringLiteral(
-      "(function(action) { globalThis.asked = action.text; return action.text !== 'Delete' })"));
+  const QJSValue refuse = engine.evaluate(
+      QStringLiteral("(function f(action) { f.asked = [f.asked, action.text].join(' ');"
+                     " return action.text !== 'Delete' })"));
   alert().setShouldDismiss(refuse);
   open();
   press(QStringLiteral("Delete"));
   pass();
   EXPECT_TRUE(alert().isOpened());
-  EXPECT_EQ(engine.globalObject().property(QStringLiteral("asked")).toString(),
-            QStringLiteral("Delete"));
   press(QStringLiteral("Keep"));
   pass();
   EXPECT_EQ(text("chosen"), "keep ");
+  EXPECT_EQ(refuse.property(QStringLiteral("asked")).toString().toStdString(), " Delete Keep");
 }
 
 TEST_F(AlertTest, AFunctionThatFailsIsWarnedOfAndKeepsNothingOpen) {
-  alert().setShouldDismiss(engine.evaluate(QStringLiteral("(function() { throw 'oh' })")));
+  alert().setShouldDismiss(
+      engine.evaluate(QStringLiteral("(function() { throw new Error('oh') })")));
   open();
   press(QStringLiteral("Keep"));
   pass();
   EXPECT_FALSE(alert().isOpened());
-  EXPECT_EQ(warnings(), QStringList(QStringLiteral("Alert.shouldDismiss: oh")));
+  EXPECT_EQ(warnings().join(u'\n').toStdString(), "Alert.shouldDismiss: Error: oh");
   warnings().clear();
 }
 
@@ -261,6 +266,31 @@ TEST_F(AlertTest, AnAlertMayOpenAnother) {
   EXPECT_EQ(text("chosen"), "keep ");
 }
 
+TEST_F(AlertTest, OpensOnceTheOneThatIsGoingHasGone) {
+  open();
+  alert().close();
+  alert("form").open();
+  EXPECT_FALSE(alert("form").isOpened());
+  pass();
+  pass();
+  EXPECT_FALSE(alert().isOpened());
+  EXPECT_TRUE(alert("form").isOpened());
+  press(QStringLiteral("Done"));
+  pass();
+  EXPECT_FALSE(alert("form").isOpened());
+}
+
+TEST_F(AlertTest, ClosedBeforeItOpensItDoesNot) {
+  open();
+  alert().close();
+  alert("form").open();
+  alert("form").close();
+  pass();
+  pass();
+  EXPECT_FALSE(alert("form").isOpened());
+  EXPECT_FALSE(layer().isVisible());
+}
+
 // --- The layer ---
 
 using AlertLayer = AlertTest;
@@ -273,6 +303,34 @@ TEST_F(AlertLayer, BlocksNothingWhileNoAlertIsOpen) {
   EXPECT_EQ(text("typed"), "a");
   key(Qt::Key_Escape);
   EXPECT_EQ(count("escapes"), 1);
+}
+
+TEST_F(AlertLayer, CoversAWindowsHeaderToo) {
+  load(R"(
+    import QtQuick
+    import QtQuick.Templates as T
+    import Kindora.Alerts
+    T.ApplicationWindow {
+        id: root
+        width: 320; height: 480; visible: true
+        property Item layer: layer
+        property int presses: 0
+        header: Item {
+            implicitHeight: 60
+            MouseArea { anchors.fill: parent; onPressed: ++root.presses }
+        }
+        AlertLayer { id: layer }
+    })");
+  const auto* covering = window->property("layer").value<QQuickItem*>();
+  EXPECT_EQ(covering->mapRectToScene(covering->boundingRect()), QRectF(0, 0, 320, 480));
+  QTest::mouseClick(window.get(), Qt::LeftButton, {}, {10, 10});
+  EXPECT_EQ(count("presses"), 1);
+  const auto shown = QavAlertController::showAlertControllerWithTitle("Title", "Message", "OK");
+  pass();
+  QTest::mouseClick(window.get(), Qt::LeftButton, {}, {10, 10});
+  EXPECT_EQ(count("presses"), 1);
+  shown->dismissWithCompletion();
+  pass();
 }
 
 TEST_F(AlertLayer, KeepsThePointerToItself) {

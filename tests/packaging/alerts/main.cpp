@@ -61,13 +61,12 @@ void layOut() {
   writeAll();
 }
 
-// Whoever shows an alert's buttons hears which of them can be chosen, and has the chosen one handled.
+// Whoever shows an alert's buttons hears which of them can be chosen, and has the chosen one
+// handled.
 void choose() {
-  const auto action =
-      QavAlertAction::actionWithTitle("Delete", QavAlertActionStyle::destructive,
-                                      [](QavAlertAction& chosen) {
-                                        std::cout << "chosen: " << *chosen.title() << '\n';
-                                      });
+  const auto action = QavAlertAction::actionWithTitle(
+      "Delete", QavAlertActionStyle::destructive,
+      [](QavAlertAction& chosen) { std::cout << "chosen: " << *chosen.title() << '\n'; });
   const auto watch = action->observeEnabled([](QavAlertAction& changed) {
     std::cout << *changed.title() << (changed.isEnabled() ? " can" : " cannot") << " be chosen\n";
   });
@@ -82,6 +81,7 @@ int main() {
   layOut();
   choose();
   std::cout << "a card of " << WideStyle().width() << " points\n";
-  const QavAlertViewCoordinator coordinator({.keyWindow = [] { return nullptr; }, .makeAlertWindow = {}});
+  const QavAlertViewCoordinator coordinator(
+      {.keyWindow = [] { return nullptr; }, .makeAlertWindow = {}});
   std::cout << coordinator.alerts().size() << " alerts on the screen\n";
 }

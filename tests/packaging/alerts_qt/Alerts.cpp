@@ -48,7 +48,8 @@ QavAlertControllerRef askForName(std::function<void(const std::string& name)> an
 
 std::shared_ptr<QavAlertView> say(const std::string& what,
                                   std::function<void(int buttonIndex)> answer) {
-  const auto alert = QavAlertView::alertWithTitleMessageButtons(what, std::nullopt, {"Later", "OK"});
+  const auto alert =
+      QavAlertView::alertWithTitleMessageButtons(what, std::nullopt, {"Later", "OK"});
   alert->showWithDismissHandler(std::move(answer));
   return alert;
 }
