@@ -10,8 +10,9 @@ import Kindora.Platform
 FocusScope {
     id: root
 
+    // An older alert has a window of its own, which is key while it is shown.
     readonly property bool covers:
-        layer.window.presentations.count > 0 || UIApplication.windowList.count > 1
+        layer.window.presentations.count > 0 || !layer.window.key
 
     anchors.fill: parent
     visible: root.covers

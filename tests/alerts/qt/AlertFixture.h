@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "alerts/qt/AlertWindows.h"
 #include "alerts/qt/QavAlertController.h"
 #include "platform/fakes/FakeViewServices.h"
 #include "tests/platform/toolkit/ToolkitFixture.h"
@@ -16,6 +17,7 @@ namespace kindora {
 class AlertFixture : public ToolkitFixture {
  protected:
   AlertFixture() {
+    installAlertWindows();
     window.reportSize(320, 480);
     show(base);
     log();
