@@ -8,6 +8,7 @@
 #include "app/launch/ProgramStart.h"
 #include "app/shell/AppearanceManager.h"
 #include "gallery/GalleryStoryboard.h"
+#include "platform/qt/toolkit/UIWindow.h"
 
 Q_IMPORT_QML_PLUGIN(Kindora_GalleryPlugin)
 
