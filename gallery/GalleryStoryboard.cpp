@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "gallery/GalleryStoryboard.h"
 
+#include "gallery/alerts/AlertsViewController.h"
 #include "gallery/curves/CurvesViewController.h"
 #include "gallery/grid/SpringyGridViewController.h"
 #include "gallery/menu/MenuTableViewController.h"
@@ -17,6 +18,7 @@ constexpr const char* kScratch = "ScratchDemoViewController";
 constexpr const char* kCurves = "CurvesViewController";
 constexpr const char* kSpringyGrid = "SpringyGridViewController";
 constexpr const char* kPhoneNumbers = "PhoneNumbersViewController";
+constexpr const char* kAlerts = "AlertsViewController";
 constexpr const char* kCountries = "CountryTableViewController";
 
 QUrl page(const char* name) {
@@ -45,7 +47,8 @@ UIViewControllerRef makeMenu() {
           {"Scratch-off", "A cover to be rubbed away", "galleryScratch", kScratch},
           {"Curves", "Springs and tweens, plotted", "galleryCurves", kCurves},
           {"Springy grid", "A thousand cells on springs", "galleryGrid", kSpringyGrid},
-          {"Phone numbers", "Laid out as they are typed", "galleryPhone", kPhoneNumbers}});
+          {"Phone numbers", "Laid out as they are typed", "galleryPhone", kPhoneNumbers},
+          {"Alerts", "Cards that ask and tell", "galleryAlerts", kAlerts}});
 }
 
 std::vector<UIStoryboardScene> scenes() {
@@ -53,7 +56,8 @@ std::vector<UIStoryboardScene> scenes() {
       {.identifier = kMenu,
        .make = makeMenu,
        .page = page("MenuPage"),
-       .segues = {show(kScratch), show(kCurves), show(kSpringyGrid), show(kPhoneNumbers)}},
+       .segues = {show(kScratch), show(kCurves), show(kSpringyGrid), show(kPhoneNumbers),
+                  show(kAlerts)}},
       {.identifier = kScratch,
        .make = make<ScratchDemoViewController>,
        .connectOutlets = connectOutlets<ScratchDemoViewController>,
@@ -70,6 +74,7 @@ std::vector<UIStoryboardScene> scenes() {
        .connectOutlets = connectOutlets<PhoneNumbersViewController>,
        .page = page("PhoneNumbersPage"),
        .segues = {{std::string(kChooseCountry), UIStoryboardSegueKind::show, kCountries}}},
+      {.identifier = kAlerts, .make = make<AlertsViewController>, .page = page("AlertsPage")},
       {.identifier = kCountries,
        .make = make<CountryTableViewController>,
        .page = page("CountryPage")},

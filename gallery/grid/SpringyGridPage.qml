@@ -25,27 +25,8 @@ Rectangle {
         }
     }
 
-    Rectangle {
+    CaptionBar {
         id: caption
-        anchors.bottom: parent.bottom
-        width: parent.width
-        height: 48
-        color: "white"
-
-        Rectangle {
-            width: parent.width
-            height: 1
-            color: Qt.rgba(0.88, 0.88, 0.88, 1)
-        }
-
-        PlainText {
-            anchors.fill: parent
-            anchors.leftMargin: 16
-            anchors.rightMargin: 16
-            text: root.controller.caption
-            color: Qt.rgba(0.45, 0.45, 0.45, 1)
-            horizontalAlignment: Text.AlignHCenter
-            verticalAlignment: Text.AlignVCenter
-        }
+        text: root.controller.caption
     }
 }
