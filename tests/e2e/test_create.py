@@ -141,7 +141,7 @@ class Create(kindora_e2e.AppTest):
         )
         self.press("Later")
         self.wait_closed()
-        self.assertIsNotNone(self.app.find("Badges", role="page tab"))
+        self.app.wait_for("Badges", role="page tab")
 
     def test_kindora_leads_to_the_picker_and_back_to_the_first_badge(self):
         self.create()
