@@ -11,7 +11,7 @@ QavAlertAction::QavAlertAction(QavAlertActionStyle style, Handler handler)
 
 QavAlertActionRef QavAlertAction::actionWithTitle(const std::optional<std::string>& title,
                                                   QavAlertActionStyle style, Handler handler) {
-  const QavAlertActionRef action(new QavAlertAction(style, std::move(handler)));
+  QavAlertActionRef action(new QavAlertAction(style, std::move(handler)));
   action->title_ = title;
   return action;
 }
@@ -19,7 +19,7 @@ QavAlertActionRef QavAlertAction::actionWithTitle(const std::optional<std::strin
 QavAlertActionRef QavAlertAction::actionWithAttributedTitle(
     const std::optional<NSAttributedString>& attributedTitle, QavAlertActionStyle style,
     Handler handler) {
-  const QavAlertActionRef action(new QavAlertAction(style, std::move(handler)));
+  QavAlertActionRef action(new QavAlertAction(style, std::move(handler)));
   action->attributedTitle_ = attributedTitle;
   return action;
 }
