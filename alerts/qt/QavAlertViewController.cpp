@@ -90,6 +90,7 @@ void QavAlertViewController::replaceAlert(const AlertRef& oldAlert, const AlertR
   dismissingLastAlert_ = !withAlert;
   setShowsDimmingView(!dismissingLastAlert_);
   shownAlert_ = withAlert;
+  cancelledOnTheWayIn_ = false;
   if (withAlert) {
     alertContainerView_->addSubview(withAlert);
     qav_centerInSuperview(withAlert);
@@ -135,7 +136,9 @@ void QavAlertViewController::spring(const std::shared_ptr<UIView>& view, double 
 
 bool QavAlertViewController::goBack() {
   const auto alert = shownAlert_.lock();
-  if (!alert || !alert->isVisible() || alert->cancelButtonIndex() < 0) return false;
+  if (!alert || alert->cancelButtonIndex() < 0) return false;
+  // On its way in, once is enough: the coordinator postpones what is asked for then.
+  if (!alert->isVisible() && std::exchange(cancelledOnTheWayIn_, true)) return false;
   alert->alertContentViewDidTapButtonAtIndex(*alert->alertContentView(),
                                              alert->cancelButtonIndex());
   return true;

@@ -176,5 +176,26 @@ TEST_F(QavAlertViewControllerTest, TheAlertFitsTheWindowWhenThatIsResized) {
   EXPECT_TRUE(window.isKeyWindow());
 }
 
+TEST_F(QavAlertViewControllerTest, EscPressesTheCancelButtonOnceAlsoOnTheWayIn) {
+  const auto asked = QavAlertView::initWithTitle("T", std::nullopt, {}, "Cancel", {"OK"});
+  asked->didDismissHandler = [this](int index) { note("dismissed " + std::to_string(index)); };
+  asked->show();
+  time.advance(0.1);
+  EXPECT_TRUE(UIApplication::sharedApplication()->keyWindow()->goBack());
+  EXPECT_FALSE(UIApplication::sharedApplication()->keyWindow()->goBack());
+  time.advance(1.2);
+  EXPECT_THAT(log(), ElementsAre("dismissed 0"));
+  EXPECT_TRUE(window.isKeyWindow());
+}
+
+TEST_F(QavAlertViewControllerTest, EscDoesNothingWithoutACancelButton) {
+  const auto told = QavAlertView::initWithTitle("T", std::nullopt, {}, std::nullopt, {"OK"});
+  told->show();
+  time.advance(0.6);
+  EXPECT_FALSE(UIApplication::sharedApplication()->keyWindow()->goBack());
+  EXPECT_TRUE(told->isVisible());
+  told->dismissWithClickedButtonIndex(0, false);
+}
+
 }  // namespace
 }  // namespace kindora
