@@ -10,11 +10,8 @@ import Kindora.Platform
 FocusScope {
     id: root
 
-    readonly property bool covers:
-        layer.window.presentations.count > 0 || UIApplication.windowList.count > 1
-
     anchors.fill: parent
-    visible: root.covers
+    visible: layer.shows
     z: 1000002
     // Out of the part that an ApplicationWindow leaves to its content.
     Window.onContentItemChanged: {
@@ -33,6 +30,6 @@ FocusScope {
 
     KeyboardHold {
         item: root
-        active: root.covers
+        active: layer.shows
     }
 }
