@@ -10,12 +10,8 @@ import Kindora.Platform
 FocusScope {
     id: root
 
-    // An older alert has a window of its own, which is key while it is shown.
-    readonly property bool covers:
-        layer.window.presentations.count > 0 || !layer.window.key
-
     anchors.fill: parent
-    visible: root.covers
+    visible: layer.shows
     z: 1000002
     // Out of the part that an ApplicationWindow leaves to its content.
     Window.onContentItemChanged: {
@@ -34,6 +30,6 @@ FocusScope {
 
     KeyboardHold {
         item: root
-        active: root.covers
+        active: layer.shows
     }
 }

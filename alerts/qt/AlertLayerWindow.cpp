@@ -4,6 +4,7 @@
 
 #include "alerts/qt/AlertWindows.h"
 #include "platform/qt/quick/QtViewServices.h"
+#include "platform/qt/toolkit/UIApplication.h"
 #include "platform/view/UIViewTint.h"
 
 namespace kindora {
@@ -28,8 +29,21 @@ AlertLayerWindow::AlertLayerWindow(QObject* parent)
   window_->setTintColor(kDefaultTintColor);
   window_->setRootViewController(root_);
   window_->makeKeyAndVisible();
+  const WindowList* windows = UIApplication::sharedApplication()->windowList();
+  connect(windows, &WindowList::rowsInserted, this, &AlertLayerWindow::update);
+  connect(windows, &WindowList::rowsRemoved, this, &AlertLayerWindow::update);
+  connect(window_->presentations(), &ControllerList::countChanged, this, &AlertLayerWindow::update);
+  update();
 }
 
 AlertLayerWindow::~AlertLayerWindow() = default;
+
+void AlertLayerWindow::update() {
+  const bool shows = window_->presentations()->count() > 0 ||
+                     UIApplication::sharedApplication()->windows().size() > 1;
+  if (shows_ == shows) return;
+  shows_ = shows;
+  emit showsChanged();
+}
 
 }  // namespace kindora

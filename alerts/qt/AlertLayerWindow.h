@@ -16,15 +16,23 @@ namespace kindora {
 class AlertLayerWindow : public QObject {
   Q_OBJECT
   QML_ELEMENT
-  Q_PROPERTY(kindora::UIWindow* window READ window CONSTANT)
+  Q_PROPERTY(bool shows READ shows NOTIFY showsChanged)
 
  public:
   explicit AlertLayerWindow(QObject* parent = nullptr);
   ~AlertLayerWindow() override;
 
-  [[nodiscard]] UIWindow* window() const { return window_.get(); }
+  /// Whether there is anything to see: something is presented in the window, or an alert view has
+  /// a window of its own.
+  [[nodiscard]] bool shows() const { return shows_; }
+
+ signals:
+  void showsChanged();
 
  private:
+  void update();
+
+  bool shows_ = false;
   UIViewControllerRef root_;
   std::shared_ptr<UIWindow> window_;
 };

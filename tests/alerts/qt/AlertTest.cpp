@@ -13,6 +13,7 @@
 #include <QtQml/QQmlExtensionPlugin>
 #include <memory>
 
+#include "alerts/legacy/QavAlertView.h"
 #include "alerts/qt/QavAlertController.h"
 #include "tests/support/ManualTime.h"
 
@@ -331,6 +332,24 @@ TEST_F(AlertLayer, CoversAWindowsHeaderToo) {
   EXPECT_EQ(count("presses"), 1);
   shown->dismissWithCompletion();
   pass();
+}
+
+TEST_F(AlertLayer, ShowsAlertViewsToo) {
+  int dismissed = -1;
+  const auto view = QavAlertView::alertWithTitleMessageButtons("Title", "Message", {"No", "Yes"});
+  view->showWithDismissHandler([&](int index) { dismissed = index; });
+  pass();
+  pass();
+  EXPECT_TRUE(layer().isVisible());
+  key(Qt::Key_A);
+  EXPECT_EQ(text("typed"), "");
+  press(QStringLiteral("Yes"));
+  pass();
+  pass();
+  EXPECT_EQ(dismissed, 1);
+  EXPECT_FALSE(layer().isVisible());
+  key(Qt::Key_B);
+  EXPECT_EQ(text("typed"), "b");
 }
 
 TEST_F(AlertLayer, KeepsThePointerToItself) {

@@ -146,7 +146,10 @@ int main(int argc, char* argv[]) {
     std::cout << "button " << index << '\n';
     loop.quit();
   });
-  said->didPresentHandler = [&] { said->dismissWithClickedButtonIndex(1, true); };
+  said->didPresentHandler = [&] { loop.quit(); };
+  loop.exec();
+  save(window, "alert-view.png");
+  clickButton(window, QStringLiteral("OK"));
   loop.exec();
   return warnings == 0 ? 0 : 1;
 }
