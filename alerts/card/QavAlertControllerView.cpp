@@ -70,6 +70,7 @@ const std::optional<NSAttributedString>& QavAlertControllerView::title() const {
 
 void QavAlertControllerView::setTitle(const std::optional<NSAttributedString>& title) {
   show(*scrollView_->titleLabel(), title, UIAccessibilityRole::header);
+  announce();
 }
 
 const std::optional<NSAttributedString>& QavAlertControllerView::message() const {
@@ -78,6 +79,13 @@ const std::optional<NSAttributedString>& QavAlertControllerView::message() const
 
 void QavAlertControllerView::setMessage(const std::optional<NSAttributedString>& message) {
   show(*scrollView_->messageLabel(), message, UIAccessibilityRole::staticText);
+  announce();
+}
+
+void QavAlertControllerView::announce() {
+  const auto& text = title() ? title() : message();
+  visualEffectView_->contentView()->setAccessibility(
+      UIAccessibilityRole::alert, text ? std::optional(text->string()) : std::nullopt);
 }
 
 void QavAlertControllerView::setActions(std::vector<QavAlertActionRef> actions) {

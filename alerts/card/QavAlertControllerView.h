@@ -111,6 +111,7 @@ class QavAlertControllerView final : public UIView,
  private:
   QavAlertControllerView();
   void build();
+  void announce();
   void observeActions();
   void actionDidChange(const QavAlertAction& action);
   void addScrollView();

@@ -169,13 +169,14 @@ void showVeto(const AlertStage& stage) {
 }
 
 void showLongText(const AlertStage& stage) {
+  constexpr int kPresents = 40;
   std::string song;
-  for (int left = 24; left > 0; --left) {
+  for (int left = kPresents; left > 0; --left) {
     if (!song.empty()) song += "\n\n";
     song += std::to_string(left) + (left == 1 ? " present stands" : " presents stand") +
             " on the table. One is given away, and somebody laughs.";
   }
-  const auto alert = makeAlert("Twenty-four presents", song);
+  const auto alert = makeAlert("Forty presents", song);
   alert->addAction(answer(stage, "Stop", Style::cancel));
   alert->addAction(answer(stage, "Sing"));
   alert->presentWithCompletion();

@@ -50,5 +50,6 @@ inline constexpr int kScratchRow = 0;
 inline constexpr int kCurvesRow = 1;
 inline constexpr int kGridRow = 2;
 inline constexpr int kPhoneRow = 3;
+inline constexpr int kAlertsRow = 4;
 
 }  // namespace kindora

@@ -14,6 +14,8 @@
 namespace kindora {
 namespace {
 
+constexpr double kSameEdge = 0.1;  // points
+
 bool hasEffects(const QObject& item) {
   const QQmlEngine* engine = qmlEngine(&item);
   if (engine == nullptr) return false;
@@ -119,7 +121,12 @@ QColor BlurItem::windowColor() const {
 
 double BlurItem::visibleRadius() const {
   const auto cut = view() ? roundedCut(*view()) : std::nullopt;
-  const bool fills = cut && cut->rect.size() == size() && cut->rect.topLeft().isNull();
+  if (!cut) return cornerRadius();
+  // Not the item's size, which is rounded to whole pixels.
+  const CGSize own = view()->presentation().frame.size;
+  const QRectF bounds(0, 0, own.width, own.height);
+  const bool fills = (cut->rect.topLeft() - bounds.topLeft()).manhattanLength() < kSameEdge &&
+                     (cut->rect.bottomRight() - bounds.bottomRight()).manhattanLength() < kSameEdge;
   return fills ? std::max(cornerRadius(), cut->radius) : cornerRadius();
 }
 

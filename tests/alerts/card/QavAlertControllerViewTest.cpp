@@ -67,6 +67,16 @@ TEST_F(QavAlertControllerViewTest, TitleIsReadAsAHeaderAndMessageAsText) {
   EXPECT_EQ(title.accessibilityLabel(), std::nullopt);
 }
 
+TEST_F(QavAlertControllerViewTest, PanelIsReadAsAnAlertOfItsTitleElseOfItsMessage) {
+  const auto& panel = *card->visualEffectView()->contentView();
+  EXPECT_EQ(panel.accessibilityRole(), UIAccessibilityRole::alert);
+  EXPECT_EQ(panel.accessibilityLabel(), "Title");
+  card->setTitle(std::nullopt);
+  EXPECT_EQ(panel.accessibilityLabel(), "Message");
+  card->setMessage(std::nullopt);
+  EXPECT_EQ(panel.accessibilityLabel(), std::nullopt);
+}
+
 TEST_F(QavAlertControllerViewTest, PanelIsAsWideAsTheStyleSaysInTheMiddleOfTheWindow) {
   show(2);
   EXPECT_EQ(card->frame(), (CGRect{{0, 0}, {320, 480}}));
