@@ -164,7 +164,10 @@ bool QavAlertView::alertContentViewShouldDeselectButtonAtIndex(
 void QavAlertView::tappedButtonAtIndex(int index) {
   if (const auto told = delegate()) told->alertViewClickedButtonAtIndex(*this, index);
   tell(clickedButtonHandler, index);
-  if (shouldDismiss(index)) dismissWithClickedButtonIndex(index, true);
+  if (!shouldDismiss(index)) return;
+  // Until it is shown again: a second press would dismiss it a second time.
+  setUserInteractionEnabled(false);
+  dismissWithClickedButtonIndex(index, true);
 }
 
 bool QavAlertView::shouldDismiss(int buttonIndex) {

@@ -190,6 +190,7 @@ std::shared_ptr<UIView> QavAlertController::loadView() { return std::make_shared
 
 void QavAlertController::viewWillAppear(bool animated) {
   UIViewController::viewWillAppear(animated);
+  isAnswered_ = false;
   if (std::exchange(isPrepared_, true)) {
     presentingAlert_ = true;
   } else {
@@ -250,8 +251,9 @@ bool QavAlertController::goBack() {
 void QavAlertController::alertControllerViewDidPerformAction(
     QavAlertControllerView& /*alertView*/, const QavAlertActionRef& didPerformAction) {
   const QavAlertActionRef action = didPerformAction;
-  if (!action->isEnabled()) return;
+  if (!action->isEnabled() || isAnswered_) return;
   if (shouldDismissBlock && !shouldDismissBlock(*action)) return;
+  isAnswered_ = presentingViewController() != nullptr;
   dismissWithCompletion([self = shared_from_this(), action] {
     if (action->handler()) action->handler()(*action);
   });

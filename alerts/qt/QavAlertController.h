@@ -180,6 +180,7 @@ class QavAlertController final : public kindora::UIViewController,
   bool isPrepared_ = false;
   bool didAssignFirstResponder_ = false;
   bool presentingAlert_ = false;
+  bool isAnswered_ = false;  // on its way out, by an action
 };
 
 }  // namespace kindora

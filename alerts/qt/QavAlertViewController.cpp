@@ -90,13 +90,17 @@ void QavAlertViewController::replaceAlert(const AlertRef& oldAlert, const AlertR
   dismissingLastAlert_ = !withAlert;
   setShowsDimmingView(!dismissingLastAlert_);
   shownAlert_ = withAlert;
-  cancelledOnTheWayIn_ = false;
   if (withAlert) {
     alertContainerView_->addSubview(withAlert);
     qav_centerInSuperview(withAlert);
+    withAlert->setUserInteractionEnabled(true);
     withAlert->becomeFirstResponder();
   }
-  if (oldAlert) oldAlert->resignFirstResponder();
+  if (oldAlert) {
+    // A second press on its way out would choose a second time.
+    oldAlert->setUserInteractionEnabled(false);
+    oldAlert->resignFirstResponder();
+  }
   const auto end = [self = shared_from_this(), this, oldAlert, isLast = !withAlert,
                     completion = std::move(completion)] {
     presentingFirstAlert_ = isLast;
@@ -136,9 +140,8 @@ void QavAlertViewController::spring(const std::shared_ptr<UIView>& view, double 
 
 bool QavAlertViewController::goBack() {
   const auto alert = shownAlert_.lock();
-  if (!alert || alert->cancelButtonIndex() < 0) return false;
-  // On its way in, once is enough: the coordinator postpones what is asked for then.
-  if (!alert->isVisible() && std::exchange(cancelledOnTheWayIn_, true)) return false;
+  // One that was answered takes no further presses.
+  if (!alert || alert->cancelButtonIndex() < 0 || !alert->isUserInteractionEnabled()) return false;
   alert->alertContentViewDidTapButtonAtIndex(*alert->alertContentView(),
                                              alert->cancelButtonIndex());
   return true;

@@ -66,7 +66,6 @@ class QavAlertViewController final : public kindora::UIViewController, public CA
   bool showsDimmingView_ = false;
   bool presentingFirstAlert_ = true;
   bool dismissingLastAlert_ = false;
-  bool cancelledOnTheWayIn_ = false;
   NotificationCenter::Subscription keyboardShows_;
   NotificationCenter::Subscription keyboardHides_;
 };

@@ -192,6 +192,17 @@ TEST_F(QavAlertViewTest, TapTellsTheClickThenAsksThenDismisses) {
   EXPECT_THAT(events(), ElementsAre("user undim", "show nothing for A")) << "animated";
 }
 
+TEST_F(QavAlertViewTest, TakesNoPressesOnceATapDismissesIt) {
+  const AlertRef a = QavAlertView::initWithTitle("A", {}, answers, "Cancel", {"OK"});
+  showUp(a);
+  answers->dismiss = false;
+  tap(suggestedRow(a));
+  EXPECT_TRUE(a->isUserInteractionEnabled());
+  answers->dismiss = true;
+  tap(suggestedRow(a));
+  EXPECT_FALSE(a->isUserInteractionEnabled());
+}
+
 TEST_F(QavAlertViewTest, DelegatesAnswerAboutDismissalSuffices) {
   const AlertRef a = QavAlertView::initWithTitle("A", {}, answers, "Cancel", {"OK"});
   int asked = 0;

@@ -231,6 +231,30 @@ TEST_F(QavAlertControllerTest, TheHandlerRunsWhenTheAlertHasGone) {
   EXPECT_EQ(base->presentedViewController(), nullptr);
 }
 
+TEST_F(QavAlertControllerTest, OnItsWayOutItTakesNoSecondAnswer) {
+  Lines handled;
+  const auto controller = alert();
+  for (const char* title : {"First", "Second"}) {
+    controller->addAction(QavAlertAction::actionWithTitle(
+        title, QavAlertActionStyle::standard,
+        [&handled](QavAlertAction& chosen) { handled.push_back(*chosen.title()); }));
+  }
+  const auto actions = controller->actions();
+  controller->presentWithCompletion();
+  pass();
+  tap(*controller, actions[0]);
+  time.advance(0.1);
+  tap(*controller, actions[0]);
+  tap(*controller, actions[1]);
+  pass();
+  EXPECT_THAT(handled, ElementsAre("First"));
+  controller->presentWithCompletion();
+  pass();
+  tap(*controller, actions[1]);
+  pass();
+  EXPECT_THAT(handled, ElementsAre("First", "Second"));
+}
+
 TEST_F(QavAlertControllerTest, AnActionWithoutHandlerJustCloses) {
   const auto controller = alert();
   const auto chosen = QavAlertAction::actionWithTitle("Yes", QavAlertActionStyle::standard);

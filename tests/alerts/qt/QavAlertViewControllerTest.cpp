@@ -66,6 +66,18 @@ TEST_F(QavAlertViewControllerTest, SpringsTheNewAlertIn) {
   EXPECT_EQ(a->presentation().scaling, 1);
 }
 
+TEST_F(QavAlertViewControllerTest, AnAlertOnItsWayOutTakesNoPressesUntilItComesBack) {
+  replace(nullptr, a);
+  pass();
+  EXPECT_TRUE(a->isUserInteractionEnabled());
+  replace(a, b);
+  EXPECT_FALSE(a->isUserInteractionEnabled());
+  EXPECT_TRUE(b->isUserInteractionEnabled());
+  pass();
+  replace(b, a);
+  EXPECT_TRUE(a->isUserInteractionEnabled());
+}
+
 TEST_F(QavAlertViewControllerTest, SpringsTheOldAlertOutWhileTheNewComesIn) {
   replace(nullptr, a);
   pass();

@@ -219,6 +219,24 @@ TEST_F(CodeViewItemTest, WithoutShadersAPanelIsAlmostWhite) {
   EXPECT_TRUE(item->findChild<BlurItem*>()->behind().isEmpty());
 }
 
+// The item of such a panel is rounded to whole pixels.
+TEST_F(CodeViewItemTest, APanelThatFillsWhatCutsItOffHasItsCorners) {
+  addGround({{0, 0}, {200, 200}}, UIColor::redColor());
+  const auto card = std::make_shared<UIView>();
+  card->setCornerRadius(20);
+  card->setClipsToBounds(true);
+  add(card, {{50, 50}, {100.3, 100.3}});
+  const auto between = std::make_shared<UIView>();
+  between->setFrame({{0, 0}, {100.3, 100.3}});
+  card->addSubview(between);
+  const auto panel = UIVisualEffectView::withBlur(UIBlurEffectStyle::extraLight);
+  panel->setFrame({{0, 0}, {100.3, 100.3}});
+  between->addSubview(panel);
+  EXPECT_EQ(item->findChild<BlurItem*>()->visibleRadius(), 20);
+  EXPECT_EQ(pixel(51, 51), kRedPixel);
+  EXPECT_NE(pixel(100, 100), kRedPixel);
+}
+
 TEST_F(CodeViewItemTest, WhatStandsOnAPanelIsDrawnOnIt) {
   const auto panel = UIVisualEffectView::withBlur(UIBlurEffectStyle::extraLight);
   add(panel, {{50, 50}, {100, 100}});
