@@ -3,7 +3,6 @@
 import QtQuick
 import Kindora.Effects
 import Kindora.Gallery
-import Kindora.Platform
 
 // The springy layout with a thousand cells.
 Rectangle {

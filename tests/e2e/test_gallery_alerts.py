@@ -26,11 +26,13 @@ class GalleryAlerts(kindora_e2e.AppTest):
 
         def in_sight():
             row = self.find_row(title)
+            down = True
             if row is not None:
                 _, y, _, height = app.wait_still(row).extents
                 if 44 <= y and y + height <= caption:
                     return row
-            app.wheel((200, caption - 100), 1)
+                down = y >= 44
+            app.wheel((200, caption - 100), 1 if down else -1)
             return None
 
         return kindora_e2e.wait_until(in_sight, f"the row of {title} is in sight")
