@@ -5,7 +5,7 @@
 namespace kindora {
 
 std::shared_ptr<UIVisualEffectView> UIVisualEffectView::withBlur(UIBlurEffectStyle style) {
-  const std::shared_ptr<UIVisualEffectView> view(new UIVisualEffectView(style));
+  std::shared_ptr<UIVisualEffectView> view(new UIVisualEffectView(style));
   const std::shared_ptr<UIView>& content = view->contentView_;
   content->setTranslatesAutoresizingMaskIntoConstraints(false);
   view->addSubview(content);
