@@ -94,6 +94,7 @@ void QavAlertView::updateFirstOtherButton() {
 }
 
 void QavAlertView::show() {
+  setUserInteractionEnabled(true);
   updateFirstOtherButton();
   alertContentView_->textDidChange = [weak = std::weak_ptr(self())] {
     if (const auto alert = weak.lock()) alert->updateFirstOtherButton();

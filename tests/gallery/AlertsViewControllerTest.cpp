@@ -9,6 +9,7 @@
 #include "alerts/qt/CurrentViewController.h"
 #include "alerts/qt/QavAlertController.h"
 #include "platform/fakes/FakeViewServices.h"
+#include "platform/qt/toolkit/UIApplication.h"
 #include "tests/gallery/GalleryFixture.h"
 
 namespace kindora {
@@ -19,14 +20,14 @@ using Titles = std::vector<std::string>;
 
 class AlertsViewControllerTest : public GalleryFixture {
  protected:
-  // Chooses the row of that name.
-  void choose(const std::string& title) {
+  // Chooses the row of that name, and lets that much time pass.
+  void choose(const std::string& title, double seconds = 1) {
     for (int section = 0; section < screen.numberOfSectionsInTableView(); ++section) {
       const auto& demos = screen.sections().at(static_cast<std::size_t>(section)).demos;
       for (std::size_t row = 0; row < demos.size(); ++row) {
         if (demos[row].title != title) continue;
         screen.tableViewDidSelectRowAtIndexPath({section, static_cast<int>(row)});
-        time.advance(1);
+        time.advance(seconds);
         return;
       }
     }
@@ -196,6 +197,19 @@ TEST_F(AlertsViewControllerTest, ShowsTwoLegacyButtons) {
   press(1);
   EXPECT_EQ(legacy(), nullptr);
   EXPECT_EQ(outcome(), "You chose Send.");
+}
+
+TEST_F(AlertsViewControllerTest, GoingBackDuringTheOpeningCancelsOnce) {
+  int told = 0;
+  QObject::connect(&screen, &AlertsViewController::outcomeChanged, [&told] { ++told; });
+  choose("Legacy, two buttons", 0.1);
+  ASSERT_EQ(legacy(), nullptr);
+  UIApplication::sharedApplication()->goBack();
+  UIApplication::sharedApplication()->goBack();
+  time.advance(2);
+  EXPECT_EQ(outcome(), "You chose Cancel.");
+  EXPECT_EQ(told, 1);
+  EXPECT_EQ(navigation->topViewController().get(), &screen);
 }
 
 TEST_F(AlertsViewControllerTest, AControllerShowsFiveLegacyButtons) {

@@ -5,6 +5,7 @@
 #include <QQuickWindow>
 #include <algorithm>
 
+#include "platform/qt/quick/BlurItem.h"
 #include "platform/qt/quick/Colors.h"
 #include "platform/qt/quick/DrawnPlace.h"
 #include "platform/qt/quick/GroundItem.h"
@@ -104,6 +105,7 @@ void CodeViewItem::surroundingsChanged() {
   place();
   drawGround();
   if (auto* label = qobject_cast<LabelItem*>(face_.get())) label->refresh();
+  if (auto* panel = qobject_cast<BlurItem*>(face_.get())) emit panel->viewChanged();
   for (std::size_t i = 0; i < drawn_.size(); ++i) drawn_[i].surroundingsChanged();
 }
 

@@ -234,6 +234,10 @@ TEST_F(CodeViewItemTest, APanelThatFillsWhatCutsItOffHasItsCorners) {
   between->addSubview(panel);
   EXPECT_EQ(item->findChild<BlurItem*>()->visibleRadius(), 20);
   EXPECT_EQ(pixel(51, 51), kRedPixel);
+  card->setCornerRadius(0);
+  EXPECT_NE(pixel(51, 51), kRedPixel);
+  card->setCornerRadius(20);
+  EXPECT_EQ(pixel(51, 51), kRedPixel);
   EXPECT_NE(pixel(100, 100), kRedPixel);
 }
 
