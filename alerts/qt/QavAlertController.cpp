@@ -137,8 +137,9 @@ bool QavAlertController::usesLegacyAlert() const {
 }
 
 const std::shared_ptr<QavAlertView>& QavAlertController::legacyAlertView() {
-  if (!legacyAlertView_ && usesLegacyAlert())
+  if (!legacyAlertView_ && usesLegacyAlert()) {
     legacyAlertView_ = alertViewWithAlertController(*this);
+  }
   return legacyAlertView_;
 }
 

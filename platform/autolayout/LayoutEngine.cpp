@@ -203,10 +203,9 @@ void LayoutEngine::enter(Held& held) {
   const NSLayoutConstraint& constraint = *held.constraint;
   Sum sum = sumOf(constraint);
   held.ownConstant = constraint.constant();
-  held.constant = sum.constant;
   const auto added = solver_->add({.terms = std::move(sum.terms),
                                    .relation = static_cast<Relation>(constraint.relation()),
-                                   .constant = held.constant,
+                                   .constant = sum.constant,
                                    .strength = constraint.priority()});
   held.id = added.constraint;
   if (added.outcome != Outcome::done) leaveOut(held);
@@ -328,8 +327,8 @@ void LayoutEngine::takeOverConstants(bool baselinesChanged) {
     const bool mayDiffer = hasBaseline && baselinesChanged;
     if (constraint.constant() == held.ownConstant && !mayDiffer) continue;
     held.ownConstant = constraint.constant();
-    held.constant = sumOf(constraint).constant;
-    if (solver_->setConstant(held.id, held.constant) == Outcome::done) continue;
+    const double constant = sumOf(constraint).constant;
+    if (solver_->setConstant(held.id, constant) == Outcome::done) continue;
     solver_->remove(held.id);
     leaveOut(held);
   }

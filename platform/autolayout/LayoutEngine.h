@@ -65,8 +65,7 @@ class LayoutEngine final {
   struct Held {
     NSLayoutConstraintRef constraint;
     layout::ConstraintId id;  // names nothing while it is left out
-    double ownConstant = 0;   // the constraint's
-    double constant = 0;      // the right-hand side, with baselines
+    double ownConstant = 0;   // the constraint's, as the solver has it
     bool isReported = false;
     std::uint64_t mark = 0;
   };
