@@ -11,7 +11,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
 case "${1:-}" in
-  "") program=kindora folder=app/main ;;
+  "") program=kindora folder=main ;;
   gallery) program=kindora-gallery folder=gallery ;;
   *)
     echo "usage: $0 [gallery]" >&2

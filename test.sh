@@ -7,13 +7,15 @@
 #   ./test.sh tsan        ... with the thread sanitizer
 #   ./test.sh coverage    ... with coverage, reported in build/coverage/report/index.html
 #
-# Any names of CMake presets will do; without one they are `core` and `dev`.
+# Any names of CMake presets will do. Without one they are three that prove different things: what lies
+# below the line under the address and undefined behaviour sanitizers (core), what has more than one
+# thread under the thread sanitizer (races), and what lies above the line as it ships (above).
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
 presets=("$@")
 if [[ ${#presets[@]} -eq 0 ]]; then
-  presets=(core dev)
+  presets=(core races above)
 fi
 
 groups=(build test)

@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "phoneformat/LuPhoneFormat.h"
-#include "platform/CharacterSet.h"
 #include "platform/TextRange.h"
+#include "platform/services/CharacterSet.h"
 
 namespace kindora {
 

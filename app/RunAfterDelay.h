@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "platform/DispatchQueue.h"
+#include "platform/services/DispatchQueue.h"
 
 namespace kindora {
 

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "fuzz/Fuzz.h"
-#include "platform/layout/Solver.h"
+#include "layout/Solver.h"
 
 namespace kindora::layout {
 namespace {

@@ -4,8 +4,8 @@
 
 #include <memory>
 
-#include "platform/qt/toolkit/UINavigationController.h"
-#include "platform/qt/toolkit/UIStoryboard.h"
+#include "toolkit/controllers/UINavigationController.h"
+#include "toolkit/controllers/UIStoryboard.h"
 
 namespace kindora {
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-import Kindora.Platform
+import Kindora.Toolkit.Hosts
 
 // The gallery's window.
 PhoneWindow {

@@ -2,15 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
-#include <QtQml/QQmlExtensionPlugin>
 
 #include "app/AppColors.h"
-#include "app/launch/ProgramStart.h"
-#include "app/shell/AppearanceManager.h"
+#include "app/AppearanceManager.h"
+#include "app/ProgramStart.h"
 #include "gallery/GalleryStoryboard.h"
-#include "platform/qt/toolkit/UIWindow.h"
-
-Q_IMPORT_QML_PLUGIN(Kindora_GalleryPlugin)
+#include "toolkit/controllers/UIWindow.h"
 
 int main(int argc, char* argv[]) {
   using namespace kindora;

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "model/ChallengeData.h"
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 
 namespace kindora {
 

@@ -8,7 +8,7 @@
 
 #include "model/RandomUserAddress.h"
 #include "model/RandomUserRequest.h"
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 
 namespace kindora {
 

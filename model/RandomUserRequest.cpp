@@ -9,7 +9,7 @@
 #include <variant>
 
 #include "platform/FatalError.h"
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 
 namespace kindora {
 namespace {

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "model/User.h"
-#include "platform/HttpSession.h"
 #include "platform/URL.h"
+#include "platform/services/HttpSession.h"
 
 namespace kindora {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 
 namespace kindora {
 namespace {

@@ -10,7 +10,7 @@
 #include "model/RandomUserAddress.h"
 #include "model/RandomUserRequest.h"
 #include "platform/FatalError.h"
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 
 namespace kindora {
 

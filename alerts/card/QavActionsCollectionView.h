@@ -14,10 +14,10 @@
 #include <vector>
 
 #include "alerts/card/QavCollectionReusableView.h"
-#include "effects/springy/UICollectionView.h"
-#include "effects/springy/UICollectionViewDelegateFlowLayout.h"
-#include "effects/springy/UICollectionViewLayout.h"
-#include "platform/view/UIScrollView.h"
+#include "toolkit/collection/UICollectionView.h"
+#include "toolkit/collection/UICollectionViewDelegateFlowLayout.h"
+#include "toolkit/collection/UICollectionViewLayout.h"
+#include "toolkit/view/UIScrollView.h"
 
 namespace kindora {
 

@@ -7,7 +7,7 @@
 #include "alerts/card/QavAlertAction.h"
 #include "alerts/card/QavAlertControllerVisualStyle.h"
 #include "alerts/card/QavCollectionReusableView.h"
-#include "platform/view/UILabel.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

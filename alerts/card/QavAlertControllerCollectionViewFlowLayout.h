@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "alerts/card/QavAlertControllerVisualStyle.h"
-#include "effects/springy/UICollectionViewFlowLayout.h"
+#include "toolkit/collection/UICollectionViewFlowLayout.h"
 
 namespace kindora {
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "effects/springy/UICollectionViewLayoutAttributes.h"
 #include "platform/UIColor.h"
+#include "toolkit/collection/UICollectionViewLayoutAttributes.h"
 
 namespace kindora {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "alerts/card/QavAlertControllerDefaultVisualStyle.h"
 
-#include "platform/view/ViewServices.h"
+#include "platform/services/ViewServices.h"
 
 namespace kindora {
 namespace {

@@ -7,7 +7,7 @@
 #include "alerts/card/QavAlertControllerVisualStyle.h"
 #include "alerts/card/QavAlertLabel.h"
 #include "alerts/card/QavAlertTextFieldTableView.h"
-#include "platform/view/UIScrollView.h"
+#include "toolkit/view/UIScrollView.h"
 
 namespace kindora {
 

@@ -24,7 +24,7 @@
 #include "alerts/card/QavAlertControllerVisualStyle.h"
 #include "alerts/helpers/QavIntrinsicallySizedView.h"
 #include "platform/NSAttributedString.h"
-#include "platform/view/UIVisualEffectView.h"
+#include "toolkit/view/UIVisualEffectView.h"
 
 namespace kindora {
 

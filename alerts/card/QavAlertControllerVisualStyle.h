@@ -9,7 +9,7 @@
 #include "platform/Geometry.h"
 #include "platform/UIColor.h"
 #include "platform/UIFont.h"
-#include "platform/view/UIView.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "platform/view/UILabel.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

@@ -5,8 +5,8 @@
 #include <memory>
 
 #include "alerts/card/QavAlertControllerVisualStyle.h"
-#include "platform/view/UITextField.h"
-#include "platform/view/UIView.h"
+#include "toolkit/view/UITextField.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 

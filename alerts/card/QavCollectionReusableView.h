@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "effects/springy/UICollectionViewLayoutAttributes.h"
-#include "platform/view/UIView.h"
+#include "toolkit/collection/UICollectionViewLayoutAttributes.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 

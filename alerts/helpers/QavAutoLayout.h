@@ -18,8 +18,8 @@
 #include <vector>
 
 #include "platform/Geometry.h"
-#include "platform/view/NSLayoutConstraint.h"
-#include "platform/view/UIView.h"
+#include "toolkit/view/NSLayoutConstraint.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 

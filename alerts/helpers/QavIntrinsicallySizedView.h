@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "platform/view/UIView.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 

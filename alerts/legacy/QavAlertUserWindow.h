@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "platform/view/UIViewTint.h"
+#include "toolkit/view/UIViewTint.h"
 
 namespace kindora {
 

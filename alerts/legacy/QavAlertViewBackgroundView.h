@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "platform/view/UIVisualEffectView.h"
+#include "toolkit/view/UIVisualEffectView.h"
 
 namespace kindora {
 

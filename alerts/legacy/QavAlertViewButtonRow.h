@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/view/UILabel.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

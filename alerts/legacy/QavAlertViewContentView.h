@@ -19,7 +19,7 @@
 #include "alerts/legacy/QavAlertViewFormats.h"
 #include "alerts/legacy/QavAlertViewStyle.h"
 #include "alerts/legacy/QavAlertViewTextField.h"
-#include "platform/view/UIScrollView.h"
+#include "toolkit/view/UIScrollView.h"
 
 namespace kindora {
 

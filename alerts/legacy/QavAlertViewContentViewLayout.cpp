@@ -9,7 +9,7 @@
 #include "alerts/legacy/QavAlertViewContentView.h"
 #include "alerts/legacy/VisualFormatConstraints.h"
 #include "platform/FatalError.h"
-#include "platform/view/ViewServices.h"
+#include "platform/services/ViewServices.h"
 
 namespace kindora {
 namespace {

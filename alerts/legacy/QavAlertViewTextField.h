@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "platform/view/UITextField.h"
+#include "toolkit/view/UITextField.h"
 
 namespace kindora {
 

@@ -18,7 +18,7 @@
 #include <variant>
 #include <vector>
 
-#include "platform/view/NSLayoutConstraint.h"
+#include "toolkit/view/NSLayoutConstraint.h"
 
 namespace kindora {
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "alerts/legacy/VisualFormat.h"
-#include "platform/view/UIView.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 

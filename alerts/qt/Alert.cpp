@@ -12,7 +12,7 @@
 
 #include "alerts/qt/CurrentViewController.h"
 #include "alerts/qt/QavAlertController.h"
-#include "platform/qt/toolkit/UIWindow.h"
+#include "toolkit/controllers/UIWindow.h"
 
 namespace kindora {
 namespace {

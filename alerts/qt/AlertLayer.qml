@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import Kindora.Alerts
-import Kindora.Platform
+import Kindora.Toolkit.Hosts
 
 // Shows a program's alerts in the window that it lies in: over all of it, a header and a footer and
 // open popups included. While one is shown, it has the pointer and the keyboard; else there is

@@ -3,9 +3,9 @@
 #include "alerts/qt/AlertLayerWindow.h"
 
 #include "alerts/qt/AlertWindows.h"
-#include "platform/qt/quick/QtViewServices.h"
-#include "platform/qt/toolkit/UIApplication.h"
-#include "platform/view/UIViewTint.h"
+#include "toolkit/controllers/UIApplication.h"
+#include "toolkit/quick/QtViewServices.h"
+#include "toolkit/view/UIViewTint.h"
 
 namespace kindora {
 namespace {

@@ -6,8 +6,8 @@
 #include <QObject>
 #include <memory>
 
-#include "platform/qt/toolkit/UIViewController.h"
-#include "platform/qt/toolkit/UIWindow.h"
+#include "toolkit/controllers/UIViewController.h"
+#include "toolkit/controllers/UIWindow.h"
 
 namespace kindora {
 

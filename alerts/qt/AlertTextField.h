@@ -7,7 +7,7 @@
 #include <QString>
 #include <memory>
 
-#include "platform/view/UITextField.h"
+#include "toolkit/view/UITextField.h"
 
 namespace kindora {
 

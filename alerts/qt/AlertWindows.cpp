@@ -8,8 +8,8 @@
 
 #include "alerts/legacy/QavAlertEnvironment.h"
 #include "alerts/qt/QavAlertViewController.h"
-#include "platform/qt/toolkit/UIApplication.h"
-#include "platform/qt/toolkit/UIWindow.h"
+#include "toolkit/controllers/UIApplication.h"
+#include "toolkit/controllers/UIWindow.h"
 
 namespace kindora {
 namespace {

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "alerts/qt/CurrentViewController.h"
 
-#include "platform/qt/toolkit/UIApplication.h"
-#include "platform/qt/toolkit/UINavigationController.h"
+#include "toolkit/controllers/UIApplication.h"
+#include "toolkit/controllers/UINavigationController.h"
 
 namespace kindora {
 

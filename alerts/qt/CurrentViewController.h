@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "platform/qt/toolkit/UIViewController.h"
+#include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {
 

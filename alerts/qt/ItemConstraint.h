@@ -8,7 +8,7 @@
 #include <QQmlParserStatus>
 #include <QQuickItem>
 
-#include "platform/view/NSLayoutConstraint.h"
+#include "toolkit/view/NSLayoutConstraint.h"
 
 namespace kindora {
 

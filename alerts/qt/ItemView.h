@@ -8,7 +8,7 @@
 #include <memory>
 #include <optional>
 
-#include "platform/view/UIView.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 

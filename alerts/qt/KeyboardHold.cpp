@@ -4,7 +4,7 @@
 
 #include <QKeyEvent>
 
-#include "platform/qt/toolkit/UIApplication.h"
+#include "toolkit/controllers/UIApplication.h"
 
 namespace kindora {
 

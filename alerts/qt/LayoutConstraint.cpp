@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "platform/view/UIView.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 

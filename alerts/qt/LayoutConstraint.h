@@ -5,7 +5,7 @@
 #include <QtQml/qqml.h>
 #include <QObject>
 
-#include "platform/view/NSLayoutConstraint.h"
+#include "toolkit/view/NSLayoutConstraint.h"
 
 namespace kindora {
 

@@ -4,8 +4,8 @@
 
 #include <utility>
 
-#include "platform/qt/toolkit/UIViewAnimation.h"
-#include "platform/qt/toolkit/UIViewController.h"
+#include "toolkit/controllers/UIViewAnimation.h"
+#include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {
 namespace {

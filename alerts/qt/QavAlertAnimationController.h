@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "platform/qt/toolkit/UIViewControllerAnimatedTransitioning.h"
+#include "toolkit/controllers/UIViewControllerAnimatedTransitioning.h"
 
 namespace kindora {
 

@@ -26,8 +26,8 @@
 #include "alerts/legacy/QavAlertViewDelegate.h"
 #include "platform/NSAttributedString.h"
 #include "platform/NotificationCenter.h"
-#include "platform/qt/toolkit/UIViewController.h"
-#include "platform/view/UITextField.h"
+#include "toolkit/controllers/UIViewController.h"
+#include "toolkit/view/UITextField.h"
 
 namespace kindora {
 

@@ -7,7 +7,7 @@
 
 #include "alerts/card/QavAlertControllerVisualStyle.h"
 #include "alerts/card/QavAlertTextFieldTableView.h"
-#include "platform/qt/toolkit/UIViewController.h"
+#include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {
 

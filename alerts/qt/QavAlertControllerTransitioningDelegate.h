@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "alerts/qt/QavAlertAnimationController.h"
-#include "platform/qt/toolkit/UIViewControllerTransitioningDelegate.h"
+#include "toolkit/controllers/UIViewControllerTransitioningDelegate.h"
 
 namespace kindora {
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "alerts/qt/QavAlertPresentationController.h"
 
-#include "platform/qt/toolkit/UIViewController.h"
-#include "platform/qt/toolkit/UIViewControllerTransitionCoordinator.h"
+#include "toolkit/controllers/UIViewController.h"
+#include "toolkit/controllers/UIViewControllerTransitionCoordinator.h"
 
 namespace kindora {
 

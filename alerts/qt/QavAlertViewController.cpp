@@ -11,7 +11,7 @@
 #include "effects/keyframes/TovSpringAnimation.h"
 #include "effects/qt/LayerAnimations.h"
 #include "platform/KeyboardNotification.h"
-#include "platform/qt/toolkit/UIViewAnimation.h"
+#include "toolkit/controllers/UIViewAnimation.h"
 
 namespace kindora {
 namespace {

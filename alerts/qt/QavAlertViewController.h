@@ -7,7 +7,7 @@
 
 #include "effects/keyframes/CAAnimationDelegate.h"
 #include "platform/NotificationCenter.h"
-#include "platform/qt/toolkit/UIViewController.h"
+#include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {
 

@@ -13,7 +13,6 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
-#include <QtQml/QQmlExtensionPlugin>
 #include <cstdlib>
 #include <ctime>
 #include <memory>
@@ -23,11 +22,8 @@
 #include "benchmarks/support/Goals.h"
 #include "benchmarks/support/HeapUse.h"
 #include "platform/fakes/ManualQueue.h"
-#include "platform/qt/toolkit/UIApplication.h"
 #include "tests/support/ManualTime.h"
-
-Q_IMPORT_QML_PLUGIN(Kindora_AlertsPlugin)
-Q_IMPORT_QML_PLUGIN(Kindora_PlatformPlugin)
+#include "toolkit/controllers/UIApplication.h"
 
 namespace kindora {
 namespace {

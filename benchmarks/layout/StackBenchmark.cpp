@@ -11,7 +11,7 @@
 #include "benchmarks/layout/Sizes.h"
 #include "benchmarks/support/Goals.h"
 #include "benchmarks/support/HeapUse.h"
-#include "platform/layout/Solver.h"
+#include "layout/Solver.h"
 
 namespace kindora::layout {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "benchmarks/layout/Sizes.h"
 #include "benchmarks/support/HeapUse.h"
-#include "platform/view/UIView.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 namespace {

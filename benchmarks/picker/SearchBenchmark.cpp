@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "model/FriendSearch.h"
-#include "platform/Services.h"
 #include "platform/fakes/FakeServices.h"
-#include "platform/qt/services/IcuTextService.h"
+#include "platform/qt/IcuTextService.h"
+#include "platform/services/Services.h"
 
 namespace kindora {
 namespace {

@@ -11,7 +11,7 @@
 #include "benchmarks/support/Goals.h"
 #include "benchmarks/support/HeapUse.h"
 #include "effects/springy/BelSpringyCollectionViewFlowLayout.h"
-#include "effects/springy/UICollectionViewDelegateFlowLayout.h"
+#include "toolkit/collection/UICollectionViewDelegateFlowLayout.h"
 
 namespace kindora {
 namespace {

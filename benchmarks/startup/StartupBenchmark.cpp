@@ -16,7 +16,7 @@
 #include <cstdio>
 #include <cstring>
 
-#include "app/main/Launch.h"
+#include "main/Launch.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "effects/keyframes/KeyframePlayback.h"
-#include "platform/qt/toolkit/UIViewAnimation.h"
+#include "toolkit/controllers/UIViewAnimation.h"
 
 namespace kindora {
 namespace {

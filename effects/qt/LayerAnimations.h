@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "effects/keyframes/CAKeyframeAnimation.h"
-#include "platform/view/UIView.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "effects/scratch/JxScratchImageView.h"
-#include "platform/qt/quick/ViewItem.h"
-#include "platform/qt/toolkit/UIViewAnimation.h"
+#include "toolkit/controllers/UIViewAnimation.h"
+#include "toolkit/quick/ViewItem.h"
 
 namespace kindora {
 

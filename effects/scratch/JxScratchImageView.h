@@ -18,8 +18,8 @@
 #include "effects/scratch/BitmapContext.h"
 #include "effects/scratch/JxMatrix.h"
 #include "effects/scratch/JxScratchImageViewDelegate.h"
-#include "platform/view/UIImageView.h"
-#include "platform/view/UITouch.h"
+#include "toolkit/view/UIImageView.h"
+#include "toolkit/view/UITouch.h"
 
 namespace kindora {
 

@@ -12,8 +12,8 @@
 #include <memory>
 #include <set>
 
-#include "effects/springy/UICollectionViewFlowLayout.h"
 #include "effects/springy/UIDynamicAnimator.h"
+#include "toolkit/collection/UICollectionViewFlowLayout.h"
 
 namespace kindora {
 

@@ -5,7 +5,7 @@
 #include <array>
 #include <memory>
 
-#include "effects/springy/UICollectionViewLayoutAttributes.h"
+#include "toolkit/collection/UICollectionViewLayoutAttributes.h"
 
 namespace kindora {
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import Kindora.Platform
+import Kindora.Toolkit.Hosts
 
 // The row of an alert: its name and a line about it.
 TableCell {

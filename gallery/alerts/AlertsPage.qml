@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import Kindora.Alerts
-import Kindora.Gallery
-import Kindora.Platform
+import Kindora.Gallery.Alerts
+import Kindora.Gallery.Controls
+import Kindora.Toolkit.Hosts
 
 // A list of alerts, and how the last one ended.
 Rectangle {

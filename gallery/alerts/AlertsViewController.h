@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "gallery/alerts/AlertDemo.h"
-#include "platform/qt/toolkit/UITableViewController.h"
+#include "toolkit/controllers/UITableViewController.h"
 
 namespace kindora {
 

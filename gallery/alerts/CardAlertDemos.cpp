@@ -8,8 +8,8 @@
 #include <string>
 
 #include "alerts/qt/QavAlertController.h"
-#include "platform/Services.h"
-#include "platform/view/UIImageView.h"
+#include "platform/services/Services.h"
+#include "toolkit/view/UIImageView.h"
 
 namespace kindora {
 namespace {

@@ -3,7 +3,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
-import Kindora.Platform
+import Kindora.Toolkit.Hosts
 
 // One of a few, side by side.
 Rectangle {

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import QtQuick.Templates as T
-import Kindora.Gallery
-import Kindora.Platform
+import Kindora.Gallery.Controls
+import Kindora.Toolkit.Hosts
 
 // A setting: its name, a slider, and its value.
 Item {

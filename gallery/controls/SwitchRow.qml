@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import QtQuick.Templates as T
-import Kindora.Platform
+import Kindora.Toolkit.Hosts
 
 // Something that is on or off.
 T.Switch {

@@ -11,7 +11,7 @@
 #include "effects/keyframes/CAAnimationDelegate.h"
 #include "gallery/controls/SliderSetting.h"
 #include "gallery/curves/CurveSettings.h"
-#include "platform/qt/toolkit/UIViewController.h"
+#include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {
 

@@ -4,8 +4,8 @@
 
 #include <QColor>
 
-#include "effects/qt/UICollectionViewCell.h"
-#include "platform/view/UILabel.h"
+#include "toolkit/controllers/UICollectionViewCell.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

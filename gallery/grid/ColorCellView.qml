@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import Kindora.Effects
-import Kindora.Gallery
-import Kindora.Platform
+import Kindora.Gallery.Grid
+import Kindora.Toolkit.Hosts
 
 // A coloured square that sinks when it is pressed.
 CollectionCell {

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import Kindora.Effects
-import Kindora.Gallery
+import Kindora.Gallery.Grid
+import Kindora.Gallery.Controls
+import Kindora.Toolkit.Hosts
 
 // The springy layout with a thousand cells.
 Rectangle {

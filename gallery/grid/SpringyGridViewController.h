@@ -4,9 +4,9 @@
 
 #include <memory>
 
-#include "effects/qt/CollectionView.h"
 #include "effects/springy/BelSpringyCollectionViewFlowLayout.h"
-#include "platform/qt/toolkit/UIViewController.h"
+#include "toolkit/controllers/CollectionView.h"
+#include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {
 

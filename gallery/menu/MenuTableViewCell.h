@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "platform/qt/toolkit/UITableViewCell.h"
-#include "platform/view/UIImageView.h"
-#include "platform/view/UILabel.h"
+#include "toolkit/controllers/UITableViewCell.h"
+#include "toolkit/view/UIImageView.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "gallery/menu/MenuTableViewCell.h"
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 
 namespace kindora {
 namespace {

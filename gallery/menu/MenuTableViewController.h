@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/toolkit/UITableViewController.h"
+#include "toolkit/controllers/UITableViewController.h"
 
 namespace kindora {
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import Kindora.Gallery
-import Kindora.Platform
+import Kindora.Gallery.Phone
+import Kindora.Toolkit.Hosts
 
 // The countries for which there are phone formats.
 Rectangle {

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "platform/qt/toolkit/UITableViewCell.h"
-#include "platform/view/UILabel.h"
+#include "toolkit/controllers/UITableViewCell.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "gallery/phone/CountryTableViewCell.h"
-#include "platform/qt/toolkit/UINavigationController.h"
+#include "toolkit/controllers/UINavigationController.h"
 
 namespace kindora {
 namespace {

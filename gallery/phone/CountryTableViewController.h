@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "gallery/phone/PhoneCountries.h"
-#include "platform/qt/toolkit/UISearchController.h"
-#include "platform/qt/toolkit/UITableViewController.h"
+#include "toolkit/controllers/UISearchController.h"
+#include "toolkit/controllers/UITableViewController.h"
 
 namespace kindora {
 

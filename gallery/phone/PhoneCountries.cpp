@@ -6,7 +6,7 @@
 #include <QString>
 #include <algorithm>
 
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 
 namespace kindora {
 namespace {
@@ -61,13 +61,14 @@ std::string internationalPhoneNumber(LuPhoneFormat& phoneFormat, std::string_vie
 
   std::vector<std::string> candidates;
   for (const std::string& prefix : plan->intlPrefixes) {
-    if (dialled.starts_with(prefix)) candidates.push_back("+" + dialled.substr(prefix.size()));
+    if (dialled.starts_with(prefix))
+      candidates.push_back(std::string("+").append(dialled, prefix.size()));
   }
   for (const std::string& prefix : plan->trunkPrefixes) {
     if (!dialled.starts_with(prefix)) continue;
-    candidates.push_back("+" + callingCode + dialled.substr(prefix.size()));
+    candidates.push_back(std::string("+").append(callingCode).append(dialled, prefix.size()));
   }
-  candidates.push_back("+" + callingCode + dialled);
+  candidates.push_back(std::string("+").append(callingCode).append(dialled));
   // What begins like a prefix need not be one.
   for (const std::string& candidate : candidates) {
     const std::string laidOut = phoneFormat.format(candidate);

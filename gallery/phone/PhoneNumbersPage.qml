@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import Kindora.Gallery
-import Kindora.Platform
+import Kindora.Gallery.Phone
+import Kindora.Gallery.Controls
+import Kindora.Toolkit.Hosts
 
 // A phone number of any country.
 FormPage {

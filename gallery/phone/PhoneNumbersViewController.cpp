@@ -7,7 +7,7 @@
 #include "app/PhoneNumberEdit.h"
 #include "gallery/phone/CountryTableViewController.h"
 #include "phoneformat/PhoneFormatEnvironment.h"
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 
 namespace kindora {
 namespace {

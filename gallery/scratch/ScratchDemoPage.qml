@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import Kindora.Effects
-import Kindora.Gallery
-import Kindora.Platform
+import Kindora.Gallery.Scratch
+import Kindora.Gallery.Controls
+import Kindora.Toolkit.Hosts
 
 // The scratch view, with the grid in which it counts drawn over it.
 FormPage {

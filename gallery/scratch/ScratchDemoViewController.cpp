@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 
 namespace kindora {
 

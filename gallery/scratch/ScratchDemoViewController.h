@@ -7,7 +7,7 @@
 
 #include "effects/scratch/JxScratchImageView.h"
 #include "gallery/controls/SliderSetting.h"
-#include "platform/qt/toolkit/UIViewController.h"
+#include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {
 

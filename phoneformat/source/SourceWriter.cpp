@@ -39,10 +39,10 @@ std::string quoted(std::string_view pattern) {
 
 std::string ruleLine(const PhoneRule& rule, std::int32_t matchLen) {
   std::string line = "  " + bound(rule.minVal, matchLen);
-  if (rule.maxVal != rule.minVal) line += "-" + bound(rule.maxVal, matchLen);
+  if (rule.maxVal != rule.minVal) line.append("-").append(bound(rule.maxVal, matchLen));
   const std::int32_t prefix = rule.flag12 & kPrefixBits;
   line.append("  ").append(kPrefixes.at(static_cast<std::size_t>(prefix)));
-  line += "  " + quoted(rule.format);
+  line.append("  ").append(quoted(rule.format));
   const PhoneRule implied{.maxLen = digitCount(rule.format), .flag12 = prefix};
   for (const Field& field : kFields) {
     const std::int32_t value = rule.*field.member;

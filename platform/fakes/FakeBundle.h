@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/ResourceBundle.h"
+#include "platform/services/ResourceBundle.h"
 
 namespace kindora {
 

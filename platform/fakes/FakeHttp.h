@@ -6,7 +6,7 @@
 #include <mutex>
 #include <vector>
 
-#include "platform/HttpSession.h"
+#include "platform/services/HttpSession.h"
 
 namespace kindora {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/Json.h"
+#include "platform/services/Json.h"
 
 namespace kindora {
 

@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/DispatchQueue.h"
-#include "platform/PhotoService.h"
+#include "platform/services/DispatchQueue.h"
+#include "platform/services/PhotoService.h"
 
 namespace kindora {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "platform/fakes/FakeServices.h"
 
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 
 namespace kindora {
 

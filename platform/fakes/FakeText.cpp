@@ -3,6 +3,7 @@
 #include "platform/fakes/FakeText.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace kindora {
 namespace {
@@ -34,7 +35,7 @@ std::string FakeText::caseFolded(std::string_view text) const {
   constexpr std::string_view kCapital = "\u00c9";
   constexpr std::string_view kSmall = "\u00e9";
   for (std::size_t at = 0; (at = result.find(kCapital, at)) != std::string::npos;) {
-    result.replace(at, kCapital.size(), kSmall);
+    std::ranges::copy(kSmall, result.begin() + static_cast<std::ptrdiff_t>(at));  // as long
   }
   return result;
 }

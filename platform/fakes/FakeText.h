@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "platform/TextService.h"
+#include "platform/services/TextService.h"
 
 namespace kindora {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "platform/TextMeasurer.h"
+#include "platform/services/TextMeasurer.h"
 
 namespace kindora {
 

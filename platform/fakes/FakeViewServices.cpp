@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "platform/fakes/FakeViewServices.h"
 
-#include "platform/view/ViewServices.h"
+#include "platform/services/ViewServices.h"
 
 namespace kindora {
 

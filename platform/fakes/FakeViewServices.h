@@ -4,9 +4,9 @@
 
 #include <memory>
 
-#include "platform/MotionService.h"
-#include "platform/UIScreen.h"
 #include "platform/fakes/FakeTextMeasurer.h"
+#include "platform/services/MotionService.h"
+#include "platform/services/UIScreen.h"
 
 namespace kindora {
 

@@ -9,7 +9,7 @@
 #include <mutex>
 #include <utility>
 
-#include "platform/DispatchQueue.h"
+#include "platform/services/DispatchQueue.h"
 
 namespace kindora {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/Console.h"
+#include "platform/services/Console.h"
 
 namespace kindora {
 

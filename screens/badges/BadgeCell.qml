@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import Kindora.Effects
-import Kindora.Platform
+import Kindora.Toolkit.Hosts
 
 // A badge: the picture on its shadow, and the title below.
 CollectionCell {

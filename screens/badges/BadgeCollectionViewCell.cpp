@@ -3,7 +3,7 @@
 #include "screens/badges/BadgeCollectionViewCell.h"
 
 #include "platform/UIImageColorOverlay.h"
-#include "platform/qt/quick/Screen.h"
+#include "toolkit/controllers/Screen.h"
 
 namespace kindora {
 namespace {

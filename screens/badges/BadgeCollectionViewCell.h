@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "effects/qt/UICollectionViewCell.h"
 #include "model/Challenge.h"
-#include "platform/view/UIImageView.h"
-#include "platform/view/UILabel.h"
+#include "toolkit/controllers/UICollectionViewCell.h"
+#include "toolkit/view/UIImageView.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import Kindora.Platform
-import Kindora.Screens
+import Kindora.Toolkit.Hosts
+import Kindora.Screens.Badges
+import Kindora.Screens.Shared
 
 // A badge's page: the stamped card, what the user did with it, and the way to pass it on.
 Rectangle {

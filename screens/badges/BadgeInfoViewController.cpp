@@ -3,10 +3,10 @@
 #include "screens/badges/BadgeInfoViewController.h"
 
 #include "platform/FatalError.h"
-#include "platform/Services.h"
-#include "screens/ImageNames.h"
-#include "screens/SegueIdentifiers.h"
+#include "platform/services/Services.h"
 #include "screens/picker/KindoraTableViewController.h"
+#include "screens/shared/ImageNames.h"
+#include "screens/shared/SegueIdentifiers.h"
 
 namespace kindora {
 

@@ -5,9 +5,9 @@
 #include <string>
 
 #include "model/Challenge.h"
-#include "platform/qt/toolkit/UIViewController.h"
-#include "platform/view/UIImageView.h"
-#include "platform/view/UILabel.h"
+#include "toolkit/controllers/UIViewController.h"
+#include "toolkit/view/UIImageView.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

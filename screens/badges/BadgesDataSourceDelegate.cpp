@@ -6,9 +6,9 @@
 
 #include "model/ChallengeData.h"
 #include "platform/FatalError.h"
-#include "platform/qt/toolkit/UIViewController.h"
-#include "screens/SegueIdentifiers.h"
 #include "screens/badges/BadgeCollectionViewCell.h"
+#include "screens/shared/SegueIdentifiers.h"
+#include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {
 namespace {

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "effects/qt/CollectionView.h"
 #include "model/Challenge.h"
+#include "toolkit/controllers/CollectionView.h"
 
 namespace kindora {
 

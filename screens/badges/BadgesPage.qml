@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import Kindora.Effects
-import Kindora.Platform
-import Kindora.Screens
+import Kindora.Toolkit.Hosts
+import Kindora.Screens.Badges
 
 // The badge shelf.
 Rectangle {

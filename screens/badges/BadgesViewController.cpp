@@ -3,13 +3,13 @@
 #include "screens/badges/BadgesViewController.h"
 
 #include "platform/FatalError.h"
-#include "platform/qt/toolkit/UINavigationController.h"
-#include "screens/SegueIdentifiers.h"
-#include "screens/StoryboardIdentifiers.h"
 #include "screens/badges/BadgeCollectionViewCell.h"
 #include "screens/badges/BadgeInfoViewController.h"
-#include "screens/create/CreateChallengeButton.h"
 #include "screens/picker/KindoraTableViewController.h"
+#include "screens/shared/CreateChallengeButton.h"
+#include "screens/shared/SegueIdentifiers.h"
+#include "screens/shared/StoryboardIdentifiers.h"
+#include "toolkit/controllers/UINavigationController.h"
 
 namespace kindora {
 

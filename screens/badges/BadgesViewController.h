@@ -4,12 +4,12 @@
 
 #include <memory>
 
-#include "effects/qt/CollectionView.h"
 #include "effects/springy/BelSpringyCollectionViewFlowLayout.h"
 #include "model/Challenge.h"
-#include "platform/qt/toolkit/UIViewController.h"
-#include "platform/view/UILabel.h"
 #include "screens/badges/BadgesDataSourceDelegate.h"
+#include "toolkit/controllers/CollectionView.h"
+#include "toolkit/controllers/UIViewController.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

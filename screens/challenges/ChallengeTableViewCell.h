@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
-#include "platform/qt/toolkit/UITableViewCell.h"
-#include "platform/view/UIImageView.h"
-#include "platform/view/UILabel.h"
+#include "toolkit/controllers/UITableViewCell.h"
+#include "toolkit/view/UIImageView.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

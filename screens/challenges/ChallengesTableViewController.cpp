@@ -3,19 +3,19 @@
 #include "screens/challenges/ChallengesTableViewController.h"
 
 #include "app/AppColors.h"
+#include "app/AppFont.h"
+#include "app/RejectAlert.h"
 #include "app/RunAfterDelay.h"
-#include "app/shell/AppFont.h"
-#include "app/shell/RejectAlert.h"
 #include "model/ChallengeData.h"
 #include "platform/FatalError.h"
-#include "platform/Services.h"
-#include "platform/qt/toolkit/UINavigationController.h"
-#include "screens/SegueIdentifiers.h"
+#include "platform/services/Services.h"
 #include "screens/challenges/ChallengeTableViewCell.h"
-#include "screens/create/CreateChallengeButton.h"
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
+#include "screens/shared/CreateChallengeButton.h"
 #include "screens/shared/PlaceholderTableViewCell.h"
+#include "screens/shared/SegueIdentifiers.h"
+#include "toolkit/controllers/UINavigationController.h"
 
 namespace kindora {
 namespace {

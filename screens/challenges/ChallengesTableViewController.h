@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "model/Challenge.h"
-#include "platform/qt/toolkit/UITableViewController.h"
+#include "toolkit/controllers/UITableViewController.h"
 
 namespace kindora {
 

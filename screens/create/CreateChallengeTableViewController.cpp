@@ -3,10 +3,10 @@
 #include "screens/create/CreateChallengeTableViewController.h"
 
 #include "model/ChallengeData.h"
-#include "platform/Services.h"
 #include "platform/TextRange.h"
-#include "screens/ImageNames.h"
-#include "screens/shared/PassOnAlert.h"
+#include "platform/services/Services.h"
+#include "screens/badges/PassOnAlert.h"
+#include "screens/shared/ImageNames.h"
 
 namespace kindora {
 namespace {

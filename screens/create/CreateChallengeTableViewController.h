@@ -3,11 +3,11 @@
 #pragma once
 
 #include "model/Challenge.h"
-#include "platform/qt/toolkit/UIAlertController.h"
-#include "platform/qt/toolkit/UIImagePickerController.h"
-#include "platform/qt/toolkit/UIStaticTableViewController.h"
-#include "platform/view/UIImageView.h"
-#include "platform/view/UITextField.h"
+#include "toolkit/controllers/UIAlertController.h"
+#include "toolkit/controllers/UIStaticTableViewController.h"
+#include "toolkit/photos/UIImagePickerController.h"
+#include "toolkit/view/UIImageView.h"
+#include "toolkit/view/UITextField.h"
 
 namespace kindora {
 

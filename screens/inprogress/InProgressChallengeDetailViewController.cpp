@@ -2,19 +2,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 
-#include "app/MedalFlight.h"
+#include "app/RejectAlert.h"
 #include "app/RunAfterDelay.h"
-#include "app/shell/RejectAlert.h"
 #include "effects/qt/LayerAnimations.h"
 #include "model/ChallengeData.h"
 #include "platform/FatalError.h"
-#include "platform/Services.h"
-#include "platform/qt/toolkit/UINavigationController.h"
-#include "platform/qt/toolkit/UITabBarController.h"
-#include "screens/ImageNames.h"
-#include "screens/SegueIdentifiers.h"
-#include "screens/shared/BadgesTab.h"
-#include "screens/shared/PassOnAlert.h"
+#include "platform/services/Services.h"
+#include "screens/badges/BadgesTab.h"
+#include "screens/badges/PassOnAlert.h"
+#include "screens/inprogress/MedalFlight.h"
+#include "screens/shared/ImageNames.h"
+#include "screens/shared/SegueIdentifiers.h"
+#include "toolkit/controllers/UINavigationController.h"
+#include "toolkit/controllers/UITabBarController.h"
 
 namespace kindora {
 namespace {

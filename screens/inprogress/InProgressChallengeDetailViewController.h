@@ -5,10 +5,10 @@
 #include "effects/keyframes/CAAnimationDelegate.h"
 #include "effects/keyframes/CAKeyframeAnimation.h"
 #include "model/Challenge.h"
-#include "platform/qt/toolkit/UIViewController.h"
-#include "platform/view/UIButton.h"
-#include "platform/view/UIImageView.h"
-#include "platform/view/UILabel.h"
+#include "toolkit/controllers/UIViewController.h"
+#include "toolkit/view/UIButton.h"
+#include "toolkit/view/UIImageView.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

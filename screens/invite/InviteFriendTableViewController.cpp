@@ -4,9 +4,9 @@
 
 #include "app/PhoneNumberEdit.h"
 #include "model/Friends.h"
-#include "platform/Services.h"
-#include "screens/SegueIdentifiers.h"
+#include "platform/services/Services.h"
 #include "screens/shared/PassingAlert.h"
+#include "screens/shared/SegueIdentifiers.h"
 
 namespace kindora {
 namespace {

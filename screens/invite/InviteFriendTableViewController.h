@@ -9,10 +9,10 @@
 
 #include "model/User.h"
 #include "phoneformat/LuPhoneFormat.h"
-#include "platform/CharacterSet.h"
-#include "platform/qt/toolkit/UIStaticTableViewController.h"
-#include "platform/view/UITextField.h"
-#include "platform/view/UITextView.h"
+#include "platform/services/CharacterSet.h"
+#include "toolkit/controllers/UIStaticTableViewController.h"
+#include "toolkit/view/UITextField.h"
+#include "toolkit/view/UITextView.h"
 
 namespace kindora {
 

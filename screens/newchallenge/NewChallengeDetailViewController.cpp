@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
 
-#include "app/shell/RejectAlert.h"
+#include "app/RejectAlert.h"
 #include "model/ChallengeData.h"
 #include "platform/FatalError.h"
-#include "platform/Services.h"
-#include "platform/qt/toolkit/UINavigationController.h"
-#include "screens/ImageNames.h"
-#include "screens/SegueIdentifiers.h"
+#include "platform/services/Services.h"
+#include "screens/shared/ImageNames.h"
 #include "screens/shared/PassingAlert.h"
+#include "screens/shared/SegueIdentifiers.h"
+#include "toolkit/controllers/UINavigationController.h"
 
 namespace kindora {
 namespace {

@@ -6,10 +6,10 @@
 
 #include "effects/scratch/JxScratchImageView.h"
 #include "model/Challenge.h"
-#include "platform/qt/toolkit/UIViewController.h"
-#include "platform/view/UIButton.h"
-#include "platform/view/UIImageView.h"
-#include "platform/view/UILabel.h"
+#include "toolkit/controllers/UIViewController.h"
+#include "toolkit/view/UIButton.h"
+#include "toolkit/view/UIImageView.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

@@ -3,8 +3,9 @@
 import QtQuick
 import QtQuick.Templates as T
 import Kindora.Effects
-import Kindora.Platform
-import Kindora.Screens
+import Kindora.Toolkit.Hosts
+import Kindora.Screens.NewChallenge
+import Kindora.Screens.Shared
 
 // A new challenge. Before the reveal the covered card stands in the middle of the page; the reveal
 // closes the page up, so that card, texts and buttons form one block.

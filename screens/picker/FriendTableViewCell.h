@@ -3,9 +3,9 @@
 #pragma once
 
 #include "model/User.h"
-#include "platform/qt/toolkit/UITableViewCell.h"
-#include "platform/view/UIImageView.h"
-#include "platform/view/UILabel.h"
+#include "toolkit/controllers/UITableViewCell.h"
+#include "toolkit/view/UIImageView.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import Kindora.Platform
-import Kindora.Screens
+import Kindora.Toolkit.Hosts
+import Kindora.Screens.Picker
 
 // The friends to whom a challenge can be passed on.
 Rectangle {

@@ -3,17 +3,17 @@
 #include "screens/picker/KindoraTableViewController.h"
 
 #include "app/AppColors.h"
-#include "app/shell/AppFont.h"
+#include "app/AppFont.h"
 #include "model/FriendSearch.h"
 #include "model/Friends.h"
 #include "platform/FatalError.h"
-#include "platform/qt/toolkit/UINavigationController.h"
-#include "platform/qt/toolkit/UITabBarController.h"
-#include "screens/SegueIdentifiers.h"
 #include "screens/picker/FriendTableViewCell.h"
 #include "screens/picker/SendAnimation.h"
 #include "screens/shared/PassingAlert.h"
 #include "screens/shared/PlaceholderTableViewCell.h"
+#include "screens/shared/SegueIdentifiers.h"
+#include "toolkit/controllers/UINavigationController.h"
+#include "toolkit/controllers/UITabBarController.h"
 
 namespace kindora {
 namespace {

@@ -8,8 +8,8 @@
 
 #include "model/Challenge.h"
 #include "model/User.h"
-#include "platform/qt/toolkit/UISearchController.h"
-#include "platform/qt/toolkit/UITableViewController.h"
+#include "toolkit/controllers/UISearchController.h"
+#include "toolkit/controllers/UITableViewController.h"
 
 namespace kindora {
 

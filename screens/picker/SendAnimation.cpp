@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "screens/picker/SendAnimation.h"
 
-#include "platform/Services.h"
-#include "platform/qt/quick/Screen.h"
-#include "platform/qt/toolkit/UIViewAnimation.h"
-#include "platform/view/UIImageView.h"
-#include "screens/ImageNames.h"
+#include "platform/services/Services.h"
+#include "screens/shared/ImageNames.h"
+#include "toolkit/controllers/Screen.h"
+#include "toolkit/controllers/UIViewAnimation.h"
+#include "toolkit/view/UIImageView.h"
 
 namespace kindora {
 namespace {

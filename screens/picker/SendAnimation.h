@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "platform/UIImage.h"
-#include "platform/view/UIView.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 

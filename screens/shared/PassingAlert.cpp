@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "app/RunAfterDelay.h"
-#include "platform/Services.h"
-#include "platform/qt/toolkit/UIAlertController.h"
+#include "platform/services/Services.h"
+#include "toolkit/controllers/UIAlertController.h"
 
 namespace kindora {
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/qt/toolkit/UIViewController.h"
+#include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {
 

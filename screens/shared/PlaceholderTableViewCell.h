@@ -5,8 +5,8 @@
 #include <memory>
 #include <string_view>
 
-#include "platform/qt/toolkit/UITableViewCell.h"
-#include "platform/view/UILabel.h"
+#include "toolkit/controllers/UITableViewCell.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 

@@ -1,18 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include "app/shell/AppDelegate.h"
+#include "app/AppDelegate.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
 
 #include "app/AppColors.h"
-#include "app/main/MainStoryboard.h"
+#include "main/MainStoryboard.h"
 #include "model/ChallengeData.h"
 #include "platform/fakes/FakeServices.h"
-#include "platform/qt/toolkit/UIApplication.h"
-#include "platform/qt/toolkit/UINavigationController.h"
 #include "tests/support/ManualTime.h"
+#include "toolkit/controllers/UIApplication.h"
+#include "toolkit/controllers/UINavigationController.h"
 
 namespace kindora {
 namespace {

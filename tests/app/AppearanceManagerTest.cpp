@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include "app/shell/AppearanceManager.h"
+#include "app/AppearanceManager.h"
 
 #include <gtest/gtest.h>
 
 #include "app/AppColors.h"
-#include "platform/qt/toolkit/UINavigationController.h"
-#include "platform/qt/toolkit/UITabBar.h"
+#include "toolkit/controllers/UINavigationController.h"
+#include "toolkit/controllers/UITabBar.h"
 
 namespace kindora {
 namespace {

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include "app/shell/RejectAlert.h"
+#include "app/RejectAlert.h"
 
 #include <gtest/gtest.h>
 

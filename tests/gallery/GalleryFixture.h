@@ -9,9 +9,9 @@
 #include "gallery/GalleryStoryboard.h"
 #include "gallery/menu/MenuTableViewController.h"
 #include "platform/fakes/FakeServices.h"
-#include "platform/qt/toolkit/UIWindow.h"
 #include "tests/support/ManualTime.h"
 #include "tests/support/PhoneFormatsOf.h"
+#include "toolkit/controllers/UIWindow.h"
 
 namespace kindora {
 

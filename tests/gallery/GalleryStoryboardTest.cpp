@@ -4,7 +4,7 @@
 
 #include <QFile>
 
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 #include "tests/gallery/GalleryFixture.h"
 
 namespace kindora {

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "app/shell/AppPhoneFormatEnvironment.h"
+#include "app/AppPhoneFormatEnvironment.h"
 
 namespace kindora {
 

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "platform/UIImage.h"
-#include "platform/qt/toolkit/OutletOwner.h"
+#include "toolkit/view/OutletOwner.h"
 
 namespace kindora {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "platform/qt/toolkit/UITableView.h"
+#include "toolkit/controllers/UITableView.h"
 
 namespace kindora {
 

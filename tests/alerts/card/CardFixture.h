@@ -11,8 +11,8 @@
 
 #include "alerts/card/QavAlertCollectionViewCell.h"
 #include "alerts/card/QavAlertControllerView.h"
-#include "platform/autolayout/LayoutEngine.h"
 #include "platform/fakes/FakeViewServices.h"
+#include "toolkit/view/LayoutEngine.h"
 
 namespace kindora {
 

@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "effects/springy/UICollectionViewFlowLayout.h"
+#include "toolkit/collection/UICollectionViewFlowLayout.h"
 
 namespace kindora {
 namespace {

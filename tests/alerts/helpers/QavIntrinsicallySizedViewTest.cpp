@@ -8,8 +8,8 @@
 #include <memory>
 
 #include "alerts/helpers/QavAutoLayout.h"
-#include "platform/view/UILabel.h"
-#include "tests/platform/autolayout/LayoutFixture.h"
+#include "tests/toolkit/view/LayoutFixture.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "alerts/legacy/QavAlertViewColors.h"
 #include "alerts/legacy/QavLocalizedString.h"
-#include "platform/autolayout/LayoutEngine.h"
 #include "platform/fakes/FakeViewServices.h"
+#include "toolkit/view/LayoutEngine.h"
 
 namespace kindora {
 namespace {

@@ -9,7 +9,7 @@
 #include "alerts/qt/AlertWindows.h"
 #include "alerts/qt/QavAlertController.h"
 #include "platform/fakes/FakeViewServices.h"
-#include "tests/platform/toolkit/ToolkitFixture.h"
+#include "tests/toolkit/controllers/ToolkitFixture.h"
 
 namespace kindora {
 

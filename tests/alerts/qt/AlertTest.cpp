@@ -10,15 +10,11 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
-#include <QtQml/QQmlExtensionPlugin>
 #include <memory>
 
 #include "alerts/legacy/QavAlertView.h"
 #include "alerts/qt/QavAlertController.h"
 #include "tests/support/ManualTime.h"
-
-Q_IMPORT_QML_PLUGIN(Kindora_AlertsPlugin)
-Q_IMPORT_QML_PLUGIN(Kindora_PlatformPlugin)
 
 namespace kindora {
 namespace {

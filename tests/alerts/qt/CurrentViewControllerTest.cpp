@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "alerts/qt/CurrentViewController.h"
 
-#include "tests/platform/toolkit/ToolkitFixture.h"
+#include "tests/toolkit/controllers/ToolkitFixture.h"
 
 namespace kindora {
 namespace {

@@ -16,8 +16,8 @@
 #include "effects/keyframes/CAAnimationDelegate.h"
 #include "effects/keyframes/TovCustomAnimation.h"
 #include "platform/fakes/ManualQueue.h"
-#include "platform/view/UIView.h"
 #include "tests/support/ManualTime.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 namespace {

@@ -6,9 +6,9 @@
 #include <functional>
 #include <vector>
 
-#include "effects/springy/UICollectionView.h"
-#include "effects/springy/UICollectionViewDelegateFlowLayout.h"
-#include "effects/springy/UICollectionViewLayoutAttributes.h"
+#include "toolkit/collection/UICollectionView.h"
+#include "toolkit/collection/UICollectionViewDelegateFlowLayout.h"
+#include "toolkit/collection/UICollectionViewLayoutAttributes.h"
 
 namespace kindora {
 

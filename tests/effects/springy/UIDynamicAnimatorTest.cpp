@@ -9,8 +9,8 @@
 #include <limits>
 #include <numbers>
 
-#include "effects/springy/UICollectionViewFlowLayout.h"
 #include "tests/effects/springy/SpringyFixture.h"
+#include "toolkit/collection/UICollectionViewFlowLayout.h"
 
 namespace kindora {
 namespace {

@@ -8,7 +8,7 @@
 #include "alerts/card/QavAlertControllerDefaultVisualStyle.h"
 #include "alerts/helpers/QavAutoLayout.h"
 #include "alerts/legacy/QavAlertViewCoordinator.h"
-#include "platform/view/UIView.h"
+#include "toolkit/view/UIView.h"
 
 using namespace kindora;
 

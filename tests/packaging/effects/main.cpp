@@ -10,7 +10,7 @@
 #include "effects/keyframes/TovSpringAnimation.h"
 #include "effects/scratch/JxScratchImageView.h"
 #include "effects/springy/BelSpringyCollectionViewFlowLayout.h"
-#include "effects/springy/UICollectionView.h"
+#include "toolkit/collection/UICollectionView.h"
 
 using namespace kindora;
 

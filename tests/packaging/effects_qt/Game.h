@@ -9,11 +9,11 @@
 #include <vector>
 
 #include "effects/keyframes/TovSpringAnimation.h"
-#include "effects/qt/CollectionView.h"
 #include "effects/qt/LayerAnimations.h"
 #include "effects/scratch/JxScratchImageView.h"
 #include "effects/springy/BelSpringyCollectionViewFlowLayout.h"
-#include "platform/qt/toolkit/OutletOwner.h"
+#include "toolkit/controllers/CollectionView.h"
+#include "toolkit/view/OutletOwner.h"
 
 /// Its views are found by the names that QML gives to their outlets.
 class Game : public QObject, public kindora::OutletOwner {

@@ -3,7 +3,7 @@
 import QtQuick
 import Example
 import Kindora.Effects
-import Kindora.Platform
+import Kindora.Toolkit.Hosts
 
 Window {
     id: root

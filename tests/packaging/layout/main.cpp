@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <iostream>
 
-#include "platform/layout/Solver.h"
+#include "layout/Solver.h"
 
 // Something as wide as it is told to be, in the middle of 375.
 int main() {

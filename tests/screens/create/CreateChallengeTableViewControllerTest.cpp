@@ -3,7 +3,7 @@
 #include "screens/create/CreateChallengeTableViewController.h"
 
 #include "screens/picker/KindoraTableViewController.h"
-#include "tests/support/AppFixture.h"
+#include "tests/support/app/AppFixture.h"
 
 namespace kindora {
 namespace {

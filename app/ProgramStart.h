@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+// What every program of this tree does between its entry point and its first screen.
+//
+//   startProgram({.name = "kindora", .displayName = "Kindora"});
+//   ... make a window and its root controller ...
+//   return showWindows(engine, QUrl("qrc:/qt/qml/Kindora/Main/Main.qml"));
+#pragma once
+
+#include <QQmlApplicationEngine>
+#include <QString>
+#include <QUrl>
+
+namespace kindora {
+
+struct ProgramIdentity {
+  QString name;
+  QString displayName;
+  QString desktopFileName = {};
+};
+
+/// Names the program, gives it the icon, and installs the services and the phone formats. Once, in
+/// a QGuiApplication, before anything else of the program is made.
+void startProgram(const ProgramIdentity& identity);
+
+/// Draws the windows that are visible with a QML file whose root is a PhoneWindow. False, with what
+/// is wrong on standard error, when it cannot be drawn.
+[[nodiscard]] bool showWindows(QQmlApplicationEngine& engine, const QUrl& file);
+
+}  // namespace kindora

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "layout/SymbolicWeight.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kindora::layout {
+namespace {
+
+constexpr double kTiny = 1e-9;
+
+}  // namespace
+
+void SymbolicWeight::add(double strength, double amount) {
+  const auto place = std::find_if(parts_.begin(), parts_.end(),
+                                  [strength](const auto& part) { return part.first <= strength; });
+  if (place == parts_.end() || place->first != strength) {
+    if (std::abs(amount) > kTiny) parts_.insert(place, {strength, amount});
+    return;
+  }
+  place->second += amount;
+  if (std::abs(place->second) <= kTiny) parts_.erase(place);
+}
+
+void SymbolicWeight::add(const SymbolicWeight& other, double factor) {
+  for (const auto& [strength, amount] : other.parts_) add(strength, amount * factor);
+}
+
+int SymbolicWeight::compare(const SymbolicWeight& left, double leftFactor,
+                            const SymbolicWeight& right, double rightFactor) {
+  auto l = left.parts_.begin();
+  auto r = right.parts_.begin();
+  while (l != left.parts_.end() || r != right.parts_.end()) {
+    const bool takeLeft =
+        l != left.parts_.end() && (r == right.parts_.end() || l->first >= r->first);
+    const bool takeRight =
+        r != right.parts_.end() && (l == left.parts_.end() || r->first >= l->first);
+    double difference = 0;
+    if (takeLeft) difference += (l++)->second * leftFactor;
+    if (takeRight) difference -= (r++)->second * rightFactor;
+    if (std::abs(difference) > kTiny) return difference < 0 ? -1 : 1;
+  }
+  return 0;
+}
+
+}  // namespace kindora::layout

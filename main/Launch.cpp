@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "main/Launch.h"
+
+#include "app/AppDelegate.h"
+#include "app/ProgramStart.h"
+#include "main/MainStoryboard.h"
+
+namespace kindora {
+
+bool launch(QQmlApplicationEngine& engine) {
+  startProgram({.name = QStringLiteral("kindora"),
+                .displayName = QStringLiteral("Kindora"),
+                .desktopFileName = QStringLiteral("org.kindora.Kindora")});
+
+  AppDelegate& delegate = AppDelegate::sharedDelegate();
+  delegate.window = std::make_shared<UIWindow>();
+  delegate.window->setRootViewController(makeRootTabBarController());
+  delegate.applicationDidFinishLaunching();
+  delegate.window->makeKeyAndVisible();
+
+  return showWindows(engine, QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Main/Main.qml")));
+}
+
+}  // namespace kindora

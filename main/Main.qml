@@ -1,0 +1,8 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import Kindora.Toolkit.Hosts
+
+// The app's window.
+PhoneWindow {
+    title: "Kindora"
+}

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/services/ViewServices.h"
+
+#include <utility>
+
+#include "platform/FatalError.h"
+
+namespace kindora {
+namespace {
+
+ViewServices& slot() {
+  static ViewServices& installed = *new ViewServices;  // outlives every view
+  return installed;
+}
+
+}  // namespace
+
+void installViewServices(ViewServices installed) {
+  if (!installed.text || !installed.mainScreen || !installed.motion) {
+    fatalError("a view service is missing");
+  }
+  slot() = std::move(installed);
+}
+
+bool hasViewServices() { return slot().text != nullptr; }
+
+const ViewServices& viewServices() {
+  if (!hasViewServices()) fatalError("no view services installed");
+  return slot();
+}
+
+}  // namespace kindora

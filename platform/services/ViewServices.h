@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+// What views need of the phone to be laid out, installed before the first of them is shown.
+#pragma once
+
+#include <memory>
+
+#include "platform/services/MotionService.h"
+#include "platform/services/TextMeasurer.h"
+#include "platform/services/UIScreen.h"
+
+namespace kindora {
+
+struct ViewServices {
+  std::shared_ptr<TextMeasurer> text;
+  std::shared_ptr<UIScreen> mainScreen;
+  std::shared_ptr<MotionService> motion;
+};
+
+/// Installs the services, all of which must be given. Those installed last are in force.
+void installViewServices(ViewServices installed);
+
+[[nodiscard]] bool hasViewServices();
+
+/// The services in force; stops when none were installed.
+[[nodiscard]] const ViewServices& viewServices();
+
+}  // namespace kindora

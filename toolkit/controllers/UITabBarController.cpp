@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "toolkit/controllers/UITabBarController.h"
+
+#include "toolkit/controllers/UINavigationController.h"
+
+namespace kindora {
+
+UITabBarController::UITabBarController(const std::vector<UIViewControllerRef>& viewControllers) {
+  for (const auto& controller : viewControllers) {
+    controller->parent_ = this;
+    pages_.append(controller);
+    tabBar_.addTab();
+  }
+}
+
+UITabBarController::~UITabBarController() {
+  for (const auto& controller : pages_.items()) controller->parent_ = nullptr;
+}
+
+const UIViewControllerRef& UITabBarController::selected() const {
+  return pages_.items()[static_cast<std::size_t>(selectedIndex_)];
+}
+
+void UITabBarController::setSelectedIndex(int index) {
+  if (index == selectedIndex_ || index < 0 || index >= pages_.count()) return;
+  const UIViewControllerRef leaving = selected();
+  selectedIndex_ = index;
+  const UIViewControllerRef arriving = selected();
+  arriving->loadViewIfNeeded();
+  emit selectedIndexChanged();
+  if (appearance_ != Appearance::appeared && appearance_ != Appearance::appearing) return;
+  leaving->beginAppearanceTransition(false, false);
+  arriving->beginAppearanceTransition(true, false);
+  leaving->endAppearanceTransition();
+  arriving->endAppearanceTransition();
+}
+
+void UITabBarController::pressTab(int index) {
+  if (!tabBar_.isUserInteractionEnabled() || hasCoveringSubview(*view())) return;
+  if (index != selectedIndex_) {
+    setSelectedIndex(index);
+  } else if (auto* navigation = qobject_cast<UINavigationController*>(selected().get());
+             navigation != nullptr && navigation->canGoBack()) {
+    navigation->popToRootViewController(true);
+  }
+}
+
+std::vector<UIViewController*> UITabBarController::visibleChildren() const {
+  return {selected().get()};
+}
+
+bool UITabBarController::goBack() { return hasCoveringSubview(*view()) || selected()->goBack(); }
+
+QUrl UITabBarController::page() const {
+  return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Toolkit/Hosts/TabHost.qml"));
+}
+
+}  // namespace kindora

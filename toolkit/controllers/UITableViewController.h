@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "toolkit/controllers/UITableView.h"
+#include "toolkit/controllers/UIViewController.h"
+
+namespace kindora {
+
+/// A screen that is one table, and the table's data source.
+class UITableViewController : public kindora::UIViewController, public UITableViewDataSource {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("controllers come from the storyboard")
+  Q_PROPERTY(kindora::UITableView* tableView READ tableView CONSTANT)
+
+ public:
+  [[nodiscard]] UITableView* tableView() { return &tableView_; }
+
+ private:
+  UITableView tableView_{*this};
+};
+
+}  // namespace kindora

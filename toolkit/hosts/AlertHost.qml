@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Kindora.Toolkit.Quick
+
+// Draws an alert: a card in the middle of the dimmed window.
+FocusScope {
+    id: root
+
+    required property UIAlertController controller
+    readonly property real progress: root.controller.presentationProgress
+    readonly property bool sideBySide: root.controller.actionTitles.length === 2
+
+    Rectangle {
+        anchors.fill: parent
+        color: "black"
+        opacity: 0.4 * root.progress
+    }
+
+    // Nothing below may be touched.
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+        onWheel: wheel => wheel.accepted = true
+    }
+
+    Rectangle {
+        id: card
+        objectName: "alertCard"
+        anchors.centerIn: parent
+        width: 270
+        height: body.height + buttons.height
+        radius: 14
+        color: Qt.rgba(0.985, 0.985, 0.985, 1)
+        opacity: root.progress
+        scale: 1.12 - 0.12 * root.progress
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: root.controller.alertTitle
+
+        Flickable {
+            id: body
+            width: parent.width
+            height: Math.min(texts.height, root.height - 80 - buttons.height)
+            contentHeight: texts.height
+            interactive: contentHeight > height
+            boundsBehavior: Flickable.StopAtBounds
+            clip: interactive
+
+            Column {
+                id: texts
+                width: parent.width
+                topPadding: 20
+                bottomPadding: 20
+                spacing: 4
+
+                PlainText {
+                    x: 16
+                    width: parent.width - 32
+                    visible: text !== ""
+                    text: root.controller.alertTitle
+                    Accessible.ignored: true
+                    font: Appearance.boldFont(17)
+                    wrapMode: Text.Wrap
+                    horizontalAlignment: Text.AlignHCenter
+                }
+
+                PlainText {
+                    x: 16
+                    width: parent.width - 32
+                    visible: text !== ""
+                    text: root.controller.alertMessage
+                    points: 13
+                    wrapMode: Text.Wrap
+                    lineHeight: 1.1
+                    horizontalAlignment: Text.AlignHCenter
+                }
+            }
+        }
+
+        Grid {
+            id: buttons
+            anchors.bottom: parent.bottom
+            width: parent.width
+            columns: root.sideBySide ? 2 : 1
+
+            Repeater {
+                model: root.controller.actionTitles
+
+                delegate: T.Button {
+                    id: action
+
+                    required property int index
+                    required property string modelData
+                    readonly property bool cancels: action.index === root.controller.cancelIndex
+                    readonly property bool destroys:
+                        root.controller.destructiveIndexes.indexOf(action.index) >= 0
+
+                    width: root.sideBySide ? card.width / 2 : card.width
+                    implicitHeight: 48
+                    focus: action.index === root.controller.actionTitles.length - 1
+                    focusPolicy: Qt.StrongFocus
+                    text: action.modelData
+                    Accessible.name: action.text
+                    onClicked: root.controller.choose(action.index)
+                    Keys.onReturnPressed: action.clicked()
+                    Keys.onEnterPressed: action.clicked()
+
+                    background: Rectangle {
+                        radius: card.radius
+                        color: action.pressed ? Qt.rgba(0, 0, 0, 0.08) : "transparent"
+
+                        Rectangle {
+                            width: parent.width
+                            height: 1
+                            color: Qt.rgba(0.88, 0.88, 0.88, 1)
+                        }
+
+                        Rectangle {
+                            width: 1
+                            height: parent.height
+                            visible: root.sideBySide && action.index === 1
+                            color: Qt.rgba(0.88, 0.88, 0.88, 1)
+                        }
+
+                        FocusRing {
+                            visible: action.visualFocus
+                            anchors.margins: 4
+                            radius: 10
+                        }
+                    }
+
+                    contentItem: PlainText {
+                        text: action.text
+                        Accessible.ignored: true
+                        font: action.cancels ? Appearance.boldFont(17) : Appearance.font(17)
+                        color: action.destroys ? Qt.rgba(0.82, 0.01, 0.11, 1)
+                                               : Qt.darker(Appearance.tint, 1.5)
+                        horizontalAlignment: Text.AlignHCenter
+                        verticalAlignment: Text.AlignVCenter
+                    }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Toolkit.Quick
+
+// What a cell prototype is: it shows a cell and says what is read aloud for it.
+Item {
+    property UICollectionViewCell cell
+    property string spoken
+}

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Kindora.Toolkit.Quick
+
+// Draws a collection that scrolls up and down, with cells that are pressed.
+Flickable {
+    id: root
+
+    required property CollectionView collectionView
+    // How a cell looks, made with the property `cell` and what is read aloud in `spoken`.
+    required property Component prototype
+
+    contentWidth: width
+    contentHeight: cells.implicitHeight
+    clip: true
+    boundsBehavior: Flickable.DragAndOvershootBounds
+    Accessible.role: Accessible.List
+
+    function show(item) {
+        if (item.y - 10 < root.contentY)
+            root.contentY = Math.max(0, item.y - 10);
+        else if (item.y + item.height + 10 > root.contentY + root.height)
+            root.contentY = Math.min(root.contentHeight, item.y + item.height + 10) - root.height;
+    }
+
+    CollectionViewItem {
+        id: cells
+        width: root.width
+        height: implicitHeight
+        collectionView: root.collectionView
+        visibleSize: Qt.size(root.width, root.height)
+        contentY: root.contentY
+        finger: touch.active ? Qt.point(touch.point.position.x, touch.point.position.y)
+                             : Qt.point(0, 0)
+
+        delegate: T.AbstractButton {
+            id: content
+
+            required property UICollectionViewCell cell
+
+            focusPolicy: Qt.StrongFocus
+            text: (look.item as CollectionCell)?.spoken ?? ""
+            Accessible.role: Accessible.Button
+            Accessible.name: content.text
+
+            onDownChanged: content.cell.setHighlighted(content.down, true)
+            onClicked: cells.select(content.cell)
+            onActiveFocusChanged: if (content.activeFocus) root.show(content)
+            Keys.onReturnPressed: content.clicked()
+            Keys.onEnterPressed: content.clicked()
+
+            contentItem: Loader {
+                id: look
+                sourceComponent: root.prototype
+                onLoaded: item.cell = content.cell
+            }
+
+            FocusRing {
+                visible: content.visualFocus
+                radius: 18
+            }
+        }
+
+        // Above the cells: a press that one of them takes is not seen below it.
+        Item {
+            anchors.fill: parent
+            z: 1
+
+            PointHandler {
+                id: touch
+                acceptedButtons: Qt.LeftButton
+            }
+        }
+    }
+}

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Kindora.Toolkit.Quick
+
+// A row of a static table: a white card, pressed where nothing that stands on it takes the press.
+Item {
+    id: root
+
+    // What is read aloud; without it the row is only pressed by hand.
+    property string action
+    property bool highlighted: false
+    default property alias content: holder.data
+
+    signal pressed
+
+    T.AbstractButton {
+        id: button
+        anchors.fill: parent
+        text: root.action
+        focusPolicy: root.action !== "" ? Qt.StrongFocus : Qt.NoFocus
+        Accessible.role: Accessible.Button
+        Accessible.name: button.text
+        Accessible.ignored: root.action === ""
+        onClicked: root.pressed()
+        Keys.onReturnPressed: button.clicked()
+        Keys.onEnterPressed: button.clicked()
+
+        background: Rectangle {
+            radius: 20
+            color: button.down && root.action !== "" ? Qt.rgba(0.94, 0.94, 0.94, 1) : "white"
+            border.width: root.highlighted ? 2 : 1
+            border.color: root.highlighted ? Qt.darker(Appearance.tint, 1.3)
+                                           : Qt.rgba(0.92, 0.92, 0.92, 1)
+
+            FocusRing {
+                visible: button.visualFocus
+                radius: 22
+            }
+        }
+    }
+
+    Item {
+        id: holder
+        anchors.fill: parent
+    }
+}

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Toolkit.Quick
+
+// A section of a static table: its heading, and the row as a white card that is pressed beside what
+// stands on it.
+Column {
+    id: root
+
+    required property UIStaticTableViewController controller
+    required property int section
+    // Pressing the row is an action of its own, reached by the keyboard and read aloud as this.
+    property string action
+    property bool highlighted: false
+    property real rowHeight: 56
+    default property alias content: holder.data
+
+    width: parent?.width ?? 0
+
+    Item {
+        width: parent.width
+        height: 44
+
+        PlainText {
+            x: 32
+            width: parent.width - 64
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: 8
+            text: root.controller.sectionTitles[root.section]
+            points: 16
+            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            Accessible.role: Accessible.Heading
+        }
+    }
+
+    FormRow {
+        x: 16
+        width: parent.width - 32
+        height: root.rowHeight
+        action: root.action
+        highlighted: root.highlighted
+        onPressed: root.controller.pressRow(root.section)
+
+        Item {
+            id: holder
+            anchors.fill: parent
+            anchors.leftMargin: 16
+            anchors.rightMargin: 16
+        }
+    }
+}

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Toolkit.Quick
+
+// Draws a custom presentation: the container with all that its transition puts into it.
+FocusScope {
+    id: root
+
+    required property UIViewController controller
+
+    // Nothing below may be touched.
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+        acceptedButtons: Qt.AllButtons
+        onWheel: wheel => wheel.accepted = true
+    }
+
+    RecordItem {
+        objectName: "presentationContainer"
+        anchors.fill: parent
+        record: root.controller.presentationContainer
+    }
+}

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Kindora.Toolkit.Quick
+
+// The line above a table in which the user types what to look for.
+Rectangle {
+    id: root
+
+    required property UISearchBar bar
+
+    implicitHeight: root.bar.height
+    color: root.bar.backgroundColor
+
+    Rectangle {
+        id: well
+        anchors.left: parent.left
+        anchors.leftMargin: 12
+        anchors.right: cancel.left
+        anchors.rightMargin: cancel.visible ? 0 : 12
+        anchors.verticalCenter: parent.verticalCenter
+        height: 34
+        radius: 10
+        color: Qt.rgba(0.93, 0.93, 0.94, 1)
+
+        PictureItem {
+            id: lens
+            x: 9
+            width: 16
+            height: 16
+            anchors.verticalCenter: parent.verticalCenter
+            imageName: "lens"
+            tint: Qt.rgba(0.5, 0.5, 0.52, 1)
+        }
+
+        T.TextField {
+            id: field
+            objectName: "searchField"
+            anchors.left: lens.right
+            anchors.leftMargin: 7
+            anchors.right: clear.left
+            anchors.top: parent.top
+            anchors.bottom: parent.bottom
+            verticalAlignment: TextInput.AlignVCenter
+            placeholderText: qsTr("Search")
+            font: Appearance.font(16)
+            color: Qt.rgba(0.13, 0.13, 0.13, 1)
+            selectionColor: Appearance.tint
+            selectByMouse: true
+            clip: true
+            inputMethodHints: Qt.ImhNoPredictiveText
+            Accessible.name: field.placeholderText
+            Accessible.role: Accessible.EditableText
+
+            Component.onCompleted: field.text = root.bar.text
+            // What the input method is still composing counts, too.
+            onDisplayTextChanged: root.bar.edit(field.displayText)
+            onActiveFocusChanged: root.bar.setFirstResponder(field.activeFocus)
+            Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape
+            Keys.onEscapePressed: root.bar.cancel()
+            Keys.onReturnPressed: root.bar.setFirstResponder(false)
+
+            PlainText {
+                anchors.fill: parent
+                visible: field.displayText === ""
+                text: field.placeholderText
+                color: Qt.rgba(0.45, 0.45, 0.47, 1)
+                verticalAlignment: Text.AlignVCenter
+                Accessible.ignored: true
+            }
+        }
+
+        T.AbstractButton {
+            id: clear
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            width: visible ? 34 : 9
+            height: 44
+            visible: field.displayText !== ""
+            text: qsTr("Clear text")
+            Accessible.role: Accessible.Button
+            Accessible.name: clear.text
+            onClicked: {
+                field.clear();
+                field.forceActiveFocus();
+            }
+
+            contentItem: Item {
+                PictureItem {
+                    anchors.centerIn: parent
+                    width: 18
+                    height: 18
+                    imageName: "clear"
+                    tint: Qt.rgba(0.5, 0.5, 0.52, 1)
+                }
+            }
+        }
+    }
+
+    T.Button {
+        id: cancel
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        width: visible ? implicitWidth : 0
+        implicitWidth: label.implicitWidth + 24
+        height: 44
+        visible: root.bar.showsCancelButton
+        focusPolicy: Qt.StrongFocus
+        text: qsTr("Cancel")
+        opacity: cancel.pressed ? 0.5 : 1
+        Accessible.name: cancel.text
+        onClicked: root.bar.cancel()
+        Keys.onReturnPressed: cancel.clicked()
+        Keys.onEnterPressed: cancel.clicked()
+
+        background: FocusRing {
+            visible: cancel.visualFocus
+            anchors.margins: 2
+            radius: 10
+        }
+
+        contentItem: PlainText {
+            id: label
+            text: cancel.text
+            color: Appearance.tintedText
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
+        }
+    }
+
+    Connections {
+        target: root.bar
+
+        // Writing what the field shows already would end a composition.
+        function onTextChanged() {
+            if (root.bar.text === "")
+                field.clear();
+            else if (root.bar.text !== field.displayText)
+                field.text = root.bar.text;
+        }
+
+        function onFirstResponderChanged() {
+            if (root.bar.firstResponder)
+                field.forceActiveFocus();
+            else
+                field.focus = false;
+        }
+    }
+}

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Kindora.Toolkit.Hosts
+import Kindora.Toolkit.Photos
+
+// The camera with its release, or the word that there is none.
+Rectangle {
+    id: root
+
+    required property CameraController controller
+    readonly property CameraSurface surface: camera.item as CameraSurface
+    readonly property bool usable: root.surface?.usable ?? false
+
+    color: root.usable ? "black" : Qt.rgba(0.96, 0.96, 0.96, 1)
+
+    Loader {
+        id: camera
+        anchors.fill: parent
+        visible: root.usable
+        active: root.controller.supported
+        source: "CameraView.qml"
+    }
+
+    Binding {
+        target: root.surface
+        property: "running"
+        value: root.controller.running
+        when: root.surface !== null
+    }
+
+    Connections {
+        target: root.surface
+        function onPhotoSaved(file: string) {
+            root.controller.photoTaken(file);
+        }
+    }
+
+    CalmMessage {
+        anchors.centerIn: parent
+        width: parent.width - 64
+        visible: !root.usable
+        imageName: "camera"
+        message: "No camera found on this device."
+        action: "Choose Existing"
+        onPressed: root.controller.chooseExisting()
+    }
+
+    T.Button {
+        id: release
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 24
+        implicitWidth: 72
+        implicitHeight: 72
+        visible: root.usable
+        enabled: root.surface?.ready ?? false
+        focusPolicy: Qt.StrongFocus
+        text: "Take Photo"
+        Accessible.name: release.text
+        opacity: release.enabled ? 1 : 0.5
+        onClicked: {
+            const file = root.controller.pictureFile();
+            if (file !== "")
+                root.surface.captureRequested(file);
+        }
+        Keys.onReturnPressed: release.clicked()
+        Keys.onEnterPressed: release.clicked()
+
+        background: Rectangle {
+            radius: width / 2
+            color: "transparent"
+            border.width: 4
+            border.color: "white"
+
+            Rectangle {
+                anchors.fill: parent
+                anchors.margins: release.pressed ? 10 : 8
+                radius: width / 2
+                color: "white"
+            }
+
+            FocusRing {
+                visible: release.visualFocus
+                anchors.margins: -5
+                radius: width / 2
+            }
+        }
+    }
+
+    OpeningVeil {
+        anchors.fill: parent
+        visible: root.controller.opening
+    }
+}

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "toolkit/photos/PhotoFolderController.h"
+
+#include <utility>
+
+#include "platform/services/Services.h"
+
+namespace kindora {
+
+PhotoFolderController::PhotoFolderController(std::string path) : path_(std::move(path)) {
+  setTitle(path_.empty() ? QStringLiteral("Home")
+                         : QString::fromStdString(path_.substr(path_.rfind('/') + 1)));
+}
+
+QUrl PhotoFolderController::page() const {
+  return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Toolkit/Photos/PhotoFolderPage.qml"));
+}
+
+void PhotoFolderController::viewDidLoad() {
+  PhotoPageController::viewDidLoad();
+  services().photos->listFolder(
+      path_, [this, alive = weak_from_this()](const std::vector<PhotoFile>& files) {
+        const auto self = alive.lock();
+        if (!self) return;
+        files_.setFiles(files);
+        listed_ = true;
+        emit listedChanged();
+      });
+}
+
+void PhotoFolderController::choose(int row) {
+  const PhotoFile& file = files_.file(row);
+  if (file.isFolder) {
+    picker().pushViewController(makeViewController<PhotoFolderController>(file.path), true);
+  } else {
+    openPhoto(file.path);
+  }
+}
+
+}  // namespace kindora

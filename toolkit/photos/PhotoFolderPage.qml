@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Kindora.Toolkit.Hosts
+import Kindora.Toolkit.Photos
+
+// A folder's folders and pictures, one a row.
+Rectangle {
+    id: root
+
+    required property PhotoFolderController controller
+
+    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+
+    CalmMessage {
+        anchors.centerIn: parent
+        width: parent.width - 64
+        visible: root.controller.listed && list.count === 0
+        imageName: "photos"
+        message: "There are no folders and no pictures here."
+    }
+
+    ListView {
+        id: list
+        objectName: "folderList"
+        anchors.fill: parent
+        topMargin: 8
+        bottomMargin: 16
+        model: root.controller.files
+        boundsBehavior: contentHeight > height ? Flickable.DragAndOvershootBounds
+                                               : Flickable.StopAtBounds
+        Accessible.role: Accessible.List
+        Accessible.name: root.controller.title
+
+        delegate: T.AbstractButton {
+            id: file
+
+            required property int index
+            required property string name
+            required property bool isFolder
+            required property imageHandle thumbnail
+
+            width: list.width
+            height: 60
+            focusPolicy: Qt.StrongFocus
+            text: file.name
+            Accessible.name: file.text
+            onClicked: root.controller.choose(file.index)
+            Keys.onReturnPressed: file.clicked()
+            Keys.onEnterPressed: file.clicked()
+            Component.onCompleted: root.controller.files.show(file.index)
+            Component.onDestruction: root.controller.files.hide(file.index)
+
+            background: Rectangle {
+                color: file.down ? Qt.rgba(0.9, 0.9, 0.9, 1) : "transparent"
+
+                FocusRing {
+                    visible: file.visualFocus
+                    anchors.margins: 2
+                    radius: 10
+                }
+            }
+
+            PictureItem {
+                id: picture
+                x: 16
+                width: 44
+                height: 44
+                anchors.verticalCenter: parent.verticalCenter
+                visible: !file.isFolder
+                radius: 8
+                image: file.thumbnail
+                ground: Qt.rgba(0.88, 0.88, 0.88, 1)
+            }
+
+            PictureItem {
+                anchors.fill: picture
+                anchors.margins: 2
+                visible: file.isFolder
+                imageName: "folder"
+                tint: Appearance.tint
+            }
+
+            PlainText {
+                anchors.left: picture.right
+                anchors.leftMargin: 16
+                anchors.right: parent.right
+                anchors.rightMargin: 16
+                anchors.verticalCenter: parent.verticalCenter
+                text: file.text
+                points: 17
+                elide: Text.ElideMiddle
+                Accessible.ignored: true
+            }
+        }
+    }
+
+    OpeningVeil {
+        anchors.fill: parent
+        visible: root.controller.opening
+    }
+}

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Kindora.Toolkit.Hosts
+import Kindora.Toolkit.Photos
+
+// The user's pictures as a grid, newest first, and the way to those that lie elsewhere.
+Rectangle {
+    id: root
+
+    required property PhotoLibraryController controller
+
+    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+
+    CalmMessage {
+        anchors.centerIn: parent
+        width: parent.width - 64
+        visible: root.controller.choosesElsewhere
+        imageName: "photos"
+        message: "Choose a picture in the window that opens."
+
+        // Where there is no such window, that is known at once.
+        SequentialAnimation on opacity {
+            PropertyAction { value: 0 }
+            PauseAnimation { duration: 400 }
+            NumberAnimation { to: 1; duration: 200 }
+        }
+    }
+
+    CalmMessage {
+        anchors.centerIn: parent
+        width: parent.width - 64
+        visible: root.controller.showsGrid && grid.count === 0
+        imageName: "photos"
+        message: "There are no pictures in your Pictures folder."
+        action: "Browse Folders"
+        onPressed: root.controller.browse()
+    }
+
+    GridView {
+        id: grid
+        objectName: "photoGrid"
+        anchors.fill: parent
+        anchors.leftMargin: 6
+        anchors.rightMargin: 6
+        topMargin: 6
+        bottomMargin: 86
+        visible: root.controller.showsGrid && grid.count > 0
+        cellWidth: Math.floor(width / 3)
+        cellHeight: cellWidth
+        model: root.controller.photos
+        boundsBehavior: contentHeight > height ? Flickable.DragAndOvershootBounds
+                                               : Flickable.StopAtBounds
+        Accessible.role: Accessible.List
+        Accessible.name: root.controller.title
+
+        delegate: T.AbstractButton {
+            id: photo
+
+            required property int index
+            required property string name
+            required property imageHandle thumbnail
+
+            width: grid.cellWidth
+            height: grid.cellHeight
+            focusPolicy: Qt.StrongFocus
+            text: photo.name
+            scale: photo.down ? 0.96 : 1
+            Accessible.name: photo.text
+            onClicked: root.controller.choose(photo.index)
+            Keys.onReturnPressed: photo.clicked()
+            Keys.onEnterPressed: photo.clicked()
+            Component.onCompleted: root.controller.photos.show(photo.index)
+            Component.onDestruction: root.controller.photos.hide(photo.index)
+
+            PictureItem {
+                anchors.fill: parent
+                anchors.margins: 4
+                radius: 12
+                image: photo.thumbnail
+                ground: Qt.rgba(0.88, 0.88, 0.88, 1)
+            }
+
+            FocusRing {
+                visible: photo.visualFocus
+                anchors.margins: 2
+                radius: 14
+            }
+        }
+    }
+
+    PillButton {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 18
+        visible: grid.visible
+        filled: false
+        textColor: Qt.darker(Appearance.tint, 1.5)
+        text: "Browse Folders"
+        onClicked: root.controller.browse()
+    }
+
+    OpeningVeil {
+        anchors.fill: parent
+        visible: root.controller.opening
+    }
+}

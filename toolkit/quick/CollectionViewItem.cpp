@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "toolkit/quick/CollectionViewItem.h"
+
+#include <QQmlContext>
+#include <QVariant>
+#include <set>
+
+#include "platform/FatalError.h"
+
+namespace kindora {
+
+// Runs on the animation clock only while cells move.
+class CollectionViewItem::Ticker final : public QAbstractAnimation {
+ public:
+  explicit Ticker(CollectionViewItem& item) : item_(item) {}
+  int duration() const override { return -1; }
+  void wake() {
+    if (state() == Running) return;
+    last_ = 0;
+    start();
+  }
+
+ protected:
+  void updateCurrentTime(int time) override {
+    const int gone = time - last_;
+    last_ = time;
+    if (gone <= 0 || !item_.view_) return;
+    item_.view_->advance(gone / 1000.0);
+    if (item_.view_->isResting()) stop();
+  }
+
+ private:
+  CollectionViewItem& item_;
+  int last_ = 0;  // milliseconds
+};
+
+CollectionViewItem::CollectionViewItem(QQuickItem* parent)
+    : QQuickItem(parent), ticker_(std::make_unique<Ticker>(*this)) {}
+
+CollectionViewItem::~CollectionViewItem() {
+  ticker_->stop();
+  // The collection may outlive its item.
+  if (view_) view_->setPanLocation({});
+}
+
+void CollectionViewItem::setCollectionView(CollectionView* view) {
+  if (view_ == view) return;
+  if (view_) disconnect(view_, nullptr, this, nullptr);
+  items_.clear();
+  view_ = view;
+  if (view_) connect(view_, &CollectionView::changed, this, &CollectionViewItem::draw);
+  emit collectionViewChanged();
+  tellView();
+}
+
+void CollectionViewItem::setDelegate(QQmlComponent* delegate) {
+  if (delegate_ == delegate) return;
+  delegate_ = delegate;
+  items_.clear();
+  emit delegateChanged();
+  if (isComponentComplete()) draw();
+}
+
+void CollectionViewItem::setVisibleSize(QSizeF size) {
+  if (visibleSize_ == size) return;
+  visibleSize_ = size;
+  emit visibleSizeChanged();
+  tellView();
+}
+
+void CollectionViewItem::setContentY(double contentY) {
+  if (contentY_ == contentY) return;
+  contentY_ = contentY;
+  emit contentYChanged();
+  tellView();
+}
+
+void CollectionViewItem::setFinger(QPointF finger) {
+  if (finger_ == finger) return;
+  finger_ = finger;
+  emit fingerChanged();
+  if (view_) view_->setPanLocation({finger.x(), finger.y()});
+}
+
+void CollectionViewItem::componentComplete() {
+  QQuickItem::componentComplete();
+  tellView();
+  draw();
+}
+
+void CollectionViewItem::tellView() {
+  if (!isComponentComplete() || !view_) return;
+  view_->setFrame({{0, 0}, {visibleSize_.width(), visibleSize_.height()}});
+  view_->setContentOffset({0, contentY_});
+  if (!view_->isResting()) ticker_->wake();
+}
+
+QQuickItem* CollectionViewItem::itemOf(const UICollectionViewCellRef& cell) {
+  std::unique_ptr<QQuickItem>& item = items_[cell.get()];
+  if (!item) {
+    QObject* made = delegate_->createWithInitialProperties(
+        {{QStringLiteral("cell"), QVariant::fromValue(cell.get())}}, delegate_->creationContext());
+    item.reset(qobject_cast<QQuickItem*>(made));
+    if (!item) fatalError("the delegate makes no item: " + delegate_->errorString().toStdString());
+    item->setParentItem(this);
+  }
+  return item.get();
+}
+
+void CollectionViewItem::draw() {
+  if (!isComponentComplete() || !view_ || !delegate_) return;
+  const CGSize content = view_->contentSize();
+  setImplicitSize(content.width, content.height);
+  std::set<UICollectionViewCell*> shown;
+  QQuickItem* before = nullptr;
+  for (const auto& [path, place] : view_->shownCells()) {
+    QQuickItem* item = itemOf(place.cell);
+    shown.insert(place.cell.get());
+    item->setPosition({place.frame.origin.x, place.frame.origin.y});
+    item->setSize({place.frame.size.width, place.frame.size.height});
+    item->setVisible(true);
+    // The focus goes from item to item in the order of the badges.
+    if (before != nullptr) item->stackAfter(before);
+    before = item;
+  }
+  for (const auto& [cell, item] : items_) {
+    if (!shown.contains(cell)) item->setVisible(false);
+  }
+  if (!view_->isResting()) ticker_->wake();
+}
+
+void CollectionViewItem::select(UICollectionViewCell* cell) {
+  if (!view_) return;
+  for (const auto& [path, place] : view_->shownCells()) {
+    if (place.cell.get() != cell) continue;
+    view_->select(IndexPath(path));
+    return;
+  }
+}
+
+}  // namespace kindora

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPointer>
+#include <QQuickWindow>
+#include <QTimer>
+#include <array>
+#include <optional>
+
+#include "platform/ShakeRecognizer.h"
+#include "platform/qt/Accelerometer.h"
+
+namespace kindora {
+
+/// Hears that the phone, or on a desktop its window, is shaken, and tells the application. Reads
+/// the accelerometer only while somebody listens.
+class ShakeSource : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(QQuickWindow* window READ window WRITE setWindow NOTIFY windowChanged)
+
+ public:
+  explicit ShakeSource(QObject* parent = nullptr);
+
+  [[nodiscard]] QQuickWindow* window() const { return window_; }
+  void setWindow(QQuickWindow* window);
+  /// The second way to shake, for a key.
+  Q_INVOKABLE static void shake();
+
+ signals:
+  void windowChanged();
+
+ private:
+  void listenOrRest();
+  void readAccelerometer();
+  void windowMoved();
+
+  QPointer<QQuickWindow> window_;
+  QElapsedTimer clock_;
+  ShakeRecognizer windowX_;
+  ShakeRecognizer windowY_;
+  std::optional<Accelerometer> accelerometer_;
+  std::array<ShakeRecognizer, 3> axes_;
+  QTimer sampling_;
+};
+
+}  // namespace kindora

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "toolkit/quick/TapItem.h"
+
+namespace kindora {
+
+bool TapItem::isTappable() const {
+  return view() && view()->tapGestureRecognizer() && view()->tapGestureRecognizer()->enabled;
+}
+
+void TapItem::tap() {
+  if (!isTappable()) return;
+  // The view, or its recogniser, may go while it is told.
+  const std::shared_ptr<UIView> tapped = view();
+  const auto recognizer = tapped->tapGestureRecognizer();
+  if (recognizer->action) recognizer->action(*tapped);
+}
+
+void TapItem::press(bool pressed) {
+  const std::shared_ptr<UIView> touched = view();
+  const auto recognizer = touched ? touched->tapGestureRecognizer() : nullptr;
+  if (recognizer && recognizer->pressedChanged) recognizer->pressedChanged(*touched, pressed);
+}
+
+}  // namespace kindora

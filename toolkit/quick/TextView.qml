@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Kindora.Toolkit.Quick
+
+// Text of many lines that the user edits, without a frame of its own; it scrolls when it is long.
+TextInputItem {
+    id: root
+
+    // What the view is called when it is read aloud.
+    required property string label
+    readonly property bool inputFocus: area.activeFocus
+
+    implicitHeight: 120
+
+    // The keyboard goes where the view says that it is.
+    function follow() {
+        if (root.editing && !area.activeFocus) {
+            if (area.enabled)
+                area.forceActiveFocus();
+            else
+                area.focus = true;
+        } else if (!root.editing && area.focus) {
+            root.commit();
+            area.focus = false;
+        }
+    }
+
+    onViewChanged: root.follow()
+    Component.onCompleted: root.follow()
+    onInputReset: {
+        area.text = root.text;
+        area.select(root.selectionStart, root.selectionEnd);
+    }
+
+    Flickable {
+        anchors.fill: parent
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+
+        T.TextArea.flickable: T.TextArea {
+            id: area
+            padding: root.contentInset
+            font: Appearance.font(17)
+            color: root.textColor.valid ? root.textColor : Qt.rgba(0.13, 0.13, 0.13, 1)
+            selectionColor: Qt.alpha(Appearance.tint, 0.4)
+            selectedTextColor: area.color
+            wrapMode: TextEdit.Wrap
+            textFormat: TextEdit.PlainText
+            selectByMouse: true
+            inputMethodHints: root.hints
+            Accessible.name: root.label
+            Accessible.description: root.placeholder
+
+            function tell() {
+                root.edit(area.text, area.preeditText, area.cursorPosition);
+            }
+
+            onTextChanged: area.tell()
+            onPreeditTextChanged: area.tell()
+            onSelectionStartChanged: root.select(area.text, area.selectionStart, area.selectionEnd)
+            onSelectionEndChanged: root.select(area.text, area.selectionStart, area.selectionEnd)
+            onCursorPositionChanged: root.select(area.text, area.selectionStart, area.selectionEnd)
+            onActiveFocusChanged: {
+                if (area.activeFocus)
+                    root.beginEditing();
+                else if (!area.focus)
+                    root.endEditing();
+            }
+            onEnabledChanged: if (area.enabled) root.follow()
+            // Tab goes on to the next control, as everywhere.
+            KeyNavigation.priority: KeyNavigation.BeforeItem
+            Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+            Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+
+            PlainText {
+                x: area.leftPadding
+                y: area.topPadding
+                width: area.width - area.leftPadding - area.rightPadding
+                visible: area.text === "" && area.preeditText === ""
+                text: root.placeholder
+                points: 17
+                color: Qt.rgba(0.6, 0.6, 0.6, 1)
+                Accessible.ignored: true
+            }
+        }
+    }
+}
