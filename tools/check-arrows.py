@@ -1,0 +1,369 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Kindora developers
+# SPDX-License-Identifier: Apache-2.0
+"""Refuses a wrong arrow between the folders of the tree.
+
+    tools/check-arrows.py BUILD-FOLDER [TOP-FOLDER]
+
+What each object really included stands in the dependency log of a build by Ninja, what each target
+declares in BUILD-FOLDER/targets.json. A target reads the headers of its own folder and of the
+folders that it links, directly or through others, and links no floor above its own. What the files
+of a folder include themselves, their own targets link themselves; tests need not.
+"""
+
+import collections
+import functools
+import json
+import os
+import re
+import subprocess
+import sys
+
+# Bottom to top. A folder stands on the floor of the longest name that leads to it.
+FLOORS = (
+    "platform",
+    "platform/services",
+    "platform/fakes",
+    "platform/qt",
+    "layout",
+    "toolkit/view",
+    "toolkit/collection",
+    "toolkit/controllers",
+    "toolkit/quick",
+    "toolkit/hosts",
+    "toolkit/photos",
+    "model",
+    "phoneformat",
+    "effects/keyframes",
+    "effects/scratch",
+    "effects/springy",
+    "effects/qt",
+    "alerts/helpers",
+    "alerts/card",
+    "alerts/legacy",
+    "alerts/qt",
+    "app",
+    "screens/shared",
+    "screens/picker",
+    "screens/invite",
+    "screens/newchallenge",
+    "screens/badges",
+    "screens/create",
+    "screens/inprogress",
+    "screens/challenges",
+    "gallery",
+    "main",
+)
+# Tests of the floors below this one link nothing of it or above it.
+THE_APP = "app"
+
+# All of the project that these may link besides themselves.
+ONLY = {
+    "platform": (),
+    "layout": (),
+    "model": ("platform",),
+    "phoneformat": (),
+}
+
+# Modules of Qt that these may not link, not even through others. The longest name counts.
+NO_QT = re.compile(r"Qt6::")
+NO_QT_QUICK = re.compile(r"Qt6::Quick")
+ANY = re.compile(r"(?!)")
+BANNED = {
+    "platform": NO_QT,
+    "platform/qt": NO_QT_QUICK,
+    "layout": NO_QT,
+    "toolkit/view": NO_QT,
+    "toolkit/collection": NO_QT,
+    "toolkit/controllers": NO_QT_QUICK,
+    "model": NO_QT,
+    "phoneformat": NO_QT,
+    "effects": NO_QT,
+    "effects/qt": ANY,
+    "alerts": NO_QT,
+    "alerts/qt": ANY,
+}
+
+# They stand beside the house: they link what they want, and nobody in it links them.
+BESIDE = ("tests", "benchmarks", "fuzz", "packaging")
+
+# The entry point is read by its own tests alone.
+MAIN = "main"
+READS_MAIN = ("main", "tests")
+
+# Flags and precompiled headers of libraries, which belong to no folder.
+NO_FOLDER = re.compile(r"kindora_(options|headers_\w+)$")
+
+
+def longest(names, path):
+    """The longest of the names that is the path or leads to it, or None."""
+    fitting = (name for name in names if path == name or path.startswith(name + "/"))
+    return max(fitting, key=len, default=None)
+
+
+class Targets:
+    """What the targets declare."""
+
+    def __init__(self, written):
+        self._external = written["external"]
+        self.folder = {
+            target["name"]: target["folder"]
+            for target in written["targets"]
+            if not NO_FOLDER.match(target["name"])
+        }
+        self.links = {
+            target["name"]: [
+                link
+                for link in target["links"]
+                if link.startswith("Qt6::") or link in self.folder
+            ]
+            for target in written["targets"]
+            if target["name"] in self.folder
+        }
+        self.in_folder = collections.defaultdict(list)
+        for name, folder in self.folder.items():
+            self.in_folder[folder].append(name)
+
+    @functools.cache
+    def closure(self, name):
+        """All that the target links, directly or through others, and itself."""
+        found, left = set(), [name]
+        while left:
+            link = left.pop()
+            if link not in found:
+                found.add(link)
+                left += self.links.get(link, self._external.get(link, ()))
+        return found
+
+    @functools.cache
+    def folders(self, name):
+        """The folders whose headers the target may read."""
+        return {self.folder[link] for link in self.closure(name) if link in self.folder}
+
+    @functools.cache
+    def linked_by(self, folder):
+        """The folders that the folder's own targets name, and itself."""
+        linked = (self.folder.get(link) for name in self.in_folder[folder] for link in self.links[name])
+        return {folder, *linked}
+
+    @functools.cache
+    def owner(self, path):
+        """The folder with a target that the file belongs to, or None."""
+        return longest(self.in_folder, os.path.dirname(path))
+
+
+class Tree:
+    """Where files lie, by the names that the dependency log has for them."""
+
+    def __init__(self, top, build):
+        self._top = os.path.realpath(top)
+        self._build = os.path.realpath(build)
+
+    @functools.cache
+    def path(self, name):
+        """The path from the top folder; None for generated files; absolute if it is foreign."""
+        whole = os.path.realpath(os.path.join(self._build, name))
+        if whole.startswith(self._build + os.sep):
+            return None
+        if whole.startswith(self._top + os.sep):
+            return os.path.relpath(whole, self._top)
+        return whole
+
+    @functools.cache
+    def included(self, path):
+        """The names in the include directives of a file of the project."""
+        with open(os.path.join(self._top, path), encoding="utf-8", errors="replace") as file:
+            return re.findall(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]', file.read(), re.MULTILINE)
+
+
+Record = collections.namedtuple("Record", "object target source read")
+
+
+def records(log, tree):
+    """What the log, as `ninja -t deps` prints it, tells of objects made from tracked sources."""
+    for block in re.split(r"\n(?=\S)", log):
+        heading, *names = block.rstrip("\n").split("\n")
+        made = re.match(r"(.*CMakeFiles/([^/]+)\.dir/.*): #deps \d+, .*\(VALID\)$", heading)
+        if not made:
+            continue
+        read = [tree.path(name[4:]) for name in names if name.startswith("    ")]
+        stem = os.path.basename(made[1]).removesuffix(".o")
+        source = next((file for file in read if file and os.path.basename(file) == stem), None)
+        if source and not os.path.isabs(source):
+            yield Record(made[1], made[2], source, [file for file in read if file])
+
+
+def qt_module(path):
+    """The target of the Qt module that a foreign header belongs to, or None."""
+    found = re.search(r".*/Qt([A-Z]\w*)(?:\.framework)?/", path)
+    if found:
+        return "Qt6::" + found[1]
+    return "Qt6::Core" if re.search(r"/qt\d*/", path, re.IGNORECASE) else None
+
+
+def cycles(targets):
+    """Each circle of declared links once, as the names along it."""
+    done, path = set(), []
+
+    def visit(name):
+        if name in path:
+            yield [*path[path.index(name) :], name]
+        elif name not in done:
+            path.append(name)
+            for link in targets.links.get(name, ()):
+                yield from visit(link)
+            path.pop()
+            done.add(name)
+
+    for name in sorted(targets.links):
+        yield from visit(name)
+
+
+def link_error(folder, linked):
+    """What is wrong with a link from one folder to another, or None."""
+    floor, above = longest(FLOORS, folder), longest(FLOORS, linked)
+    if longest(BESIDE, linked):
+        return "stands beside the house"
+    if above and FLOORS.index(above) > FLOORS.index(floor):
+        return f"lies in {linked}, above it"
+    room = longest(ONLY, folder)
+    if room and not longest((room, *ONLY[room]), linked):
+        return f"lies in {linked}, and {room} may link {' and '.join(ONLY[room]) or 'nothing'}"
+    return None
+
+
+def declared_errors(targets):
+    """What is wrong in the declarations alone."""
+    for circle in cycles(targets):
+        yield f"{' -> '.join(circle)}: a circle of links"
+    for name, folder in sorted(targets.folder.items()):
+        if longest(BESIDE, folder):
+            yield from test_errors(targets, name, folder)
+            continue
+        if not longest(FLOORS, folder):
+            yield f"{folder}/CMakeLists.txt: {name} lies on no floor of the table"
+            continue
+        for link in targets.links[name]:
+            wrong = link in targets.folder and link_error(folder, targets.folder[link])
+            if wrong:
+                yield f"{folder}/CMakeLists.txt: {name} links {link}, which {wrong}"
+        banned = BANNED.get(longest(BANNED, folder), ANY)
+        for link in sorted(targets.closure(name)):
+            if banned.match(link):
+                yield f"{folder}/CMakeLists.txt: {name} links {link}, which {folder} must not know"
+
+
+def test_errors(targets, name, folder):
+    tested = longest(FLOORS, folder.removeprefix("tests/"))
+    roof = FLOORS.index(THE_APP)
+    if not tested or FLOORS.index(tested) >= roof:
+        return
+    for linked in sorted(targets.folders(name)):
+        floor = longest(FLOORS, linked)
+        if floor and FLOORS.index(floor) >= roof:
+            yield f"{folder}/CMakeLists.txt: {name} links {linked}, above what it tests"
+
+
+def includer(record, fits, tree):
+    """The first file of the project that the object read and that includes what fits."""
+    for path in record.read:
+        if not os.path.isabs(path) and any(map(fits, tree.included(path))):
+            return path
+    return record.source
+
+
+def lacks_link(path, header, targets):
+    folder, wanted = targets.owner(path), min(targets.in_folder[targets.owner(header)], key=len)
+    return f"{path}: includes {header}, but {folder} does not link {wanted}"
+
+
+def written_errors(path, read, targets, tree):
+    """What is wrong with the include directives of a file of the project."""
+    folder = targets.owner(path)
+    linked = targets.linked_by(folder)
+    for name in tree.included(path):
+        if name in read and targets.owner(name) not in (None, *linked):
+            yield lacks_link(path, name, targets)
+
+
+def header_error(record, header, folders, targets, tree):
+    """What is wrong with a header of the project that an object read, or None."""
+    owner = targets.owner(header)
+    beside = longest(BESIDE, record.source)
+    to_main = owner == MAIN and not longest(READS_MAIN, record.source)
+    shared = beside and longest(BESIDE, header)
+    if (owner in folders or shared) and not to_main:
+        return None
+    by = includer(record, header.endswith, tree)
+    if owner is None:
+        return f"{by}: includes {header}, which no target owns"
+    if to_main:
+        return f"{by}: includes {header}, which only tests may"
+    return lacks_link(by, header, targets)
+
+
+def read_errors(record, targets, tree):
+    """What is wrong with what an object read."""
+    if record.target not in targets.folder:
+        yield f"{record.source}: {record.target} does not stand in targets.json"
+        return
+    closure, folders = targets.closure(record.target), targets.folders(record.target)
+    modules = collections.defaultdict(list)
+    for header in record.read:
+        if os.path.isabs(header):
+            modules[qt_module(header)].append(header)
+            continue
+        wrong = header_error(record, header, folders, targets, tree)
+        if wrong:
+            yield wrong
+        elif targets.owner(header) == targets.folder[record.target] and not longest(BESIDE, header):
+            yield from written_errors(header, record.read, targets, tree)
+    for module, headers in modules.items():
+        if module and module not in closure and module + "Private" not in closure:
+            names = {os.path.basename(header) for header in headers}
+            by = includer(record, lambda name: os.path.basename(name) in names, tree)
+            what = f"{os.path.basename(headers[0])} of Qt"
+            yield f"{by}: includes {what}, but {targets.owner(by)} does not link {module}"
+
+
+def unrecorded(objects, log):
+    """Those of the objects that the build should have made but has no valid record of."""
+    valid = set(re.findall(r"^(\S.*): #deps \d+, .*\(VALID\)$", log, re.MULTILINE))
+    return [name for name in objects if name not in valid]
+
+
+def run_ninja(build, *arguments):
+    command = ["ninja", "-C", build, "-t", *arguments]
+    return subprocess.run(command, check=True, capture_output=True, encoding="utf-8").stdout
+
+
+def main(arguments):
+    if len(arguments) not in (2, 3):
+        print(__doc__, file=sys.stderr)
+        return 2
+    build = arguments[1]
+    top = arguments[2] if len(arguments) == 3 else os.path.join(os.path.dirname(__file__), "..")
+    with open(os.path.join(build, "targets.json"), encoding="utf-8") as file:
+        targets = Targets(json.load(file))
+    log = run_ninja(build, "deps")
+    objects = re.findall(r"^(.*CMakeFiles/.*\.dir/.*\.o)$", run_ninja(build, "inputs", "all"), re.M)
+    missing = unrecorded(objects, log)
+    if not objects or missing:
+        what = f"{len(missing)} objects, {missing[0]} among them" if missing else "any object"
+        print(f"error: {build} has no record of {what}; build all of it first", file=sys.stderr)
+        return 1
+    tree = Tree(top, build)
+    known = list(records(log, tree))
+    errors = dict.fromkeys(declared_errors(targets))
+    for record in known:
+        errors.update(dict.fromkeys(read_errors(record, targets, tree)))
+    if not known:
+        errors["no object was made from a source of the project"] = None
+    print(*errors, sep="\n", end="\n" if errors else "")
+    if not errors:
+        print(f"{len(known)} objects of {len(targets.folder)} targets know only what they declare.")
+    return 1 if errors else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv))
