@@ -64,17 +64,18 @@ void QavAlertCollectionViewCell::setEnabled(bool enabled) {
   changed();
 }
 
-void QavAlertCollectionViewCell::setHighlighted(bool highlighted) {
-  highlighted_ = highlighted;
+void QavAlertCollectionViewCell::setHighlighted(bool highlighted, bool animated) {
+  QavCollectionReusableView::setHighlighted(highlighted, animated);
   updateHighlight();
 }
 
 void QavAlertCollectionViewCell::updateHighlight() {
-  if (highlightedBackgroundView_) highlightedBackgroundView_->setHidden(!highlighted_ || !enabled_);
+  if (!highlightedBackgroundView_) return;
+  highlightedBackgroundView_->setHidden(!isHighlighted() || !enabled_);
 }
 
 void QavAlertCollectionViewCell::prepareForReuse() {
-  setHighlighted(false);
+  QavCollectionReusableView::prepareForReuse();
   setGestureRecognizer(nullptr);
 }
 

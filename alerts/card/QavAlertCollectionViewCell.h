@@ -32,9 +32,8 @@ class QavAlertCollectionViewCell final : public QavCollectionReusableView {
 
   [[nodiscard]] bool isEnabled() const { return enabled_; }
   void setEnabled(bool enabled);
-  [[nodiscard]] bool isHighlighted() const { return highlighted_; }
-  void setHighlighted(bool highlighted);
 
+  void setHighlighted(bool highlighted, bool animated) override;
   void prepareForReuse() override;
 
  private:
@@ -45,7 +44,6 @@ class QavAlertCollectionViewCell final : public QavCollectionReusableView {
   std::shared_ptr<UILabel> textLabel_ = std::make_shared<UILabel>();
   std::shared_ptr<UIView> highlightedBackgroundView_;
   bool enabled_ = true;
-  bool highlighted_ = false;
 };
 
 }  // namespace kindora

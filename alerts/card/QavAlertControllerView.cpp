@@ -208,16 +208,14 @@ double QavAlertControllerView::actionsCollectionViewHeight() const {
 
 // --- Buttons ---
 
-int QavAlertControllerView::collectionViewNumberOfItemsInSection(
-    const QavActionsCollectionView& /*collectionView*/, int /*section*/) const {
+int QavAlertControllerView::collectionViewNumberOfItemsInSection(int /*section*/) {
   return static_cast<int>(actions_.size());
 }
 
 std::shared_ptr<QavCollectionReusableView>
-QavAlertControllerView::collectionViewCellForItemAtIndexPath(
-    QavActionsCollectionView& collectionView, IndexPath path) {
+QavAlertControllerView::collectionViewCellForItemAtIndexPath(IndexPath path) {
   const auto cell = std::static_pointer_cast<QavAlertCollectionViewCell>(
-      collectionView.dequeueReusableCell(kQavAlertControllerCellReuseIdentifier));
+      actionsCollectionView_->dequeueReusableCell(kQavAlertControllerCellReuseIdentifier));
   cell->updateWithAction(*actions_[static_cast<std::size_t>(path.row)], *visualStyle_);
   auto recognizer = std::make_shared<UITapGestureRecognizer>();
   const auto self =
@@ -226,7 +224,7 @@ QavAlertControllerView::collectionViewCellForItemAtIndexPath(
     if (const auto card = self.lock()) card->actionViewTapped(view);
   };
   recognizer->pressedChanged = [](UIView& view, bool pressed) {
-    static_cast<QavAlertCollectionViewCell&>(view).setHighlighted(pressed);
+    static_cast<QavAlertCollectionViewCell&>(view).setHighlighted(pressed, true);
   };
   cell->setGestureRecognizer(recognizer);
   return cell;

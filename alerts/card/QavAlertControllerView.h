@@ -90,10 +90,9 @@ class QavAlertControllerView final : public UIView,
   [[nodiscard]] double actionsCollectionViewHeight() const;
 
   // --- What the collection of buttons asks ---
-  [[nodiscard]] int collectionViewNumberOfItemsInSection(
-      const QavActionsCollectionView& collectionView, int section) const override;
+  [[nodiscard]] int collectionViewNumberOfItemsInSection(int section) override;
   [[nodiscard]] std::shared_ptr<QavCollectionReusableView> collectionViewCellForItemAtIndexPath(
-      QavActionsCollectionView& collectionView, IndexPath path) override;
+      IndexPath path) override;
   [[nodiscard]] CGSize collectionViewLayoutSizeForItemAtIndexPath(
       const UICollectionView& collectionView, IndexPath path) override;
   [[nodiscard]] bool collectionViewLayoutHasUniformItemSizeInSection(

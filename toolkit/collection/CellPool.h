@@ -14,7 +14,8 @@
 
 namespace kindora {
 
-/// Cells by kind: how they are made, and those that are not shown at the moment.
+/// Cells by kind, of any class that is a ReusableCell: how they are made, and those that are not
+/// shown at the moment.
 template <typename Cell>
 class CellPool {
  public:
@@ -23,6 +24,10 @@ class CellPool {
   /// How cells of that kind are made: the prototype's class with its outlets connected.
   void registerCell(std::string_view reuseIdentifier, Maker maker) {
     makers_[std::string(reuseIdentifier)] = std::move(maker);
+  }
+
+  [[nodiscard]] bool knows(std::string_view reuseIdentifier) const {
+    return makers_.contains(reuseIdentifier);
   }
 
   /// A cell that is not shown, or a new one. Stops when nobody registered the kind.
@@ -46,7 +51,7 @@ class CellPool {
 
   /// Takes back a cell that is no longer shown.
   void recycle(std::shared_ptr<Cell> cell) {
-    if (cell->isHighlighted()) cell->setHighlighted(false, false);
+    cell->prepareForReuse();
     std::string identifier = cell->reuseIdentifier();
     idle_.emplace(std::move(identifier), std::move(cell));
   }

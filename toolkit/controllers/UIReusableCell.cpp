@@ -12,9 +12,9 @@ std::shared_ptr<UIView> UIReusableCell::outlet(std::string_view name) {
   return contentView_->viewWithName(name);
 }
 
-void UIReusableCell::setHighlighted(bool highlighted, bool /*animated*/) {
-  if (highlighted_ == highlighted) return;
-  highlighted_ = highlighted;
+void UIReusableCell::setHighlighted(bool highlighted, bool animated) {
+  if (isHighlighted() == highlighted) return;
+  ReusableCell::setHighlighted(highlighted, animated);
   emit lookChanged();
 }
 

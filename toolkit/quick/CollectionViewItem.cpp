@@ -131,12 +131,8 @@ void CollectionViewItem::draw() {
 }
 
 void CollectionViewItem::select(UICollectionViewCell* cell) {
-  if (!view_) return;
-  for (const auto& [path, place] : view_->shownCells()) {
-    if (place.cell.get() != cell) continue;
-    view_->select(IndexPath(path));
-    return;
-  }
+  if (!view_ || cell == nullptr) return;
+  if (const auto path = view_->indexPathForCell(*cell)) view_->select(*path);
 }
 
 }  // namespace kindora

@@ -37,15 +37,13 @@ class FramingLayout final : public UICollectionViewFlowLayout {
 };
 
 struct Rows final : QavActionsCollectionViewDataSource {
-  [[nodiscard]] int collectionViewNumberOfItemsInSection(
-      const QavActionsCollectionView& /*collectionView*/, int /*section*/) const override {
-    return count;
-  }
+  [[nodiscard]] int collectionViewNumberOfItemsInSection(int /*section*/) override { return count; }
   [[nodiscard]] std::shared_ptr<QavCollectionReusableView> collectionViewCellForItemAtIndexPath(
-      QavActionsCollectionView& collectionView, IndexPath path) override {
+      IndexPath path) override {
     asked.push_back(path.row);
-    return collectionView.dequeueReusableCell("row");
+    return view->dequeueReusableCell("row");
   }
+  QavActionsCollectionView* view = nullptr;
   int count = 0;
   std::vector<int> asked;
 };
@@ -59,6 +57,7 @@ class QavActionsCollectionViewTest : public testing::Test {
     };
     view->registerCell("row", make);
     view->registerDecorationView("frame", make);
+    rows->view = view.get();
     view->setDataSource(rows);
     view->setFrame({{0, 0}, {100, 100}});
   }

@@ -71,7 +71,7 @@ TEST_F(QavAlertCollectionViewCellTest, GetsAFreshHighlightWithEachAction) {
 
 TEST_F(QavAlertCollectionViewCellTest, AnUpdateWhilePressedKeepsTheHighlight) {
   update(action);
-  cell->setHighlighted(true);
+  cell->setHighlighted(true, false);
   update(action);
   EXPECT_TRUE(showsHighlight());
 }
@@ -79,13 +79,13 @@ TEST_F(QavAlertCollectionViewCellTest, AnUpdateWhilePressedKeepsTheHighlight) {
 TEST_F(QavAlertCollectionViewCellTest, HighlightShowsOnlyWhileEnabled) {
   update(action);
   EXPECT_FALSE(showsHighlight());
-  cell->setHighlighted(true);
+  cell->setHighlighted(true, false);
   EXPECT_TRUE(showsHighlight());
   cell->setEnabled(false);
   EXPECT_FALSE(showsHighlight());
   cell->setEnabled(true);
   EXPECT_TRUE(showsHighlight());
-  cell->setHighlighted(false);
+  cell->setHighlighted(false, false);
   EXPECT_FALSE(showsHighlight());
 }
 
@@ -117,7 +117,7 @@ TEST_F(QavAlertCollectionViewCellTest, ANewRecogniserTakesThePlaceOfTheOldAndHee
 TEST_F(QavAlertCollectionViewCellTest, ComesBackWithoutHighlightAndRecogniser) {
   update(action);
   cell->setGestureRecognizer(std::make_shared<UITapGestureRecognizer>());
-  cell->setHighlighted(true);
+  cell->setHighlighted(true, false);
   cell->prepareForReuse();
   EXPECT_FALSE(cell->isHighlighted());
   EXPECT_EQ(cell->gestureRecognizer(), nullptr);

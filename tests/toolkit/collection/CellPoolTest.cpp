@@ -6,12 +6,12 @@
 
 #include <memory>
 
-#include "toolkit/controllers/UIReusableCell.h"
+#include "toolkit/collection/ReusableCell.h"
 
 namespace kindora {
 namespace {
 
-class AwakeningCell final : public UIReusableCell {
+class AwakeningCell final : public ReusableCell {
  public:
   int timesAwoken = 0;
   std::string kindWhenAwoken;
