@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "alerts/helpers/QavParallax.h"
-#include "alerts/legacy/QavAlertViewCoordinator.h"
 
 namespace kindora {
 namespace {
@@ -33,10 +32,6 @@ bool decided(std::optional<bool> byDelegate, const std::function<bool(int)>& han
 QavAlertViewAppearance& QavAlertView::appearance() {
   static QavAlertViewAppearance shared;
   return shared;
-}
-
-QavAlertViewCoordinator& QavAlertView::transitionCoordinator() {
-  return QavAlertViewCoordinator::sharedCoordinator();
 }
 
 std::shared_ptr<QavAlertView> QavAlertView::initWithTitle(
@@ -85,41 +80,23 @@ void QavAlertView::setAlwaysShowsButtonsVertically(bool vertically) {
   alertContentView_->setAlwaysShowsButtonsVertically(vertically);
 }
 
-// --- Showing ---
+void QavAlertView::setOwnAppearance(QavAlertViewAppearance appearance) {
+  const QavAlertViewAppearance& own = ownAppearance();
+  if (const auto& title = attributedTitle()) {
+    if (title->hasFont()) appearance.titleLabelFont = own.titleLabelFont;
+    if (title->hasForegroundColor()) appearance.titleLabelTextColor = own.titleLabelTextColor;
+  }
+  if (const auto& message = attributedMessage()) {
+    if (message->hasFont()) appearance.messageLabelFont = own.messageLabelFont;
+    if (message->hasForegroundColor()) appearance.messageLabelTextColor = own.messageLabelTextColor;
+  }
+  if (appearance != own) alertContentView_->setAppearance(appearance);
+}
 
 void QavAlertView::updateFirstOtherButton() {
   const auto asked = delegate();
   const auto enable = asked ? asked->alertViewShouldEnableFirstOtherButton(*this) : std::nullopt;
   if (enable) alertContentView_->setFirstOtherButtonEnabled(*enable);
-}
-
-void QavAlertView::show() {
-  setUserInteractionEnabled(true);
-  updateFirstOtherButton();
-  alertContentView_->textDidChange = [weak = std::weak_ptr(self())] {
-    if (const auto alert = weak.lock()) alert->updateFirstOtherButton();
-  };
-  alertContentView_->prepareForShowing();
-  for (const std::shared_ptr<UIView>& part : {std::shared_ptr<UIView>(alertBackgroundView_),
-                                              std::shared_ptr<UIView>(alertContentView_)}) {
-    part->removeFromSuperview();  // with the constraints of an earlier showing
-    addSubview(part);
-    qav_alignEdgesWithSuperview(part, UIRectEdge::all);
-  }
-  transitionCoordinator().presentAlert(self());
-}
-
-void QavAlertView::showWithDismissHandler(std::function<void(int buttonIndex)> dismissHandler) {
-  didDismissHandler = std::move(dismissHandler);
-  show();
-}
-
-void QavAlertView::dismissWithClickedButtonIndex(int index, bool animated) {
-  transitionCoordinator().dismissAlert(self(), index, animated);
-}
-
-bool QavAlertView::isVisible() const {
-  return transitionCoordinator().visibleAlert().get() == this;
 }
 
 bool QavAlertView::becomeFirstResponder() { return alertContentView_->becomeFirstResponder(); }

@@ -121,24 +121,14 @@ class QavAlertView final : public UIView, public QavAlertViewContentViewDelegate
   bool becomeFirstResponder();
   bool resignFirstResponder() override;
 
-  // --- Look. Title and message keep the font or the colour that an attributed text sets anywhere
-  // in it; setting another then has no effect. ---
+  // --- Look ---
 
-  void setTitleLabelFont(const UIFont& font);
-  void setTitleLabelTextColor(const UIColor& color);
-  void setMessageLabelFont(const UIFont& font);
-  void setMessageLabelTextColor(const UIColor& color);
-  void setTextFieldFont(const UIFont& font);
-  void setTextFieldTextColor(const UIColor& color);
-  void setSuggestedButtonFont(const UIFont& font);
-  void setNormalButtonFont(const UIFont& font);
-  void setButtonTextColor(const UIColor& color);
-  void setContentPadding(UIEdgeInsets padding);
-  void setLabelSpacing(double spacing);
-  /// What is set now.
   [[nodiscard]] const QavAlertViewAppearance& ownAppearance() const {
     return alertContentView_->appearance();
   }
+  /// Title and message keep the font or the colour that an attributed text sets anywhere in it;
+  /// another one then has no effect.
+  void setOwnAppearance(QavAlertViewAppearance appearance);
 
   // --- What the coordinator tells ---
 
@@ -169,8 +159,6 @@ class QavAlertView final : public UIView, public QavAlertViewContentViewDelegate
   void tappedButtonAtIndex(int index);
   [[nodiscard]] bool shouldDismiss(int buttonIndex);
   void updateFirstOtherButton();
-  template <typename Change>
-  void changeAppearance(Change change);
 
   std::weak_ptr<QavAlertViewDelegate> delegate_;
   QavAlertViewStyle alertViewStyle_ = QavAlertViewStyle::standard;

@@ -58,7 +58,6 @@ class QavAlertViewContentView final : public UIView {
   [[nodiscard]] int numberOfButtons() const { return buttons_.numberOfButtons(); }
   void setAlwaysShowsButtonsVertically(bool vertically);
   void setFirstOtherButtonEnabled(bool enabled);
-  [[nodiscard]] bool isFirstOtherButtonEnabled() const { return firstOtherButtonEnabled_; }
 
   // --- Text fields and the app's content ---
 

@@ -34,9 +34,6 @@ class AlertWindow final : public QavAlertWindow {
     window_->setWindowLevel(UIWindowLevelAlert);
     window_->setRootViewController(controller_);
   }
-  void setTintAdjustmentMode(UIViewTintAdjustmentMode mode) override {
-    window_->setTintAdjustmentMode(mode);
-  }
   void makeKeyAndVisible() override { window_->makeKeyAndVisible(); }
   void replaceAlert(std::shared_ptr<QavAlertView> oldAlert, std::shared_ptr<QavAlertView> withAlert,
                     bool animated, std::function<void()> completion) override {

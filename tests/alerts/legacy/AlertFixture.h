@@ -65,7 +65,6 @@ class FakeAlertWindow final : public QavAlertWindow {
   FakeAlertWindow(const FakeAlertWindow&) = delete;
   FakeAlertWindow& operator=(const FakeAlertWindow&) = delete;
 
-  void setTintAdjustmentMode(UIViewTintAdjustmentMode /*mode*/) override {}
   void makeKeyAndVisible() override { log_.emplace_back("alert key"); }
   void replaceAlert(std::shared_ptr<QavAlertView> oldAlert, std::shared_ptr<QavAlertView> withAlert,
                     bool animated, std::function<void()> completion) override {
