@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "alerts/qt/ConstraintLayout.h"
 
-#include "alerts/qt/ItemView.h"
-
 namespace kindora {
 
 ConstraintLayoutAttached::ConstraintLayoutAttached(QObject* item)

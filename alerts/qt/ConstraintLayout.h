@@ -5,6 +5,8 @@
 #include <QtQml/qqml.h>
 #include <QQuickItem>
 
+#include "alerts/qt/ItemView.h"
+
 namespace kindora {
 
 /// Says of any item whether constraints place it.
@@ -41,7 +43,7 @@ class ConstraintLayoutAttached : public QObject {
 /// script. An item in it that also has anchors is pulled two ways. A layout that lies directly in
 /// another one is placed by that and solved with it; any other stands for itself. Whatever items do
 /// in answer to being placed, a pass of layout ends.
-class ConstraintLayout : public QQuickItem {
+class ConstraintLayout : public QQuickItem, public ConstraintPlacer {
   Q_OBJECT
   QML_ELEMENT
   QML_ATTACHED(ConstraintLayoutAttached)

@@ -6,8 +6,6 @@
 #include <QVariant>
 #include <algorithm>
 
-#include "alerts/qt/ConstraintLayout.h"
-
 namespace kindora {
 namespace {
 
@@ -19,7 +17,7 @@ Views& views() {
 }
 
 bool isLayout(const QQuickItem* item) {
-  return qobject_cast<const ConstraintLayout*>(item) != nullptr;
+  return dynamic_cast<const ConstraintPlacer*>(item) != nullptr;
 }
 
 CGRect geometryOf(const QQuickItem& item) {

@@ -12,13 +12,19 @@
 
 namespace kindora {
 
+/// An item that places its children by constraints.
+class ConstraintPlacer {
+ public:
+  virtual ~ConstraintPlacer() = default;
+};
+
 /// Stands for an item where layout is made by constraints, so that all that is said of views can be
 /// said of items:
 ///
 ///   qav_pinWidth(viewOfItem(*picture), 120);
 ///   qav_alignEdgesWithSuperview(viewOfItem(*text), UIRectEdge::left | UIRectEdge::right);
 ///
-/// The records of items lie in each other as the items do, up to a ConstraintLayout that does not
+/// The records of items lie in each other as the items do, up to a ConstraintPlacer that does not
 /// lie directly in another one; that layout places them. Its direct children are placed by
 /// constraints, all other items keep the geometry that they are given, unless
 /// setConstraintBased says otherwise. Whichever side changes the geometry, the other follows.

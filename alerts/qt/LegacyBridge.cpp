@@ -5,9 +5,8 @@
 #include <cstddef>
 #include <optional>
 #include <string>
-
-#include "alerts/legacy/QavAlertView.h"
-#include "alerts/qt/QavAlertController.h"
+#include <utility>
+#include <vector>
 
 namespace kindora {
 namespace {
@@ -27,24 +26,22 @@ QavAlertViewStyle styleFor(const std::vector<std::shared_ptr<UITextField>>& fiel
 
 }  // namespace
 
-std::shared_ptr<QavAlertView> alertViewWithAlertController(QavAlertController& controller) {
-  const std::vector<QavAlertActionRef> actions = controller.actions();
+std::shared_ptr<QavAlertView> alertViewWithContent(const QavAlertContent& content,
+                                                   std::weak_ptr<QavAlertViewDelegate> delegate) {
+  const std::vector<QavAlertActionRef>& actions = content.actions;
   const std::optional<std::string> cancelTitle =
       actions.empty() ? std::nullopt : std::optional(buttonTitle(*actions.front()));
-  const auto alertView = QavAlertView::initWithTitle(
-      controller.title(), controller.message(),
-      std::static_pointer_cast<QavAlertController>(controller.shared_from_this()), cancelTitle, {});
+  const auto alertView = QavAlertView::initWithTitle(content.title, content.message,
+                                                     std::move(delegate), cancelTitle, {});
   for (std::size_t i = 1; i < actions.size(); ++i) {
     alertView->addButtonWithTitle(buttonTitle(*actions[i]));
   }
-  if (controller.attributedTitle()) alertView->setAttributedTitle(controller.attributedTitle());
-  if (controller.attributedMessage()) {
-    alertView->setAttributedMessage(controller.attributedMessage());
-  }
-  alertView->setAlertViewStyle(styleFor(controller.textFields()));
-  const auto content = controller.contentView()->subviews();  // they leave it on the way
-  for (const auto& subview : content) alertView->contentView()->addSubview(subview);
-  alertView->setAlwaysShowsButtonsVertically(controller.actionLayout() ==
+  if (content.attributedTitle) alertView->setAttributedTitle(content.attributedTitle);
+  if (content.attributedMessage) alertView->setAttributedMessage(content.attributedMessage);
+  alertView->setAlertViewStyle(styleFor(content.textFields));
+  const auto subviews = content.view->subviews();  // they leave it on the way
+  for (const auto& subview : subviews) alertView->contentView()->addSubview(subview);
+  alertView->setAlwaysShowsButtonsVertically(content.actionLayout ==
                                              QavAlertActionLayout::vertical);
   alertView->didDismissHandler = [actions](int buttonIndex) {
     if (buttonIndex < 0 || static_cast<std::size_t>(buttonIndex) >= actions.size()) return;

@@ -4,16 +4,15 @@
 
 #include <memory>
 
+#include "alerts/legacy/QavAlertView.h"
+#include "alerts/qt/QavAlertContent.h"
+
 namespace kindora {
 
-class QavAlertController;
-class QavAlertView;
-
-/// An alert view that shows what the controller holds: button i is action i, whose handler runs
-/// when the alert has gone. It has text fields of its own, like the controller's in number and
-/// secrecy, takes over the views in the controller's content view, and knows nothing of its veto
-/// and of actions that are not enabled.
-[[nodiscard]] std::shared_ptr<QavAlertView> alertViewWithAlertController(
-    QavAlertController& controller);
+/// An alert view that shows the content: button i is action i, whose handler runs when the alert
+/// has gone. It has text fields of its own, like the content's in number and secrecy, takes over
+/// the caller's views, and knows nothing of actions that are not enabled.
+[[nodiscard]] std::shared_ptr<QavAlertView> alertViewWithContent(
+    const QavAlertContent& content, std::weak_ptr<QavAlertViewDelegate> delegate);
 
 }  // namespace kindora

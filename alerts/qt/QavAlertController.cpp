@@ -60,61 +60,62 @@ QavAlertControllerRef QavAlertController::alertControllerWithAttributedTitle(
 void QavAlertController::initWithTitle(const std::optional<std::string>& title,
                                        const std::optional<std::string>& message) {
   setTitle(title);
-  message_ = message;
+  content_.message = message;
   createAlert();
 }
 
 void QavAlertController::initWithAttributedTitle(const std::optional<NSAttributedString>& title,
                                                  const std::optional<NSAttributedString>& message) {
-  attributedTitle_ = title;
-  attributedMessage_ = message;
+  content_.attributedTitle = title;
+  content_.attributedMessage = message;
   createAlert();
 }
 
 void QavAlertController::createAlert() {
-  alert_ = QavAlertControllerView::withTitle(attributed(attributedTitle_, title_),
-                                             attributed(attributedMessage_, message_));
+  alert_ =
+      QavAlertControllerView::withTitle(attributed(content_.attributedTitle, content_.title),
+                                        attributed(content_.attributedMessage, content_.message));
   alert_->setDelegate(std::static_pointer_cast<QavAlertController>(shared_from_this()));
-  contentView_ = std::make_shared<QavIntrinsicallySizedView>();
-  contentView_->setTranslatesAutoresizingMaskIntoConstraints(false);
-  alert_->setContentView(contentView_);
+  content_.view = std::make_shared<QavIntrinsicallySizedView>();
+  content_.view->setTranslatesAutoresizingMaskIntoConstraints(false);
+  alert_->setContentView(content_.view);
 }
 
 // --- What it says ---
 
 void QavAlertController::setTitle(const std::optional<std::string>& title) {
-  title_ = title;
+  content_.title = title;
   UIViewController::setTitle(QString::fromStdString(title.value_or("")));
   pushTitle();
 }
 
 void QavAlertController::setMessage(const std::optional<std::string>& message) {
-  message_ = message;
+  content_.message = message;
   pushMessage();
 }
 
 void QavAlertController::setAttributedTitle(const std::optional<NSAttributedString>& title) {
-  attributedTitle_ = title;
+  content_.attributedTitle = title;
   pushTitle();
 }
 
 void QavAlertController::setAttributedMessage(const std::optional<NSAttributedString>& message) {
-  attributedMessage_ = message;
+  content_.attributedMessage = message;
   pushMessage();
 }
 
 void QavAlertController::pushTitle() {
-  if (alert_) alert_->setTitle(attributed(attributedTitle_, title_));
+  if (alert_) alert_->setTitle(attributed(content_.attributedTitle, content_.title));
 }
 
 void QavAlertController::pushMessage() {
-  if (alert_) alert_->setMessage(attributed(attributedMessage_, message_));
+  if (alert_) alert_->setMessage(attributed(content_.attributedMessage, content_.message));
 }
 
 // --- What it holds ---
 
 void QavAlertController::addAction(QavAlertActionRef action) {
-  mutableActions_.push_back(std::move(action));
+  content_.actions.push_back(std::move(action));
 }
 
 void QavAlertController::addTextFieldWithConfigurationHandler(
@@ -122,7 +123,7 @@ void QavAlertController::addTextFieldWithConfigurationHandler(
   const auto field = std::make_shared<UITextField>();
   field->setFont(visualStyle_->textFieldFont());
   field->setAutocorrectionType(UITextAutocorrectionType::no);
-  mutableTextFields_.push_back(field);
+  content_.textFields.push_back(field);
   if (configurationHandler) configurationHandler(*field);
 }
 
@@ -134,6 +135,11 @@ void QavAlertController::setVisualStyle(std::shared_ptr<QavAlertControllerVisual
 
 bool QavAlertController::usesLegacyAlert() const {
   return preferredStyle_ == QavAlertControllerStyle::legacy || !canAskForOperatingSystemVersion();
+}
+
+std::shared_ptr<QavAlertView> alertViewWithAlertController(QavAlertController& controller) {
+  return alertViewWithContent(controller.content(), std::static_pointer_cast<QavAlertController>(
+                                                        controller.shared_from_this()));
 }
 
 const std::shared_ptr<QavAlertView>& QavAlertController::legacyAlertView() {
@@ -205,11 +211,11 @@ void QavAlertController::prepareAlert() {
         keyboardUpdate(std::any_cast<const KeyboardNotification&>(info).endFrame);
       });
   alert_->setVisualStyle(visualStyle_);
-  alert_->setActions(actions());
-  alert_->setActionLayout(actionLayout_);
-  if (!mutableTextFields_.empty()) {
+  alert_->setActions(content_.actions);
+  alert_->setActionLayout(content_.actionLayout);
+  if (!content_.textFields.empty()) {
     const auto fields = makeViewController<QavAlertControllerTextFieldViewController>(
-        mutableTextFields_, visualStyle_);
+        content_.textFields, visualStyle_);
     addChildViewController(fields);
     alert_->showTextFieldView(fields->tableView());
     fields->didMoveToParentViewController(this);
@@ -232,7 +238,7 @@ void QavAlertController::viewDidDisappear(bool animated) {
 void QavAlertController::viewDidLayoutSubviews() {
   UIViewController::viewDidLayoutSubviews();
   if (std::exchange(didAssignFirstResponder_, true)) return;
-  if (!mutableTextFields_.empty()) mutableTextFields_.front()->becomeFirstResponder();
+  if (!content_.textFields.empty()) content_.textFields.front()->becomeFirstResponder();
 }
 
 void QavAlertController::keyboardUpdate(const CGRect& endFrame) {
@@ -241,9 +247,9 @@ void QavAlertController::keyboardUpdate(const CGRect& endFrame) {
 }
 
 bool QavAlertController::goBack() {
-  const auto cancel = std::ranges::find(mutableActions_, QavAlertActionStyle::cancel,
+  const auto cancel = std::ranges::find(content_.actions, QavAlertActionStyle::cancel,
                                         [](const auto& action) { return action->style(); });
-  if (cancel == mutableActions_.end()) return false;
+  if (cancel == content_.actions.end()) return false;
   const QavAlertActionRef action = *cancel;
   alertControllerViewDidPerformAction(*alert_, action);
   return true;

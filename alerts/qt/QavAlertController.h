@@ -18,16 +18,13 @@
 #include <string>
 #include <vector>
 
-#include "alerts/card/QavAlertAction.h"
 #include "alerts/card/QavAlertControllerView.h"
 #include "alerts/card/QavAlertControllerViewDelegate.h"
 #include "alerts/card/QavAlertControllerVisualStyle.h"
-#include "alerts/helpers/QavIntrinsicallySizedView.h"
 #include "alerts/legacy/QavAlertViewDelegate.h"
-#include "platform/NSAttributedString.h"
+#include "alerts/qt/QavAlertContent.h"
 #include "platform/NotificationCenter.h"
 #include "toolkit/controllers/UIViewController.h"
-#include "toolkit/view/UITextField.h"
 
 namespace kindora {
 
@@ -64,40 +61,43 @@ class QavAlertController final : public kindora::UIViewController,
   // --- What it says ---
 
   /// The attributed text, where there is one, is shown in place of the plain one.
-  [[nodiscard]] const std::optional<std::string>& title() const { return title_; }
+  [[nodiscard]] const std::optional<std::string>& title() const { return content_.title; }
   void setTitle(const std::optional<std::string>& title);
-  [[nodiscard]] const std::optional<std::string>& message() const { return message_; }
+  [[nodiscard]] const std::optional<std::string>& message() const { return content_.message; }
   void setMessage(const std::optional<std::string>& message);
   [[nodiscard]] const std::optional<NSAttributedString>& attributedTitle() const {
-    return attributedTitle_;
+    return content_.attributedTitle;
   }
   void setAttributedTitle(const std::optional<NSAttributedString>& title);
   [[nodiscard]] const std::optional<NSAttributedString>& attributedMessage() const {
-    return attributedMessage_;
+    return content_.attributedMessage;
   }
   void setAttributedMessage(const std::optional<NSAttributedString>& message);
 
   // --- What it holds ---
 
   /// A copy, in the order in which they were added, which is the order of the buttons.
-  [[nodiscard]] std::vector<QavAlertActionRef> actions() const { return mutableActions_; }
+  [[nodiscard]] std::vector<QavAlertActionRef> actions() const { return content_.actions; }
   void addAction(QavAlertActionRef action);
   /// A copy.
   [[nodiscard]] std::vector<std::shared_ptr<UITextField>> textFields() const {
-    return mutableTextFields_;
+    return content_.textFields;
   }
   /// Adds a field without autocorrection, in the visual style's font of that moment, and then has
   /// it configured.
   void addTextFieldWithConfigurationHandler(const TextFieldConfiguration& configurationHandler);
   /// Where callers put views of their own, between the texts and the buttons.
   [[nodiscard]] const std::shared_ptr<QavIntrinsicallySizedView>& contentView() const {
-    return contentView_;
+    return content_.view;
   }
+
+  /// All of this.
+  [[nodiscard]] const QavAlertContent& content() const { return content_; }
 
   // --- How it looks and behaves ---
 
-  [[nodiscard]] QavAlertActionLayout actionLayout() const { return actionLayout_; }
-  void setActionLayout(QavAlertActionLayout layout) { actionLayout_ = layout; }
+  [[nodiscard]] QavAlertActionLayout actionLayout() const { return content_.actionLayout; }
+  void setActionLayout(QavAlertActionLayout layout) { content_.actionLayout = layout; }
   [[nodiscard]] QavAlertControllerStyle preferredStyle() const { return preferredStyle_; }
   [[nodiscard]] const std::shared_ptr<QavAlertControllerVisualStyle>& visualStyle() const {
     return visualStyle_;
@@ -163,16 +163,9 @@ class QavAlertController final : public kindora::UIViewController,
   void prepareAlert();
   void keyboardUpdate(const CGRect& endFrame);
 
-  std::optional<std::string> title_;
-  std::optional<std::string> message_;
-  std::optional<NSAttributedString> attributedTitle_;
-  std::optional<NSAttributedString> attributedMessage_;
-  std::vector<QavAlertActionRef> mutableActions_;
-  std::vector<std::shared_ptr<UITextField>> mutableTextFields_;
-  QavAlertActionLayout actionLayout_ = QavAlertActionLayout::automatic;
+  QavAlertContent content_;
   QavAlertControllerStyle preferredStyle_;
   std::shared_ptr<QavAlertControllerVisualStyle> visualStyle_;
-  std::shared_ptr<QavIntrinsicallySizedView> contentView_;
   std::shared_ptr<QavAlertControllerView> alert_;
   std::shared_ptr<QavAlertView> legacyAlertView_;
   std::shared_ptr<QavAlertControllerTransitioningDelegate> transitioningDelegate_;
@@ -182,5 +175,10 @@ class QavAlertController final : public kindora::UIViewController,
   bool presentingAlert_ = false;
   bool isAnswered_ = false;  // on its way out, by an action
 };
+
+/// An alert view in place of the controller's card, which knows nothing of its veto; see
+/// alertViewWithContent.
+[[nodiscard]] std::shared_ptr<QavAlertView> alertViewWithAlertController(
+    QavAlertController& controller);
 
 }  // namespace kindora
