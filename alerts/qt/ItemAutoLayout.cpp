@@ -3,6 +3,8 @@
 #include "alerts/qt/ItemAutoLayout.h"
 
 #include <QQmlEngine>
+#include <type_traits>
+#include <utility>
 
 #include "alerts/qt/ItemView.h"
 
@@ -24,24 +26,32 @@ QVariantList handle(const NSLayoutConstraints& constraints) {
   return all;
 }
 
-// What the function makes of the items' records; nothing when one is missing.
-template <typename Make, typename... Items>
-auto make(Make makeIt, Items*... items) {
-  using Made = decltype(handle(makeIt(viewOfItem(*items)...)));
-  if ((... || (items == nullptr))) {
-    qWarning("QavAutoLayout: an item is missing");
-    return Made{};
-  }
-  return handle(makeIt(viewOfItem(*items)...));
-}
-
-UIRectEdge edges(int bits) { return static_cast<UIRectEdge>(bits); }
-UIOffset offsetOf(QPointF point) { return {point.x(), point.y()}; }
-CGSize sizeOf(QSizeF size) { return {size.width(), size.height()}; }
-UIEdgeInsets insetsOf(const QVariantMap& map) {
+// What a helper takes for what QML gives.
+UIViewRef taken(QQuickItem* item) { return viewOfItem(*item); }
+double taken(double points) { return points; }
+UIRectEdge taken(int bits) { return static_cast<UIRectEdge>(bits); }
+UIOffset taken(QPointF point) { return {point.x(), point.y()}; }
+CGSize taken(QSizeF size) { return {size.width(), size.height()}; }
+UIEdgeInsets taken(const QVariantMap& map) {
   const auto side = [&map](const char* name) { return map.value(QLatin1String(name)).toDouble(); };
   return {
       .top = side("top"), .left = side("left"), .bottom = side("bottom"), .right = side("right")};
+}
+
+template <typename Given>
+bool isMissing(const Given& given) {
+  if constexpr (std::is_pointer_v<Given>) return given == nullptr;
+  return false;
+}
+
+// What the helper makes of what QML gives; nothing when an item is missing.
+template <typename Made, typename... Taken, typename... Given>
+auto make(Made (*helper)(Taken...), const Given&... given) {
+  if ((... || isMissing(given))) {
+    qWarning("QavAutoLayout: an item is missing");
+    return decltype(handle(std::declval<Made>())){};
+  }
+  return handle(helper(taken(given)...));
 }
 
 }  // namespace
@@ -56,226 +66,161 @@ QQuickItem* ItemAutoLayout::qav_commonAncestorWithView(QQuickItem* item, QQuickI
 }
 
 int ItemAutoLayout::qav_layoutAttributeFromRectEdge(int edge) const {
-  return static_cast<int>(kindora::qav_layoutAttributeFromRectEdge(edges(edge)));
+  return static_cast<int>(kindora::qav_layoutAttributeFromRectEdge(taken(edge)));
 }
 
 // --- Edges ---
 
 QVariantList ItemAutoLayout::qav_alignEdgesWithSuperview(QQuickItem* item, int bits,
                                                          const QVariantMap& insets) {
-  return make(
-      [&](const UIViewRef& v) {
-        return kindora::qav_alignEdgesWithSuperview(v, edges(bits), insetsOf(insets));
-      },
-      item);
+  return make(kindora::qav_alignEdgesWithSuperview, item, bits, insets);
 }
 
 QVariantList ItemAutoLayout::qav_alignEdges(QQuickItem* item, int bits, QQuickItem* withView,
                                             const QVariantMap& insets) {
-  return make(
-      [&](const UIViewRef& v, const UIViewRef& o) {
-        return kindora::qav_alignEdges(v, edges(bits), o, insetsOf(insets));
-      },
-      item, withView);
+  return make(kindora::qav_alignEdges, item, bits, withView, insets);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_alignEdge(QQuickItem* item, int edge, QQuickItem* withView,
                                                 double inset) {
-  return make([&](const UIViewRef& v,
-                  const UIViewRef& o) { return kindora::qav_alignEdge(v, edges(edge), o, inset); },
-              item, withView);
+  return qav_alignEdge(item, edge, edge, withView, inset);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_alignEdge(QQuickItem* item, int edge, int withEdge,
                                                 QQuickItem* ofView, double inset) {
-  return make(
-      [&](const UIViewRef& v, const UIViewRef& o) {
-        return kindora::qav_alignEdge(v, edges(edge), edges(withEdge), o, inset);
-      },
-      item, ofView);
+  using AlignEdges =
+      NSLayoutConstraintRef(const UIViewRef&, UIRectEdge, UIRectEdge, const UIViewRef&, double);
+  return make(static_cast<AlignEdges*>(kindora::qav_alignEdge), item, edge, withEdge, ofView,
+              inset);
 }
 
 // --- Centres and baselines ---
 
 QVariantList ItemAutoLayout::qav_alignCentersWithView(QQuickItem* item, QQuickItem* other,
                                                       QPointF offset) {
-  return make(
-      [&](const UIViewRef& v, const UIViewRef& o) {
-        return kindora::qav_alignCentersWithView(v, o, offsetOf(offset));
-      },
-      item, other);
+  return make(kindora::qav_alignCentersWithView, item, other, offset);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_alignHorizontalCenterWithView(QQuickItem* item,
                                                                     QQuickItem* other,
                                                                     double offset) {
-  return make(
-      [&](const UIViewRef& v, const UIViewRef& o) {
-        return kindora::qav_alignHorizontalCenterWithView(v, o, offset);
-      },
-      item, other);
+  return make(kindora::qav_alignHorizontalCenterWithView, item, other, offset);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_alignVerticalCenterWithView(QQuickItem* item,
                                                                   QQuickItem* other,
                                                                   double offset) {
-  return make(
-      [&](const UIViewRef& v, const UIViewRef& o) {
-        return kindora::qav_alignVerticalCenterWithView(v, o, offset);
-      },
-      item, other);
+  return make(kindora::qav_alignVerticalCenterWithView, item, other, offset);
 }
 
 QVariantList ItemAutoLayout::qav_centerInSuperview(QQuickItem* item) {
-  return make([&](const UIViewRef& v) { return kindora::qav_centerInSuperview(v); }, item);
+  return make(kindora::qav_centerInSuperview, item);
 }
 
 QVariantList ItemAutoLayout::qav_centerInSuperviewWithOffset(QQuickItem* item, QPointF offset) {
-  return make(
-      [&](const UIViewRef& v) {
-        return kindora::qav_centerInSuperviewWithOffset(v, offsetOf(offset));
-      },
-      item);
+  return make(kindora::qav_centerInSuperviewWithOffset, item, offset);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_horizontallyCenterInSuperview(QQuickItem* item) {
-  return make([&](const UIViewRef& v) { return kindora::qav_horizontallyCenterInSuperview(v); },
-              item);
+  return make(kindora::qav_horizontallyCenterInSuperview, item);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_horizontallyCenterInSuperviewWithOffset(QQuickItem* item,
                                                                               double offset) {
-  return make(
-      [&](const UIViewRef& v) {
-        return kindora::qav_horizontallyCenterInSuperviewWithOffset(v, offset);
-      },
-      item);
+  return make(kindora::qav_horizontallyCenterInSuperviewWithOffset, item, offset);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_verticallyCenterInSuperview(QQuickItem* item) {
-  return make([&](const UIViewRef& v) { return kindora::qav_verticallyCenterInSuperview(v); },
-              item);
+  return make(kindora::qav_verticallyCenterInSuperview, item);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_verticallyCenterInSuperviewWithOffset(QQuickItem* item,
                                                                             double offset) {
-  return make(
-      [&](const UIViewRef& v) {
-        return kindora::qav_verticallyCenterInSuperviewWithOffset(v, offset);
-      },
-      item);
+  return make(kindora::qav_verticallyCenterInSuperviewWithOffset, item, offset);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_alignBaselineWithView(QQuickItem* item, QQuickItem* other,
                                                             double offset) {
-  return make([&](const UIViewRef& v,
-                  const UIViewRef& o) { return kindora::qav_alignBaselineWithView(v, o, offset); },
-              item, other);
+  return make(kindora::qav_alignBaselineWithView, item, other, offset);
 }
 
 // --- Sizes ---
 
 LayoutConstraint* ItemAutoLayout::qav_pinWidth(QQuickItem* item, double width) {
-  return make([&](const UIViewRef& v) { return kindora::qav_pinWidth(v, width); }, item);
+  return make(kindora::qav_pinWidth, item, width);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_setMinimumWidth(QQuickItem* item, double width) {
-  return make([&](const UIViewRef& v) { return kindora::qav_setMinimumWidth(v, width); }, item);
+  return make(kindora::qav_setMinimumWidth, item, width);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_setMaximumWidth(QQuickItem* item, double width) {
-  return make([&](const UIViewRef& v) { return kindora::qav_setMaximumWidth(v, width); }, item);
+  return make(kindora::qav_setMaximumWidth, item, width);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_setMaximumWidthToSuperviewWidth(QQuickItem* item) {
-  return make([&](const UIViewRef& v) { return kindora::qav_setMaximumWidthToSuperviewWidth(v); },
-              item);
+  return make(kindora::qav_setMaximumWidthToSuperviewWidth, item);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_setMaximumWidthToSuperviewWidthWithOffset(QQuickItem* item,
                                                                                 double offset) {
-  return make(
-      [&](const UIViewRef& v) {
-        return kindora::qav_setMaximumWidthToSuperviewWidthWithOffset(v, offset);
-      },
-      item);
+  return make(kindora::qav_setMaximumWidthToSuperviewWidthWithOffset, item, offset);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_pinHeight(QQuickItem* item, double height) {
-  return make([&](const UIViewRef& v) { return kindora::qav_pinHeight(v, height); }, item);
+  return make(kindora::qav_pinHeight, item, height);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_setMinimumHeight(QQuickItem* item, double height) {
-  return make([&](const UIViewRef& v) { return kindora::qav_setMinimumHeight(v, height); }, item);
+  return make(kindora::qav_setMinimumHeight, item, height);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_setMaximumHeight(QQuickItem* item, double height) {
-  return make([&](const UIViewRef& v) { return kindora::qav_setMaximumHeight(v, height); }, item);
+  return make(kindora::qav_setMaximumHeight, item, height);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_setMaximumHeightToSuperviewHeight(QQuickItem* item) {
-  return make([&](const UIViewRef& v) { return kindora::qav_setMaximumHeightToSuperviewHeight(v); },
-              item);
+  return make(kindora::qav_setMaximumHeightToSuperviewHeight, item);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_setMaximumHeightToSuperviewHeightWithOffset(QQuickItem* item,
                                                                                   double offset) {
-  return make(
-      [&](const UIViewRef& v) {
-        return kindora::qav_setMaximumHeightToSuperviewHeightWithOffset(v, offset);
-      },
-      item);
+  return make(kindora::qav_setMaximumHeightToSuperviewHeightWithOffset, item, offset);
 }
 
 QVariantList ItemAutoLayout::qav_pinSize(QQuickItem* item, QSizeF size) {
-  return make([&](const UIViewRef& v) { return kindora::qav_pinSize(v, sizeOf(size)); }, item);
+  return make(kindora::qav_pinSize, item, size);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_pinWidthToWidthOfView(QQuickItem* item, QQuickItem* other,
                                                             double offset) {
-  return make([&](const UIViewRef& v,
-                  const UIViewRef& o) { return kindora::qav_pinWidthToWidthOfView(v, o, offset); },
-              item, other);
+  return make(kindora::qav_pinWidthToWidthOfView, item, other, offset);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_pinHeightToHeightOfView(QQuickItem* item, QQuickItem* other,
                                                               double offset) {
-  return make(
-      [&](const UIViewRef& v, const UIViewRef& o) {
-        return kindora::qav_pinHeightToHeightOfView(v, o, offset);
-      },
-      item, other);
+  return make(kindora::qav_pinHeightToHeightOfView, item, other, offset);
 }
 
 QVariantList ItemAutoLayout::qav_pinSizeToSizeOfView(QQuickItem* item, QQuickItem* other,
                                                      QSizeF offset) {
-  return make(
-      [&](const UIViewRef& v, const UIViewRef& o) {
-        return kindora::qav_pinSizeToSizeOfView(v, o, sizeOf(offset));
-      },
-      item, other);
+  return make(kindora::qav_pinSizeToSizeOfView, item, other, offset);
 }
 
 // --- Spacing ---
 
 LayoutConstraint* ItemAutoLayout::qav_pinHorizontalSpacing(QQuickItem* item, double spacing,
                                                            QQuickItem* toView) {
-  return make([&](const UIViewRef& v,
-                  const UIViewRef& o) { return kindora::qav_pinHorizontalSpacing(v, spacing, o); },
-              item, toView);
+  return make(kindora::qav_pinHorizontalSpacing, item, spacing, toView);
 }
 
 LayoutConstraint* ItemAutoLayout::qav_pinVerticalSpacing(QQuickItem* item, double spacing,
                                                          QQuickItem* toView) {
-  return make([&](const UIViewRef& v,
-                  const UIViewRef& o) { return kindora::qav_pinVerticalSpacing(v, spacing, o); },
-              item, toView);
+  return make(kindora::qav_pinVerticalSpacing, item, spacing, toView);
 }
 
 QVariantList ItemAutoLayout::qav_pinSpacing(QQuickItem* item, QSizeF spacing, QQuickItem* toView) {
-  return make([&](const UIViewRef& v,
-                  const UIViewRef& o) { return kindora::qav_pinSpacing(v, sizeOf(spacing), o); },
-              item, toView);
+  return make(kindora::qav_pinSpacing, item, spacing, toView);
 }
 
 }  // namespace kindora
