@@ -2,26 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "alerts/card/QavAlertControllerScrollView.h"
 
-#include <initializer_list>
 #include <utility>
 
 namespace kindora {
 namespace {
 
 double bottomOf(const UIView& view) { return view.frame().origin.y + view.frame().size.height; }
-
-NSLayoutConstraintRef below(const UIViewRef& owner, const UIViewRef& view,
-                            NSLayoutAttribute attribute, const UIViewRef& other,
-                            NSLayoutAttribute otherAttribute, double distance) {
-  auto constraint = std::make_shared<NSLayoutConstraint>(
-      NSLayoutConstraint::Parts{.firstItem = view,
-                                .firstAttribute = attribute,
-                                .secondItem = other,
-                                .secondAttribute = otherAttribute,
-                                .constant = distance});
-  owner->addConstraint(constraint);
-  return constraint;
-}
 
 }  // namespace
 
@@ -65,26 +51,40 @@ void QavAlertControllerScrollView::constrainContent() {
   contentConstraints_ = {
       qav_alignEdge(titleLabel_, UIRectEdge::left, self, padding.left),
       qav_pinWidthToWidthOfView(titleLabel_, self, -(padding.left + padding.right)),
-      below(self, titleLabel_, NSLayoutAttribute::firstBaseline, self, NSLayoutAttribute::top,
-            padding.top),
-      below(self, messageLabel_, NSLayoutAttribute::firstBaseline, titleLabel_,
-            NSLayoutAttribute::baseline, visualStyle_->labelSpacing()),
   };
-  const auto sides =
-      qav_alignEdges(messageLabel_, UIRectEdge::left | UIRectEdge::right, titleLabel_);
-  contentConstraints_.insert(contentConstraints_.end(), sides.begin(), sides.end());
-  if (textFieldView_) constrainTextFields(self);
+  hold({.firstItem = titleLabel_,
+        .firstAttribute = NSLayoutAttribute::firstBaseline,
+        .secondItem = self,
+        .secondAttribute = NSLayoutAttribute::top,
+        .constant = padding.top});
+  hold({.firstItem = messageLabel_,
+        .firstAttribute = NSLayoutAttribute::firstBaseline,
+        .secondItem = titleLabel_,
+        .secondAttribute = NSLayoutAttribute::baseline,
+        .constant = visualStyle_->labelSpacing()});
+  alignSidesWithTitle(messageLabel_);
+  if (textFieldView_) constrainTextFields();
   setNeedsLayout();
 }
 
-void QavAlertControllerScrollView::constrainTextFields(const UIViewRef& self) {
+void QavAlertControllerScrollView::constrainTextFields() {
   textFieldsHeightConstraint_ = qav_pinHeight(textFieldView_, textFieldsHeight());
   contentConstraints_.push_back(textFieldsHeightConstraint_);
-  contentConstraints_.push_back(below(self, textFieldView_, NSLayoutAttribute::top, messageLabel_,
-                                      NSLayoutAttribute::baseline,
-                                      visualStyle_->messageLabelBottomSpacing()));
-  const auto sides =
-      qav_alignEdges(textFieldView_, UIRectEdge::left | UIRectEdge::right, titleLabel_);
+  hold({.firstItem = textFieldView_,
+        .firstAttribute = NSLayoutAttribute::top,
+        .secondItem = messageLabel_,
+        .secondAttribute = NSLayoutAttribute::baseline,
+        .constant = visualStyle_->messageLabelBottomSpacing()});
+  alignSidesWithTitle(textFieldView_);
+}
+
+void QavAlertControllerScrollView::hold(NSLayoutConstraint::Parts parts) {
+  contentConstraints_.push_back(std::make_shared<NSLayoutConstraint>(std::move(parts)));
+  addConstraint(contentConstraints_.back());
+}
+
+void QavAlertControllerScrollView::alignSidesWithTitle(const UIViewRef& view) {
+  const auto sides = qav_alignEdges(view, UIRectEdge::left | UIRectEdge::right, titleLabel_);
   contentConstraints_.insert(contentConstraints_.end(), sides.begin(), sides.end());
 }
 

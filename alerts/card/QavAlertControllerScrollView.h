@@ -39,7 +39,9 @@ class QavAlertControllerScrollView final : public UIScrollView {
  private:
   QavAlertControllerScrollView() = default;
   void constrainContent();
-  void constrainTextFields(const UIViewRef& self);
+  void constrainTextFields();
+  void hold(NSLayoutConstraint::Parts parts);
+  void alignSidesWithTitle(const UIViewRef& view);
   [[nodiscard]] double textFieldsHeight() const;
 
   std::shared_ptr<QavAlertLabel> titleLabel_ = std::make_shared<QavAlertLabel>();
