@@ -3,6 +3,7 @@
 import QtQuick
 import Kindora.Alerts
 import Kindora.Toolkit.Hosts
+import Kindora.Toolkit.Quick
 
 // Shows a program's alerts in the window that it lies in: over all of it, a header and a footer and
 // open popups included. While one is shown, it has the pointer and the keyboard; else there is
@@ -12,7 +13,7 @@ FocusScope {
 
     anchors.fill: parent
     visible: layer.shows
-    z: 1000002
+    z: Depth.AlertLayer
     // Out of the part that an ApplicationWindow leaves to its content.
     Window.onContentItemChanged: {
         if (root.Window.contentItem)

@@ -8,6 +8,7 @@
 #include "toolkit/controllers/Colors.h"
 #include "toolkit/controllers/Screen.h"
 #include "toolkit/quick/BlurItem.h"
+#include "toolkit/quick/Depth.h"
 #include "toolkit/quick/DrawnPlace.h"
 #include "toolkit/quick/GroundItem.h"
 #include "toolkit/quick/LabelItem.h"
@@ -27,10 +28,6 @@ namespace kindora {
 namespace {
 
 constexpr double kShadowBlur = 8;  // points
-// Subviews are drawn at 1, 2, 3 and so on.
-constexpr double kShadowZ = -2;
-constexpr double kGroundZ = -1;
-constexpr double kBorderZ = 1e6;
 
 // The part in QML that shows what is special about the view's class.
 QString faceOf(const UIView& view) {
@@ -172,7 +169,7 @@ void CodeViewItem::drawGround() {
   if (item == nullptr) {
     if (!bordered && (pictured || shown.backgroundColor.alpha <= 0)) return;
     item = new GroundItem(this);
-    item->setZ(pictured ? kBorderZ : kGroundZ);
+    item->setZ(pictured ? Depth::Border : Depth::Ground);
     item->setSize(size());
   }
   item->setLook({.color = pictured ? QColor(Qt::transparent) : toQColor(shown.backgroundColor),
@@ -186,7 +183,7 @@ void CodeViewItem::drawShadow() {
   const UIViewState& shown = view_->presentation();
   if (shadow_ == nullptr) {
     shadow_ = new ShadowItem(this);
-    shadow_->setZ(kShadowZ);
+    shadow_->setZ(Depth::Shadow);
   }
   shadow_->setPosition({shown.shadowOffset.width, shown.shadowOffset.height});
   shadow_->setSize(size());

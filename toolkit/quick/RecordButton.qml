@@ -27,7 +27,7 @@ TapItem {
     // Above all that the view shows.
     FocusRing {
         parent: root.parent
-        z: 1000001
+        z: Depth.FocusRing
         visible: button.visualFocus
         anchors.margins: 2
         radius: 6
