@@ -40,7 +40,8 @@ TEST(LuPhoneFormatReader, ValueBeyondTheEndIsZero) {
 }
 
 TEST(LuPhoneFormatReader, OffsetsNearTheGreatestDoNotWrapIntoTheFile) {
-  const LuPhoneFormat formatter(Bytes().u32(0).u32(0xFFFFFFFF).data, "");
+  // No byte is zero, so that whatever came from the front would show.
+  const LuPhoneFormat formatter(Bytes().u32(0xFFFFFFFF).u32(0xFFFFFFFF).data, "");
   EXPECT_EQ(formatter.value32(0xFFFFFFFE), 0u);
   EXPECT_EQ(formatter.value16(0xFFFFFFFF), 0u);
   EXPECT_EQ(formatter.value16BE(0xFFFFFFFF), 0u);
@@ -87,9 +88,14 @@ TEST(LuPhoneFormatReader, LastOffsetOfASharedCodeWins) {
 }
 
 TEST(LuPhoneFormatReader, LastCallingCodeOfACountryWins) {
-  LuPhoneFormat formatter(handMadeFile({{"7", {"aa"}, {}, {}, {}}, {"8", {"aa"}, {}, {}, {}}}),
-                          "aa");
-  EXPECT_EQ(formatter.defaultCallingCode(), "8");
+  const RawBlock seven{"7", {"aa"}, {}, {}, {{1, {{1, 1, 2, 0, "#-#"}}}}};
+  const RawBlock eight{"8", {"aa"}, {}, {}, {{1, {{1, 1, 2, 0, "#/#"}}}}};
+  LuPhoneFormat eightLast(handMadeFile({seven, eight}), "aa");
+  EXPECT_EQ(eightLast.defaultCallingCode(), "8");
+  EXPECT_EQ(eightLast.format("12"), "1/2");
+  LuPhoneFormat sevenLast(handMadeFile({eight, seven}), "aa");
+  EXPECT_EQ(sevenLast.defaultCallingCode(), "7");
+  EXPECT_EQ(sevenLast.format("12"), "1-2");
 }
 
 TEST(LuPhoneFormatReader, CodesOfFourBytesNeedNoZero) {

@@ -7,6 +7,7 @@
 
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "tests/phoneformat/HandMadeFile.h"
 
@@ -51,10 +52,29 @@ TEST(LuPhoneFormat, CountriesOfACallingCodeWithOrWithoutOnePlus) {
 }
 
 TEST(LuPhoneFormat, ShortestCallingCodeWins) {
-  LuPhoneFormat formatter(handMadeFile(samplePlans()), "gb");
-  EXPECT_EQ(formatter.findCallingCodeInfo("12345")->callingCode, "1");
-  EXPECT_EQ(formatter.findCallingCodeInfo("1")->callingCode, "1");
-  EXPECT_EQ(formatter.findCallingCodeInfo("44")->callingCode, "44");
+  const RawBlock one{"1", {"aa"}, {}, {}, {}};
+  const RawBlock two{"12", {"bb"}, {}, {}, {}};
+  const RawBlock three{"123", {"cc"}, {}, {}, {}};
+  const RawBlock other{"44", {"dd"}, {}, {}, {}};
+  for (const auto& order : {std::vector{one, two, three, other}, {other, three, two, one}}) {
+    LuPhoneFormat formatter(handMadeFile(order), "dd");
+    for (const char* digits : {"12345", "44", "123", "12", "1", "12*", "1*3"}) {
+      const std::string code = digits[0] == '4' ? "44" : "1";
+      EXPECT_EQ(formatter.findCallingCodeInfo(digits)->callingCode, code) << digits;
+    }
+  }
+}
+
+TEST(LuPhoneFormat, LongerCallingCodeIsFoundWhereNoneIsShorter) {
+  const RawBlock two{"12", {"bb"}, {}, {}, {}};
+  const RawBlock three{"123", {"cc"}, {}, {}, {}};
+  const RawBlock four{"134", {"dd"}, {}, {}, {}};
+  for (const auto& order : {std::vector{two, three, four}, {four, three, two}}) {
+    LuPhoneFormat formatter(handMadeFile(order), "dd");
+    EXPECT_EQ(formatter.findCallingCodeInfo("1345")->callingCode, "134");
+    EXPECT_EQ(formatter.findCallingCodeInfo("12345")->callingCode, "12");
+    EXPECT_EQ(formatter.findCallingCodeInfo("1"), nullptr);
+  }
 }
 
 TEST(LuPhoneFormat, DigitsWithoutCallingCodeFindNoRecord) {

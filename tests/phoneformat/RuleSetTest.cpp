@@ -225,6 +225,15 @@ TEST(RuleSetIndex, ACopyMayBeChangedAndFollowsItsOwnRules) {
   EXPECT_TRUE(indexed.isValid("12", kNone, kNone, true));
 }
 
+// What a plan asks of a set before it looks at the rules.
+bool mayHold(const RuleSet& set, std::string_view number) {
+  if (!set.mayHaveLength(number.size())) return false;
+  if (number.size() < 2) return true;
+  const auto first = static_cast<unsigned>(number[0] - '0');
+  const auto second = static_cast<unsigned>(number[1] - '0');
+  return first > 9 || second > 9 || set.mayStartWith(first, second);
+}
+
 TEST(RuleSetIndex, PassesOverNoNumberThatAScanFinds) {
   const char kSigns[] = "0129*";
   std::vector<std::string> numbers{""};
@@ -241,11 +250,25 @@ TEST(RuleSetIndex, PassesOverNoNumberThatAScanFinds) {
     RuleSet indexed = scanned;
     indexed.buildIndex();
     for (const std::string& number : numbers) {
-      EXPECT_EQ(indexed.format(number, kNone, kNone, true),
-                scanned.format(number, kNone, kNone, true))
+      const auto found = scanned.format(number, kNone, kNone, true);
+      EXPECT_EQ(indexed.format(number, kNone, kNone, true), found)
+          << number << " from " << low << " to " << high;
+      EXPECT_TRUE(!found || mayHold(indexed, number))
           << number << " from " << low << " to " << high;
     }
   }
+}
+
+TEST(RuleSetIndex, PassesOverWhatNoRuleCanHold) {
+  RuleSet set;
+  set.matchLen = 3;
+  set.append(rule(120, 219, 4, kUnflagged, "####"));
+  EXPECT_TRUE(mayHold(set, "3000"));
+  set.buildIndex();
+  EXPECT_FALSE(mayHold(set, "3000"));
+  EXPECT_FALSE(mayHold(set, "12"));
+  EXPECT_FALSE(mayHold(set, "12000"));
+  EXPECT_TRUE(mayHold(set, "2190"));
 }
 
 TEST(RuleSetIndex, StaysEmptyWhereTooManyRangesOverlap) {
