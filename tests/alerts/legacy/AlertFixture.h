@@ -54,8 +54,8 @@ class FakeUserWindow final : public QavAlertUserWindow {
 };
 
 /// An alert window whose transitions end when the test says so; without animation and without a
-/// new alert they end at once. Events: "alert key", "show B for A", "cut to B for A" (not
-/// animated), "alert released".
+/// new alert they end at once. What comes takes presses, what goes does not. Events: "alert key",
+/// "show B for A", "cut to B for A" (not animated), "alert released".
 class FakeAlertWindow final : public QavAlertWindow {
  public:
   using Completions = std::vector<std::function<void()>>;
@@ -72,6 +72,8 @@ class FakeAlertWindow final : public QavAlertWindow {
       return alert ? alert->title().value_or("?") : std::string("nothing");
     };
     log_.push_back((animated ? "show " : "cut to ") + name(withAlert) + " for " + name(oldAlert));
+    if (withAlert) withAlert->setUserInteractionEnabled(true);
+    if (oldAlert) oldAlert->setUserInteractionEnabled(false);
     if (!animated && !withAlert) {
       completion();
     } else {

@@ -203,6 +203,25 @@ TEST_F(QavAlertViewTest, TakesNoPressesOnceATapDismissesIt) {
   EXPECT_FALSE(a->isUserInteractionEnabled());
 }
 
+TEST_F(QavAlertViewTest, TakesNoPressesWhileItsDismissalWaitsForATransition) {
+  const AlertRef a = QavAlertView::initWithTitle("A", {}, answers, "Cancel", {"OK"});
+  a->show();
+  tap(suggestedRow(a));
+  EXPECT_EQ(QavAlertView::transitionCoordinator().presentingAlert(), a);
+  EXPECT_FALSE(a->isUserInteractionEnabled());
+}
+
+TEST_F(QavAlertViewTest, TakesPressesAgainWhenTheOneAboveHasGone) {
+  const AlertRef a = alert("A");
+  const AlertRef b = alert("B");
+  showUp(a);
+  showUp(b);
+  EXPECT_FALSE(a->isUserInteractionEnabled());
+  b->dismissWithClickedButtonIndex(0, true);
+  EXPECT_TRUE(a->isUserInteractionEnabled());
+  EXPECT_FALSE(b->isUserInteractionEnabled());
+}
+
 TEST_F(QavAlertViewTest, DelegatesAnswerAboutDismissalSuffices) {
   const AlertRef a = QavAlertView::initWithTitle("A", {}, answers, "Cancel", {"OK"});
   int asked = 0;

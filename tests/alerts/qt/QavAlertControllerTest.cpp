@@ -106,17 +106,30 @@ TEST_F(QavAlertControllerTest, TheContentViewIsTheCards) {
 
 TEST_F(QavAlertControllerTest, HandsOverWhatWasSetUntilItAppears) {
   const auto controller = alert();
-  controller->addAction(action("A"));
-  controller->addAction(action("B"));
+  const auto a = action("A");
+  const auto b = action("B");
+  controller->addAction(a);
+  controller->addAction(b);
   controller->setActionLayout(QavAlertActionLayout::vertical);
   const auto style = std::make_shared<QavAlertControllerDefaultVisualStyle>();
   controller->setVisualStyle(style);
   EXPECT_THAT(controller->alert()->actions(), IsEmpty());
   controller->presentWithCompletion();
-  EXPECT_EQ(controller->alert()->actions().size(), 2U);
+  EXPECT_THAT(controller->alert()->actions(), ElementsAre(a, b));
   EXPECT_EQ(controller->alert()->visualStyle(), style);
   EXPECT_EQ(controller->alert()->actionLayout(), QavAlertActionLayout::vertical);
   EXPECT_EQ(controller->alert()->superview(), controller->view());
+}
+
+// The card decides on the buttons' direction by the actions that it has when it hears the layout.
+TEST_F(QavAlertControllerTest, HandsOverTheActionsBeforeTheirLayout) {
+  const auto controller = alert();
+  controller->addAction(action("A"));
+  controller->addAction(action("B"));
+  controller->presentWithCompletion();
+  EXPECT_EQ(controller->alert()->actionLayout(), QavAlertActionLayout::automatic);
+  EXPECT_EQ(controller->alert()->collectionViewLayout()->scrollDirection(),
+            UICollectionViewScrollDirection::horizontal);
 }
 
 TEST_F(QavAlertControllerTest, IsPresentingFromWillAppearToDidAppear) {
@@ -209,10 +222,23 @@ TEST_F(QavAlertControllerTest, HearsNoKeyboardOnceItHasGone) {
   pass();
   controller->dismissWithCompletion();
   pass();
+  const std::weak_ptr<QavAlertController> gone = controller;
+  const std::shared_ptr<UIView> view = controller->view();
+  const CGRect frame = view->frame();
+  const auto keyboardTo = [](double y) {
+    NotificationCenter::defaultCenter().post(
+        UIKeyboardWillChangeFrameNotification,
+        KeyboardNotification{.endFrame = {{0, y}, {320, 480 - y}}});
+  };
+  keyboardTo(280);
+  EXPECT_EQ(view->frame().size.height, 280) << "hears it as long as it is there";
+  keyboardTo(480);
+  ASSERT_EQ(view->frame(), frame);
   controller.reset();
   time.settle();
-  NotificationCenter::defaultCenter().post(UIKeyboardWillChangeFrameNotification,
-                                           KeyboardNotification{});
+  ASSERT_TRUE(gone.expired());
+  keyboardTo(280);
+  EXPECT_EQ(view->frame(), frame);
 }
 
 // --- Choosing ---
