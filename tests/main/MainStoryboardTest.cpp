@@ -2,10 +2,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "main/MainStoryboard.h"
 
+#include "screens/badges/BadgeInfoViewController.h"
 #include "screens/badges/BadgesViewController.h"
 #include "screens/challenges/ChallengesTableViewController.h"
+#include "screens/create/CreateChallengeTableViewController.h"
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
+#include "screens/invite/InviteFriendTableViewController.h"
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
+#include "screens/picker/KindoraTableViewController.h"
+#include "tests/support/PhoneFormatsOf.h"
 #include "tests/support/app/AppFixture.h"
 
 namespace kindora {
@@ -13,6 +18,7 @@ namespace {
 
 class MainStoryboardTest : public AppFixture {
  protected:
+  MainStoryboardTest() { installPhoneFormatEnvironment(std::make_shared<PhoneFormatsOf>("US")); }
   static const UIViewControllerRef& tab(std::size_t index) {
     return tabs().viewControllers().at(index);
   }
@@ -56,6 +62,20 @@ TEST_F(MainStoryboardTest, MakesEveryScreen) {
   EXPECT_TRUE(
       makes<InProgressChallengeDetailViewController>("InProgressChallengeDetailViewController"));
   EXPECT_TRUE(makes<BadgesViewController>("BadgesViewController"));
+  EXPECT_TRUE(makes<BadgeInfoViewController>("BadgeInfoViewController"));
+  EXPECT_TRUE(makes<KindoraTableViewController>("KindoraTableViewController"));
+  EXPECT_TRUE(makes<InviteFriendTableViewController>("InviteFriendTableViewController"));
+  EXPECT_TRUE(makes<UINavigationController>("CreateChallengeNavigationController"));
+  EXPECT_TRUE(makes<CreateChallengeTableViewController>("CreateChallengeTableViewController"));
+}
+
+TEST_F(MainStoryboardTest, CreatingHasANavigationOfItsOwn) {
+  const auto navigation = std::dynamic_pointer_cast<UINavigationController>(
+      mainStoryboard().instantiateViewController("CreateChallengeNavigationController"));
+  ASSERT_EQ(navigation->viewControllers().size(), 1u);
+  EXPECT_NE(
+      dynamic_cast<CreateChallengeTableViewController*>(navigation->topViewController().get()),
+      nullptr);
 }
 
 TEST_F(MainStoryboardTest, EveryScreenHasAPageOfItsOwn) {
@@ -67,6 +87,10 @@ TEST_F(MainStoryboardTest, EveryScreenHasAPageOfItsOwn) {
   EXPECT_EQ(page("InProgressChallengeDetailViewController"),
             QStringLiteral("InProgressChallengePage.qml"));
   EXPECT_EQ(page("BadgesViewController"), QStringLiteral("BadgesPage.qml"));
+  EXPECT_EQ(page("BadgeInfoViewController"), QStringLiteral("BadgeInfoPage.qml"));
+  EXPECT_EQ(page("KindoraTableViewController"), QStringLiteral("KindoraPage.qml"));
+  EXPECT_EQ(page("InviteFriendTableViewController"), QStringLiteral("InviteFriendPage.qml"));
+  EXPECT_EQ(page("CreateChallengeTableViewController"), QStringLiteral("CreateChallengePage.qml"));
 }
 
 TEST_F(MainStoryboardTest, AnUnknownSceneStops) {

@@ -13,9 +13,10 @@ namespace {
 using Time = ShakeRecognizer::Time;
 
 // Feeds turning points that far apart in time; how many shakes were heard.
-int shakes(ShakeRecognizer& recognizer, const std::vector<double>& values, Time step) {
+int shakes(ShakeRecognizer& recognizer, const std::vector<double>& values, Time step,
+           Time start = Time(0)) {
   int heard = 0;
-  Time now{0};
+  Time now = start;
   for (const double value : values) {
     heard += recognizer.addSample(value, now) ? 1 : 0;
     now += step;
@@ -62,7 +63,9 @@ TEST(ShakeRecognizer, StartsAnewAfterAShake) {
 
 TEST(ShakeRecognizer, HearsASecondShake) {
   ShakeRecognizer recognizer(40);
-  EXPECT_EQ(shakes(recognizer, {0, 50, 0, 50, 0, 50, 0, 50, 0}, Time(80)), 2);
+  EXPECT_EQ(shakes(recognizer, {0, 50, 0, 50, 0}, Time(80)), 1);
+  EXPECT_EQ(shakes(recognizer, {0, 50, 0, 50}, Time(80), Time(2000)), 0);
+  EXPECT_EQ(shakes(recognizer, {0, 50, 0, 50, 0}, Time(80), Time(4000)), 1) << "after a rest";
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "screens/picker/KindoraTableViewController.h"
+#include "tests/screens/badges/ComeBack.h"
 #include "tests/support/app/AppFixture.h"
 
 namespace kindora {
@@ -135,8 +136,13 @@ TEST_F(BadgeInfoViewControllerTest, AfterSendingItReadsThatItWasPassedOn) {
 
 TEST_F(BadgeInfoViewControllerTest, ThePickerMayComeBackHere) {
   open();
-  screen->unwindToBadgeInfo({});
+  screen->kindoraTapped();
+  time.advance(0.5);
+  ASSERT_NE(navigation().topViewController(), screen);
+  comeBackFromAbove(navigation(), "unwindToBadgeInfo");
+  time.advance(0.5);
   EXPECT_EQ(&top<Screen>(), screen.get());
+  EXPECT_TRUE(screen->isVisible());
 }
 
 struct ForgottenOutlet {

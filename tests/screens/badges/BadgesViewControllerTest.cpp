@@ -10,6 +10,7 @@
 
 #include "screens/badges/BadgeCollectionViewCell.h"
 #include "screens/badges/BadgeInfoViewController.h"
+#include "tests/screens/badges/ComeBack.h"
 #include "tests/support/app/AppFixture.h"
 
 namespace kindora {
@@ -234,9 +235,15 @@ TEST_F(BadgesViewControllerTest, BadgesFollowTheWidthWhenTheGridKnowsItFirst) {
 // --- Coming back ---
 
 TEST_F(BadgesViewControllerTest, ScreensOfABadgeMayComeBackHere) {
+  earn("a");
   open();
-  screen().unwindToBadges({});
+  grid().select({0, 0});
+  time.advance(0.5);
+  ASSERT_NE(stack().topViewController().get(), &screen());
+  comeBackFromAbove(stack(), "unwindToBadges");
+  time.advance(0.5);
   EXPECT_EQ(stack().topViewController().get(), &screen());
+  EXPECT_TRUE(screen().isVisible());
 }
 
 TEST_F(BadgesViewControllerTest, WithoutAStackThereIsNowhereToPassOn) {

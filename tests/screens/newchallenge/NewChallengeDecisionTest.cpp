@@ -191,10 +191,14 @@ TEST_F(OpenNewChallengeDetailViewControllerTest, ARevealThatOutlivesTheScreenIsH
 TEST_F(OpenNewChallengeDetailViewControllerTest, ATimerThatOutlivesTheScreenIsHarmless) {
   const std::weak_ptr<UIViewController> gone = screen().weak_from_this();
   screen().accepted();
+  const auto said = alert();
   navigation().popViewController(false);
   ASSERT_TRUE(gone.expired());
   time.advance(4);
   EXPECT_EQ(navigation().viewControllers().size(), 1u);
+  // The alert was the screen's to close, and nobody else does.
+  EXPECT_EQ(alert(), said);
+  EXPECT_EQ(said->presentationProgress(), 1);
 }
 
 TEST_F(OpenNewChallengeDetailViewControllerTest, IsReleasedWithItsViewsWhenItIsLeft) {

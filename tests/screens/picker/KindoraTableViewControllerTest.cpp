@@ -33,16 +33,22 @@ TEST_F(KindoraTableViewControllerTest, TheSearchBarStandsAboveTheTable) {
 }
 
 TEST_F(KindoraTableViewControllerTest, TheSearchBarIsAsWideAsTheTableAndOf44Points) {
-  class Wide final : public Screen {
+  class Sized final : public Screen {
    public:
+    explicit Sized(double width) : width_(width) {}
     void viewDidLoad() override {
-      view()->reportFrame({{0, 0}, {320, 480}});
+      view()->reportFrame({{0, 0}, {width_, 480}});
       Screen::viewDidLoad();
     }
+
+   private:
+    double width_;
   };
-  const auto wide = makeViewController<Wide>();
-  wide->loadViewIfNeeded();
-  EXPECT_EQ(wide->searchController->searchBar()->frame(), (CGRect{{0, 0}, {320, 44}}));
+  for (const double width : {320.0, 375.0}) {
+    const auto sized = makeViewController<Sized>(width);
+    sized->loadViewIfNeeded();
+    EXPECT_EQ(sized->searchController->searchBar()->frame(), (CGRect{{0, 0}, {width, 44}}));
+  }
 }
 
 TEST_F(KindoraTableViewControllerTest, AsksToSelectFriends) {
