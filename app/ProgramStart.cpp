@@ -12,6 +12,8 @@
 
 namespace kindora {
 
+void leaveNothingBehind() { QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache); }
+
 void startProgram(const ProgramIdentity& identity) {
   QGuiApplication::setApplicationName(identity.name);
   QGuiApplication::setApplicationDisplayName(identity.displayName);

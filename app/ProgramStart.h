@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // What every program of this tree does between its entry point and its first screen.
 //
+//   leaveNothingBehind();
+//   const QGuiApplication application(argc, argv);
 //   startProgram({.name = "kindora", .displayName = "Kindora"});
 //   ... make a window and its root controller ...
 //   return showWindows(engine, QUrl("qrc:/qt/qml/Kindora/Main/Main.qml"));
@@ -18,6 +20,9 @@ struct ProgramIdentity {
   QString displayName;
   QString desktopFileName = {};
 };
+
+/// Keeps Qt from storing compiled shaders on the disk. Before the QGuiApplication is made.
+void leaveNothingBehind();
 
 /// Names the program, gives it the icon, and installs the services and the phone formats. Once, in
 /// a QGuiApplication, before anything else of the program is made.

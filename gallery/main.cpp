@@ -11,6 +11,7 @@
 
 int main(int argc, char* argv[]) {
   using namespace kindora;
+  leaveNothingBehind();
   const QGuiApplication application(argc, argv);
   startProgram({.name = QStringLiteral("kindora-gallery"),
                 .displayName = QStringLiteral("Kindora Gallery")});

@@ -3,9 +3,11 @@
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 
+#include "app/ProgramStart.h"
 #include "main/Launch.h"
 
 int main(int argc, char* argv[]) {
+  kindora::leaveNothingBehind();
   const QGuiApplication application(argc, argv);
   QQmlApplicationEngine engine;
   return kindora::launch(engine) ? QGuiApplication::exec() : EXIT_FAILURE;

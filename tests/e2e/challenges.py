@@ -37,6 +37,19 @@ class ChallengeTest(kindora_e2e.AppTest):
     def shake(self):
         self.app.key("ctrl+shift+k")
 
+    def focused(self):
+        """Where the keyboard is."""
+        return [node.name for node in self.app.find_all() if node.has("focused")]
+
+    def pass_tab(self):
+        """Presses Tab and waits until the keyboard has gone on: then the app has heard of all that
+        was done before."""
+        before = self.focused()
+        self.app.key("Tab")
+        kindora_e2e.wait_until(
+            lambda: self.focused() not in ([], before), f"Tab moves the keyboard from {before}"
+        )
+
     def open(self, row):
         """Opens a row's screen and waits until it stands still."""
         self.app.click(self.app.wait_still(self.app.wait_for(row)))

@@ -349,7 +349,6 @@ class App:
             HOME=str(self.home),
             QT_QPA_PLATFORM="xcb",
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
-            MESA_SHADER_CACHE_DISABLE="true",
         )
         if "QSG_RENDER_LOOP" in os.environ:
             kept["QSG_RENDER_LOOP"] = os.environ["QSG_RENDER_LOOP"]
@@ -428,6 +427,16 @@ class App:
 
     def kill(self):
         _end(self.process)
+
+    def left_behind(self):
+        """The files that are there because the app has run, but for those of the graphics driver,
+        which keeps what it has compiled for every program of the machine."""
+        files = (path.relative_to(self.home) for path in self.home.rglob("*") if path.is_file())
+        return sorted(
+            str(file)
+            for file in files
+            if not any(part.startswith("mesa_shader_cache") for part in file.parts)
+        )
 
     def output(self):
         """All that the app has printed, on either stream."""

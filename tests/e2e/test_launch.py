@@ -21,7 +21,7 @@ class Launch(kindora_e2e.AppTest):
     def test_no_file_is_left_behind(self):
         self.app.wait_for("Challenges", role="page tab")
         self.assertEqual(self.app.close(), 0)
-        self.assertEqual(sorted(self.app.home.rglob("*")), [])
+        self.assertEqual(self.app.left_behind(), [])
 
     def test_a_second_start_shows_the_same_list(self):
         self.app.wait_for("Sarah the Sloth")

@@ -85,15 +85,16 @@ class Reveal(ChallengeTest):
         self.app.key("alt+Left")
         self.app.drag([(3, 600), (300, 600)])
         self.app.click(self.app.wait_for("Challenges", role="page tab"))
-        self.app.key("Tab")
+        # Takes longer than any way back would have taken, and works nowhere else.
+        self.reveal()
         self.assertIsNotNone(self.app.find(f"{BOB} challenged you!"))
         self.assertIsNone(self.app.find("Challenges", role="heading"))
 
     def test_a_shake_is_not_heard_here(self):
+        back = self.app.wait_for("Back", role="push button").centre
         self.shake()
-        self.app.key("Tab")
-        self.assertIsNone(self.app.find(role="alert"))
-        self.app.click(self.app.wait_for("Back", role="push button"))
+        # An announcement would keep this press from the button.
+        self.app.click(back)
         self.back_to_list()
         self.wait_rows(BOB, JOE, SARAH, BREATH, COMPLIMENT)
 
