@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Kindora developers
 # SPDX-License-Identifier: Apache-2.0
 #
-# tests/phoneformat/tool-test.sh PROGRAM
+# tests/phoneformat/tool/tool-test.sh PROGRAM
 #
 # Calls the command-line tool as a person would and compares what it prints and how it leaves.
 set -euo pipefail
