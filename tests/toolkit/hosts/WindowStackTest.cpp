@@ -10,6 +10,7 @@
 
 #include "platform/fakes/FakeServices.h"
 #include "tests/support/ManualTime.h"
+#include "tests/support/QtWarnings.h"
 #include "tests/support/QuickFixture.h"
 #include "toolkit/controllers/UIApplication.h"
 #include "toolkit/controllers/UIViewController.h"
@@ -89,18 +90,10 @@ class PlainDelegate final : public UIViewControllerTransitioningDelegate {
   }
 };
 
-QStringList& warnings() {
-  static QStringList list;
-  return list;
-}
-
 // The app's window, and an alert's window to be shown above it.
 class WindowStackTest : public QuickFixture {
  protected:
   WindowStackTest() {
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
-      if (type != QtDebugMsg && type != QtInfoMsg) warnings() << text;
-    });
     QAccessible::setActive(true);
     QFile file(folder.filePath(QStringLiteral("Page.qml")));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
@@ -122,10 +115,6 @@ class WindowStackTest : public QuickFixture {
          {QStringLiteral("height"), 100},
          {QStringLiteral("parent"), QVariant::fromValue(window.contentItem())}})));
     EXPECT_NE(stack, nullptr) << component.errorString().toStdString();
-  }
-  ~WindowStackTest() override {
-    qInstallMessageHandler(nullptr);
-    EXPECT_EQ(warnings().join(u'\n').toStdString(), "");
   }
 
   void showAlert() {
@@ -168,6 +157,7 @@ class WindowStackTest : public QuickFixture {
     return reaches(QAccessible::queryAccessibleInterface(&window), QStringLiteral("the field"));
   }
 
+  const QtWarnings warnings;
   const FakeServices fakes = installFakeServices();
   ManualTime time{fakes.mainQueue};
   const QTemporaryDir folder;

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/toolkit/hosts/HostFixture.h"
+#include "toolkit/controllers/UINavigationController.h"
+
+namespace kindora {
+namespace {
+
+const QString kOne = QStringLiteral("One");
+const QString kTwo = QStringLiteral("Two");
+
+// A stack whose lowest page is called "One".
+class NavigationHostTest : public HostFixture {
+ protected:
+  NavigationHostTest() { drawHost("NavigationHost", navigation.get()); }
+  void push(bool animated) {
+    navigation->pushViewController(screen(kTwo), animated);
+    time.settle();
+  }
+  void swipeFromTheEdge(int to) {
+    drag({3, 300}, {to, 300});
+    time.advance(0.5);
+  }
+  [[nodiscard]] std::size_t depth() const { return navigation->viewControllers().size(); }
+
+  const std::shared_ptr<UINavigationController> navigation =
+      makeViewController<UINavigationController>(screen(kOne));
+};
+
+TEST_F(NavigationHostTest, ThePageFillsTheRoomBelowTheBar) {
+  EXPECT_EQ(place(found(kOne)), QRectF(0, 44, 320, 436));
+  navigation->topViewController()->navigationItem()->setPrompt(QStringLiteral("Prompt"));
+  EXPECT_EQ(place(found(kOne)), QRectF(0, 74, 320, 406));
+}
+
+TEST_F(NavigationHostTest, APageComesInFromTheRightAndHidesTheOneBelow) {
+  push(true);
+  EXPECT_NEAR(place(found(kTwo)).left(), 320, 1);
+  time.advance(0.1);
+  EXPECT_LT(place(found(kTwo)).left(), 320);
+  EXPECT_GT(place(found(kTwo)).left(), 0);
+  EXPECT_LT(place(found(kOne)).left(), 0);
+  EXPECT_TRUE(shows(kOne));
+  time.advance(0.5);
+  EXPECT_EQ(place(found(kTwo)).left(), 0);
+  EXPECT_FALSE(shows(kOne));
+}
+
+TEST_F(NavigationHostTest, APageOnItsWayTakesNoPresses) {
+  push(true);
+  time.advance(0.2);
+  clickAt({310, 300});
+  EXPECT_EQ(found(kTwo)->property("presses").toInt(), 0);
+  time.advance(0.5);
+  clickAt({310, 300});
+  EXPECT_EQ(found(kTwo)->property("presses").toInt(), 1);
+}
+
+TEST_F(NavigationHostTest, APageThatLeavesIsDrawnUntilItHasGone) {
+  push(false);
+  navigation->popViewController(true);
+  time.advance(0.1);
+  EXPECT_TRUE(shows(kTwo));
+  EXPECT_TRUE(shows(kOne));
+  time.advance(0.5);
+  EXPECT_EQ(found(kTwo), nullptr);
+  EXPECT_EQ(place(found(kOne)).left(), 0);
+}
+
+TEST_F(NavigationHostTest, ASwipeFromTheLeftEdgeGoesBack) {
+  push(false);
+  swipeFromTheEdge(250);
+  EXPECT_EQ(depth(), 1U);
+}
+
+TEST_F(NavigationHostTest, ThePageFollowsTheSwipe) {
+  push(false);
+  QTest::mousePress(&window, Qt::LeftButton, {}, {3, 300});
+  for (int x = 3; x <= 163; x += 10) QTest::mouseMove(&window, {x, 300});
+  EXPECT_NEAR(place(found(kTwo)).left(), 160, 25);
+  EXPECT_TRUE(shows(kOne));
+  QTest::mouseRelease(&window, Qt::LeftButton, {}, {163, 300});
+}
+
+TEST_F(NavigationHostTest, AShortSwipeComesToNothing) {
+  push(false);
+  swipeFromTheEdge(70);
+  EXPECT_EQ(depth(), 2U);
+  EXPECT_EQ(place(found(kTwo)).left(), 0);
+}
+
+TEST_F(NavigationHostTest, ASwipeThatBeginsElsewhereDoesNotGoBack) {
+  push(false);
+  drag({40, 300}, {300, 300});
+  time.advance(0.5);
+  EXPECT_EQ(depth(), 2U);
+}
+
+TEST_F(NavigationHostTest, ASwipeDoesNotGoBackWhereTheWayIsHidden) {
+  push(false);
+  navigation->topViewController()->navigationItem()->setHidesBackButton(true);
+  swipeFromTheEdge(250);
+  EXPECT_EQ(depth(), 2U);
+}
+
+}  // namespace
+}  // namespace kindora

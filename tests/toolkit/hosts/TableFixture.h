@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "tests/toolkit/hosts/HostFixture.h"
+#include "toolkit/controllers/UITableViewController.h"
+
+namespace kindora {
+
+/// Under the heading "Friends" a row for each name, read aloud as "row 0" and so on.
+class NamesController final : public UITableViewController {
+ public:
+  std::vector<std::string> names{"Anna", "Bob", "Cleo"};
+  std::set<int> editable;
+  std::set<int> mute;  ///< rows that do nothing when pressed
+  std::vector<int> selected;
+  std::vector<int> deleted;
+
+  NamesController() {
+    setTitle(QStringLiteral("Names"));
+    tableView()->registerCell("cell", [] { return std::make_shared<UITableViewCell>(); });
+  }
+  [[nodiscard]] int numberOfSectionsInTableView() override { return 1; }
+  [[nodiscard]] int tableViewNumberOfRowsInSection(int /*section*/) override {
+    return static_cast<int>(names.size());
+  }
+  [[nodiscard]] std::string tableViewTitleForHeaderInSection(int /*section*/) override {
+    return "Friends";
+  }
+  [[nodiscard]] UITableViewCellRef tableViewCellForRowAtIndexPath(IndexPath path) override {
+    auto cell = tableView()->dequeueReusableCell("cell");
+    cell->setObjectName(QString::fromStdString(names.at(static_cast<std::size_t>(path.row))));
+    return cell;
+  }
+  [[nodiscard]] const void* tableViewIdentityForRowAtIndexPath(IndexPath path) override {
+    return &names.at(static_cast<std::size_t>(path.row));
+  }
+  [[nodiscard]] bool tableViewShouldHighlightRowAtIndexPath(IndexPath path) override {
+    return !mute.contains(path.row);
+  }
+  void tableViewDidSelectRowAtIndexPath(IndexPath path) override { selected.push_back(path.row); }
+  [[nodiscard]] bool tableViewCanEditRowAtIndexPath(IndexPath path) override {
+    return editable.contains(path.row);
+  }
+  [[nodiscard]] std::string tableViewTitleForDeleteConfirmationButtonForRowAtIndexPath(
+      IndexPath path) override {
+    return "Remove " + names.at(static_cast<std::size_t>(path.row));
+  }
+  void tableViewCommitEditingStyleForRowAtIndexPath(UITableViewCellEditingStyle /*style*/,
+                                                    IndexPath path) override {
+    deleted.push_back(path.row);
+  }
+};
+
+/// The table of names; each row is 60 points high and has 8 below it.
+class TableFixture : public HostFixture {
+ protected:
+  void show() {
+    controller->tableView()->reloadData();
+    draw(R"(TableList {
+              id: list
+              objectName: "list"
+              prototypes: ({ "cell": look })
+              Component {
+                id: look
+                TableCell {
+                  implicitHeight: 60
+                  spoken: cell?.objectName ?? ""
+                }
+              }
+            })",
+         {{QStringLiteral("controller"),
+           QVariant::fromValue<UITableViewController*>(controller.get())}});
+  }
+  [[nodiscard]] UITableView& table() const { return *controller->tableView(); }
+  /// The row of that name in the window.
+  [[nodiscard]] QRectF row(const char* name) { return place(spoken(QString::fromLatin1(name))); }
+  void swipe(const char* name, int by) {
+    const QPoint from = row(name).center().toPoint();
+    drag(from, from + QPoint(by, 0));
+    time.advance(0.5);
+  }
+
+  const std::shared_ptr<NamesController> controller = makeViewController<NamesController>();
+};
+
+}  // namespace kindora
