@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+// Every scene's page, drawn with its controller.
+#include <gmock/gmock.h>
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+#include <set>
+#include <string>
+
+#include "screens/badges/BadgeInfoViewController.h"
+#include "screens/inprogress/InProgressChallengeDetailViewController.h"
+#include "screens/newchallenge/NewChallengeDetailViewController.h"
+#include "screens/picker/KindoraTableViewController.h"
+#include "tests/support/PhoneFormatsOf.h"
+#include "tests/support/QtWarnings.h"
+#include "tests/support/app/AppFixture.h"
+#include "toolkit/quick/QtViewServices.h"
+
+namespace kindora {
+namespace {
+
+using ::testing::ElementsAreArray;
+using Names = std::set<std::string>;
+using Prepare = void (*)(UIViewController&, const ChallengeRef&);
+
+// What the screen before this one hands over.
+template <typename Controller>
+void withChallenge(UIViewController& controller, const ChallengeRef& challenge) {
+  dynamic_cast<Controller&>(controller).challenge = challenge;
+}
+void asItIs(UIViewController& /*controller*/, const ChallengeRef& /*challenge*/) {}
+
+struct Scene {
+  const char* name;
+  Prepare prepare;
+};
+
+class MainStoryboardPagesTest : public AppFixture, public ::testing::WithParamInterface<Scene> {
+ protected:
+  MainStoryboardPagesTest() {
+    installViewServices(makeQtViewServices());
+    installPhoneFormatEnvironment(std::make_shared<PhoneFormatsOf>("US"));
+    controller = mainStoryboard().instantiateViewController(GetParam().name);
+    GetParam().prepare(*controller, store().inProgressChallenges[0]);
+    navigation().pushViewController(controller, false);
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    window.resize(390, 750);
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    QQmlComponent component(&engine);
+    component.setData("import Kindora.Toolkit.Hosts\nPageLoader {}", {});
+    loader.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
+        {{QStringLiteral("controller"), QVariant::fromValue(controller.get())},
+         {QStringLiteral("parent"), QVariant::fromValue(window.contentItem())}})));
+    EXPECT_NE(loader, nullptr) << component.errorString().toStdString();
+    loader->setSize({390, 750});
+    time.advance(0.5);
+  }
+
+  // The outlets of the controller that the items show.
+  void collectDrawn(const QQuickItem& item, Names& outlets) const {
+    if (item.property("owner").value<QObject*>() == controller.get()) {
+      outlets.insert(item.property("outlet").toString().toStdString());
+    }
+    for (const QQuickItem* child : item.childItems()) collectDrawn(*child, outlets);
+  }
+  static void collectNamed(const UIView& view, Names& names) {
+    for (const auto& subview : view.subviews()) {
+      if (!subview->name().empty()) names.insert(subview->name());
+      collectNamed(*subview, names);
+    }
+  }
+
+  const QtWarnings warnings;
+  std::shared_ptr<UIViewController> controller;
+  QQmlEngine engine;
+  QQuickWindow window;
+  std::unique_ptr<QQuickItem> loader;
+};
+
+TEST_P(MainStoryboardPagesTest, IsLoadedWithItsControllerAndFillsItsPlace) {
+  const auto* page = loader->property("item").value<QQuickItem*>();
+  ASSERT_NE(page, nullptr);
+  EXPECT_EQ(page->property("controller").value<QObject*>(), controller.get());
+  EXPECT_EQ(page->size(), QSizeF(390, 750));
+}
+
+TEST_P(MainStoryboardPagesTest, DrawsEveryOutlet) {
+  Names drawn;
+  collectDrawn(*loader, drawn);
+  drawn.erase("view");  // what controllers lay over the page
+  Names outlets;
+  collectNamed(*controller->view(), outlets);
+  EXPECT_THAT(drawn, ElementsAreArray(outlets));
+}
+
+TEST_P(MainStoryboardPagesTest, DrawsSomething) {
+  const QImage image = window.grabWindow();
+  std::set<QRgb> colors;
+  for (int y = 0; y < image.height(); y += 5) {
+    for (int x = 0; x < image.width(); x += 5) colors.insert(image.pixel(x, y));
+  }
+  EXPECT_GT(colors.size(), 3U);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Scenes, MainStoryboardPagesTest,
+    ::testing::Values(
+        Scene{"ChallengesTableViewController", asItIs},
+        Scene{"NewChallengeDetailViewController", withChallenge<NewChallengeDetailViewController>},
+        Scene{"InProgressChallengeDetailViewController",
+              withChallenge<InProgressChallengeDetailViewController>},
+        Scene{"BadgesViewController", asItIs},
+        Scene{"BadgeInfoViewController", withChallenge<BadgeInfoViewController>},
+        Scene{"KindoraTableViewController", withChallenge<KindoraTableViewController>},
+        Scene{"InviteFriendTableViewController", asItIs},
+        Scene{"CreateChallengeTableViewController", asItIs}),
+    [](const auto& scene) { return std::string(scene.param.name); });
+
+}  // namespace
+}  // namespace kindora
