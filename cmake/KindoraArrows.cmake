@@ -53,7 +53,8 @@ function(kindora_write_targets FILE)
     endif()
   endwhile()
   list(JOIN lines ",\n" externals_text)
-  file(CONFIGURE OUTPUT ${FILE} CONTENT "{\"targets\": [\n@targets_text@],\n\"external\": {\n@externals_text@}}\n" @ONLY)
+  file(CONFIGURE OUTPUT ${FILE} CONTENT
+       "{\"targets\": [\n@targets_text@],\n\"external\": {\n@externals_text@}}\n" @ONLY)
 endfunction()
 
 # The names that a target links, without generator expressions.
@@ -77,12 +78,17 @@ function(kindora_links OUT TARGET PROPERTY)
     endif()
   endforeach()
   list(REMOVE_DUPLICATES links)
-  set(${OUT} ${links} PARENT_SCOPE)
+  set(${OUT}
+      ${links}
+      PARENT_SCOPE)
 endfunction()
 
 # What is built in a folder and the folders below it, made by our functions or by others.
 function(kindora_targets_below OUT FOLDER)
-  get_property(targets DIRECTORY ${FOLDER} PROPERTY BUILDSYSTEM_TARGETS)
+  get_property(
+    targets
+    DIRECTORY ${FOLDER}
+    PROPERTY BUILDSYSTEM_TARGETS)
   set(built)
   foreach(target IN LISTS targets)
     get_target_property(type ${target} TYPE)
@@ -90,10 +96,15 @@ function(kindora_targets_below OUT FOLDER)
       list(APPEND built ${target})
     endif()
   endforeach()
-  get_property(folders DIRECTORY ${FOLDER} PROPERTY SUBDIRECTORIES)
+  get_property(
+    folders
+    DIRECTORY ${FOLDER}
+    PROPERTY SUBDIRECTORIES)
   foreach(folder IN LISTS folders)
     kindora_targets_below(more ${folder})
     list(APPEND built ${more})
   endforeach()
-  set(${OUT} ${built} PARENT_SCOPE)
+  set(${OUT}
+      ${built}
+      PARENT_SCOPE)
 endfunction()

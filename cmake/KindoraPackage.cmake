@@ -44,7 +44,10 @@ function(kindora_component NAME)
     if(NOT parts)
       set(parts)
     endif()
-    foreach(part IN ITEMS ${target} LISTS parts)
+    foreach(
+      part IN
+      ITEMS ${target}
+      LISTS parts)
       string(REGEX REPLACE "^kindora_" "" exported ${part})
       set_target_properties(${part} PROPERTIES EXPORT_NAME ${exported})
     endforeach()
@@ -60,7 +63,8 @@ function(kindora_component NAME)
   install(
     EXPORT Kindora-${NAME}
     NAMESPACE Kindora::
-    DESTINATION ${KINDORA_PACKAGE_FOLDER} ${component})
+    DESTINATION ${KINDORA_PACKAGE_FOLDER}
+    ${component})
   kindora_install_needs(${NAME} "${ARG_NEEDS}" "${ARG_PACKAGES}")
 endfunction()
 
@@ -79,35 +83,44 @@ function(kindora_install_headers TARGET COMPONENT WITHOUT)
   list(REMOVE_DUPLICATES folders)
   foreach(folder IN LISTS folders)
     cmake_path(RELATIVE_PATH folder BASE_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_VARIABLE path)
-    file(GLOB headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} ${folder}/*.h)
+    file(
+      GLOB headers CONFIGURE_DEPENDS
+      RELATIVE ${PROJECT_SOURCE_DIR}
+      ${folder}/*.h)
     list(REMOVE_ITEM headers ${WITHOUT})
     list(TRANSFORM headers PREPEND ${PROJECT_SOURCE_DIR}/)
-    install(FILES ${headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kindora/${path}
-            COMPONENT ${COMPONENT} EXCLUDE_FROM_ALL)
+    install(
+      FILES ${headers}
+      DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kindora/${path}
+      COMPONENT ${COMPONENT}
+      EXCLUDE_FROM_ALL)
   endforeach()
 endfunction()
 
-# What other projects' QML tools read of the module (programs have all of it in their resources), and
-# what their own QML types must know of its classes to derive from them.
+# What other projects' QML tools read of the module (programs have all of it in their resources),
+# and what their own QML types must know of its classes to derive from them.
 function(kindora_install_qml_module TARGET COMPONENT)
   get_target_property(output ${TARGET} QT_QML_MODULE_OUTPUT_DIRECTORY)
   get_target_property(path ${TARGET} QT_QML_MODULE_TARGET_PATH)
   install(
     DIRECTORY ${output}/
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/kindora/qml/${path}
-    COMPONENT ${COMPONENT} EXCLUDE_FROM_ALL FILES_MATCHING
+    COMPONENT ${COMPONENT}
+    EXCLUDE_FROM_ALL FILES_MATCHING
     PATTERN "qmldir"
     PATTERN "*.qmltypes"
     PATTERN "*.qml")
   get_target_property(metatypes ${TARGET} INTERFACE_QT_META_TYPES_BUILD_FILE)
   set(folder ${CMAKE_INSTALL_LIBDIR}/kindora/metatypes)
   cmake_path(GET metatypes FILENAME name)
-  install(FILES ${metatypes} DESTINATION ${folder} COMPONENT ${COMPONENT} EXCLUDE_FROM_ALL)
+  install(
+    FILES ${metatypes}
+    DESTINATION ${folder}
+    COMPONENT ${COMPONENT}
+    EXCLUDE_FROM_ALL)
   set(wants_them $<BOOL:$<TARGET_PROPERTY:QT_CONSUMES_METATYPES>>)
   target_sources(
-    ${TARGET}
-    INTERFACE
-      $<INSTALL_INTERFACE:$<${wants_them}:$<INSTALL_PREFIX>/${folder}/${name}>>)
+    ${TARGET} INTERFACE $<INSTALL_INTERFACE:$<${wants_them}:$<INSTALL_PREFIX>/${folder}/${name}>>)
 endfunction()
 
 # Installs with the component those that it needs, and a file that tells which they are.
@@ -128,7 +141,8 @@ function(kindora_install_needs COMPONENT NEEDS PACKAGES)
       CODE "set(CMAKE_INSTALL_COMPONENT ${need})
   include(\"${CMAKE_CURRENT_BINARY_DIR}/cmake_install.cmake\")
   set(CMAKE_INSTALL_COMPONENT ${COMPONENT})"
-      COMPONENT ${COMPONENT} EXCLUDE_FROM_ALL)
+      COMPONENT ${COMPONENT}
+      EXCLUDE_FROM_ALL)
   endforeach()
   list(APPEND components ${COMPONENT})
   list(APPEND packages ${PACKAGES})
@@ -137,8 +151,10 @@ function(kindora_install_needs COMPONENT NEEDS PACKAGES)
   set_property(GLOBAL PROPERTY KINDORA_PACKAGES_OF_${COMPONENT} ${packages})
   file(
     CONFIGURE
-    OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/Needs-${COMPONENT}.cmake
-    CONTENT [[
+    OUTPUT
+    ${CMAKE_CURRENT_BINARY_DIR}/Needs-${COMPONENT}.cmake
+    CONTENT
+    [[
 set(_kindora_components "@components@")
 set(_kindora_packages "@packages@")
 ]]
@@ -148,10 +164,12 @@ set(_kindora_packages "@packages@")
           ${CMAKE_CURRENT_BINARY_DIR}/KindoraConfigVersion.cmake
           ${CMAKE_CURRENT_BINARY_DIR}/Needs-${COMPONENT}.cmake
     DESTINATION ${KINDORA_PACKAGE_FOLDER}
-    COMPONENT ${COMPONENT} EXCLUDE_FROM_ALL)
+    COMPONENT ${COMPONENT}
+    EXCLUDE_FROM_ALL)
   # Each carries the licence, since each may be all that is installed.
   install(
     FILES ${PROJECT_SOURCE_DIR}/LICENSE
     DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/kindora-${COMPONENT}
-    COMPONENT ${COMPONENT} EXCLUDE_FROM_ALL)
+    COMPONENT ${COMPONENT}
+    EXCLUDE_FROM_ALL)
 endfunction()

@@ -13,17 +13,55 @@
 
 set(KINDORA_LEVELS std qt qml quick)
 set(KINDORA_HEADERS_std
-    <algorithm> <array> <chrono> <cmath> <cstdint> <functional> <limits> <map> <memory> <optional>
-    <set> <span> <string> <string_view> <utility> <variant> <vector>)
+    <algorithm>
+    <array>
+    <chrono>
+    <cmath>
+    <cstdint>
+    <functional>
+    <limits>
+    <map>
+    <memory>
+    <optional>
+    <set>
+    <span>
+    <string>
+    <string_view>
+    <utility>
+    <variant>
+    <vector>)
 set(KINDORA_HEADERS_qt ${KINDORA_HEADERS_std})
 set(KINDORA_HEADERS_qml
-    ${KINDORA_HEADERS_std} <QAbstractListModel> <QColor> <QCoreApplication> <QFont> <QObject> <QPointer>
-    <QString> <QTimer> <QUrl> <QVariant> <QVariantAnimation> <QtQml/qqml.h> <QtQml/qqmllist.h>
-    <QtQml/qqmlmoduleregistration.h> <QtQml/qqmlregistration.h>)
+    ${KINDORA_HEADERS_std}
+    <QAbstractListModel>
+    <QColor>
+    <QCoreApplication>
+    <QFont>
+    <QObject>
+    <QPointer>
+    <QString>
+    <QTimer>
+    <QUrl>
+    <QVariant>
+    <QVariantAnimation>
+    <QtQml/qqml.h>
+    <QtQml/qqmllist.h>
+    <QtQml/qqmlmoduleregistration.h>
+    <QtQml/qqmlregistration.h>)
 # What sources compiled from QML include, and items.
 set(KINDORA_HEADERS_quick
-    ${KINDORA_HEADERS_qml} <QDateTime> <QJSEngine> <QImage> <QQmlComponent> <QQmlContext> <QQmlEngine>
-    <QQuickItem> <QQuickWindow> <QSGNode> <QtQml/qjsprimitivevalue.h> <QtQml/qqmlprivate.h>)
+    ${KINDORA_HEADERS_qml}
+    <QDateTime>
+    <QJSEngine>
+    <QImage>
+    <QQmlComponent>
+    <QQmlContext>
+    <QQmlEngine>
+    <QQuickItem>
+    <QQuickWindow>
+    <QSGNode>
+    <QtQml/qjsprimitivevalue.h>
+    <QtQml/qqmlprivate.h>)
 set(KINDORA_LINKS_std)
 set(KINDORA_LINKS_qt Qt6::Core)
 set(KINDORA_LINKS_qml Qt6::Gui Qt6::Qml)
@@ -52,7 +90,9 @@ function(kindora_level OUT)
     endif()
   endforeach()
   list(GET KINDORA_LEVELS ${highest} level)
-  set(${OUT} ${level} PARENT_SCOPE)
+  set(${OUT}
+      ${level}
+      PARENT_SCOPE)
 endfunction()
 
 # kindora_precompile(TARGET LEVEL [TESTS])
@@ -67,7 +107,8 @@ function(kindora_precompile TARGET LEVEL)
     string(APPEND name _tests)
   endif()
   if(NOT TARGET ${name})
-    file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/headers/Empty.cpp CONTENT "int main() { return 0; }\n")
+    file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/headers/Empty.cpp CONTENT
+         "int main() { return 0; }\n")
     if(ARG_TESTS)
       add_executable(${name} EXCLUDE_FROM_ALL ${CMAKE_BINARY_DIR}/headers/Empty.cpp)
       kindora_test_options(${name})

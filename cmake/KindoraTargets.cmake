@@ -10,8 +10,11 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 option(KINDORA_WERROR "Make warnings errors; for this project's own developers" OFF)
 option(KINDORA_COMPILE_QML "Compile QML files ahead of time, as what ships has them" ON)
-option(KINDORA_PRECOMPILE_HEADERS "Parse the headers of libraries once instead of in each source" ON)
-set(KINDORA_SANITIZE "" CACHE STRING "Sanitizers to build with, for instance address,undefined")
+option(KINDORA_PRECOMPILE_HEADERS "Parse the headers of libraries once instead of in each source"
+       ON)
+set(KINDORA_SANITIZE
+    ""
+    CACHE STRING "Sanitizers to build with, for instance address,undefined")
 option(KINDORA_COVERAGE "Instrument for gcov" OFF)
 
 find_package(Threads REQUIRED)
@@ -22,8 +25,16 @@ add_library(kindora_options INTERFACE)
 # Contraction would let the compiler fuse a * b + c and change results between machines.
 target_compile_options(
   kindora_options
-  INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
-            -Wno-missing-field-initializers -ffp-contract=off)
+  INTERFACE
+    -Wall
+    -Wextra
+    -Wpedantic
+    -Wshadow
+    -Wconversion
+    -Wnon-virtual-dtor
+    -Woverloaded-virtual
+    -Wno-missing-field-initializers
+    -ffp-contract=off)
 if(KINDORA_WERROR)
   target_compile_options(kindora_options INTERFACE -Werror)
 endif()
@@ -46,8 +57,9 @@ if(KINDORA_COVERAGE)
 endif()
 
 # kindora_library(NAME SOURCES file... [LINKS target...])
-# Makes the target kindora_NAME with the alias Kindora::NAME. Headers are included by their path from
-# the top folder. What LINKS does not name, directly or through others, is refused by check_arrows.
+# Makes the target kindora_NAME with the alias Kindora::NAME. Headers are included by their path
+# from the top folder. What LINKS does not name, directly or through others, is refused by
+# check_arrows.
 function(kindora_library NAME)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_library(kindora_${NAME} STATIC ${ARG_SOURCES})
@@ -63,9 +75,11 @@ function(kindora_library NAME)
   kindora_precompile(kindora_${NAME} ${LEVEL})
 endfunction()
 
-# kindora_qml_module(NAME URI uri [SOURCES file...] [QML file...] [IMPORTS uri...] [LINKS target...])
-# Makes kindora_NAME with the alias Kindora::NAME, a static library that is a QML module too. IMPORTS
-# names the modules that come with it wherever it is imported. Programs that link it can import it.
+# kindora_qml_module(NAME URI uri [SOURCES file...] [QML file...] [IMPORTS uri...]
+#                    [LINKS target...])
+# Makes kindora_NAME with the alias Kindora::NAME, a static library that is a QML module too.
+# IMPORTS names the modules that come with it wherever it is imported. Programs that link it can
+# import it.
 function(kindora_qml_module NAME)
   cmake_parse_arguments(ARG "" "URI" "SOURCES;QML;IMPORTS;LINKS" ${ARGN})
   foreach(FILE IN LISTS ARG_QML)
@@ -99,12 +113,10 @@ function(kindora_qml_module NAME)
     DEPENDENCIES QtQuick
     SOURCES ${ARG_SOURCES}
     QML_FILES ${ARG_QML}
-    OUTPUT_TARGETS PARTS
-    ${CACHEGEN})
+    OUTPUT_TARGETS PARTS ${CACHEGEN})
   # Whoever links the module has its plugin too, and with it what makes it known to QML.
-  target_link_libraries(
-    kindora_${NAME} INTERFACE $<BUILD_INTERFACE:kindora_${NAME}plugin>
-                              $<INSTALL_INTERFACE:Kindora::${NAME}plugin>)
+  target_link_libraries(kindora_${NAME} INTERFACE $<BUILD_INTERFACE:kindora_${NAME}plugin>
+                                                  $<INSTALL_INTERFACE:Kindora::${NAME}plugin>)
   set_target_properties(kindora_${NAME} PROPERTIES KINDORA_MODULE_PARTS
                                                    "kindora_${NAME}plugin;${PARTS}")
   kindora_level(LEVEL Qt6::Qml ${ARG_LINKS})

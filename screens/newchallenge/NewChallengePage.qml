@@ -19,7 +19,8 @@ Rectangle {
     readonly property real blockTop: sender.y + sender.height + 16
     readonly property real blockHeight: side + 16 + name.height + 8 + description.height + 16 + 50
     readonly property real centredY: Math.max(blockTop, (height - side) / 2)
-    readonly property real closedY: blockTop + Math.max(0, (height - blockTop - blockHeight - 24) * 0.4)
+    readonly property real closedY: blockTop
+                                    + Math.max(0, (height - blockTop - blockHeight - 24) * 0.4)
 
     color: Qt.rgba(0.96, 0.96, 0.96, 1)
 

@@ -83,7 +83,8 @@ FocusScope {
                     enabled = true;
                 }
             }
-            onTranslationChanged: if (active) root.controller.moveBackGesture(1 - translation.x / root.width)
+            onTranslationChanged: if (active)
+                root.controller.moveBackGesture(1 - translation.x / root.width)
         }
     }
 }

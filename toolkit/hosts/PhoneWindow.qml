@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 
-// A program's window: a phone's screen, centred where there is more room, with all the app's windows
-// in it.
+// A program's window: a phone's screen, centred where there is more room, with all the app's
+// windows in it.
 Window {
     id: root
 

@@ -15,7 +15,8 @@ T.TabButton {
     implicitHeight: 49
     focusPolicy: Qt.StrongFocus
     text: root.item.title
-    Accessible.name: root.item.badgeValue !== "" ? root.text + ", " + root.item.badgeValue : root.text
+    Accessible.name: root.item.badgeValue !== "" ? root.text + ", " + root.item.badgeValue
+                                                 : root.text
     Accessible.selected: root.selected
     Accessible.selectable: true
 

@@ -16,8 +16,8 @@ ListView {
     currentIndex: -1
     clip: true
     boundsBehavior: Flickable.DragAndOvershootBounds
-    // Rows ahead of the visible ones would come by a pause that Qt cannot end without a warning when
-    // nothing else is animated.
+    // Rows ahead of the visible ones would come by a pause that Qt cannot end without a warning
+    // when nothing else is animated.
     cacheBuffer: 0
     Accessible.role: Accessible.List
     Accessible.name: root.controller.title
@@ -42,12 +42,16 @@ ListView {
     add: Transition {
         enabled: root.controller.tableView.animatesChanges
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: 300 }
-        NumberAnimation { property: "scale"; from: 0.8; to: 1; duration: 300; easing.type: Easing.OutBack }
+        NumberAnimation {
+            property: "scale"; from: 0.8; to: 1; duration: 300; easing.type: Easing.OutBack
+        }
     }
     remove: Transition {
         enabled: root.controller.tableView.animatesChanges
         NumberAnimation { property: "opacity"; to: 0; duration: 200 }
-        NumberAnimation { property: "x"; to: -root.width; duration: 250; easing.type: Easing.InQuad }
+        NumberAnimation {
+            property: "x"; to: -root.width; duration: 250; easing.type: Easing.InQuad
+        }
     }
     displaced: Transition {
         enabled: root.controller.tableView.animatesChanges

@@ -4,7 +4,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Kindora.Toolkit.Quick
 
-// One line of a table: a header, or a card that is pressed and, where it can be edited, swiped aside.
+// One line of a table: a header, or a card that is pressed and, where it can be edited, swiped
+// aside.
 Item {
     id: root
 
@@ -22,7 +23,9 @@ Item {
     readonly property bool open: root.table.editingRow === root.index
     readonly property real openWidth: 104
 
-    height: root.isHeader ? 44 : content.implicitHeight + ((prototype.item as TableCell)?.spaceBelow ?? 0)
+    height: root.isHeader
+            ? 44
+            : content.implicitHeight + ((prototype.item as TableCell)?.spaceBelow ?? 0)
 
     Loader {
         active: root.isHeader

@@ -36,7 +36,8 @@ ScrollViewItem {
         objectName: "scrollIndicator"
         visible: flick.visibleArea.heightRatio < 1 && root.scrollable
         x: root.width - width - 2
-        y: 2 + Math.max(0, Math.min(1 - flick.visibleArea.heightRatio, flick.visibleArea.yPosition)) * (root.height - 4)
+        y: 2 + Math.max(0, Math.min(1 - flick.visibleArea.heightRatio, flick.visibleArea.yPosition))
+           * (root.height - 4)
         width: 3
         height: Math.max(16, flick.visibleArea.heightRatio * (root.height - 4))
         radius: 1.5
@@ -45,7 +46,8 @@ ScrollViewItem {
 
     Rectangle {
         visible: flick.visibleArea.widthRatio < 1 && root.scrollable
-        x: 2 + Math.max(0, Math.min(1 - flick.visibleArea.widthRatio, flick.visibleArea.xPosition)) * (root.width - 4)
+        x: 2 + Math.max(0, Math.min(1 - flick.visibleArea.widthRatio, flick.visibleArea.xPosition))
+           * (root.width - 4)
         y: root.height - height - 2
         width: Math.max(16, flick.visibleArea.widthRatio * (root.width - 4))
         height: 3

@@ -72,7 +72,8 @@ TextInputItem {
             // Tab goes on to the next control, as everywhere.
             KeyNavigation.priority: KeyNavigation.BeforeItem
             Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
-            Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+            Keys.onBacktabPressed:
+                nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
 
             PlainText {
                 x: area.leftPadding
