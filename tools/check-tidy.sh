@@ -24,8 +24,8 @@ files=("$@")
 if [[ ${#files[@]} -eq 0 ]]; then
   mapfile -t files < <(
     comm -12 \
-      <(git ls-files -- 'alerts/*.cpp' 'app/*.cpp' 'effects/*.cpp' 'model/*.cpp' 'phoneformat/*.cpp' 'platform/*.cpp' \
-        'screens/*.cpp' |
+      <(git ls-files -- {alerts,app,effects,gallery,layout,main,model,phoneformat}'/*.cpp' \
+        {platform,screens,toolkit}'/*.cpp' |
         sort) \
       <(sed -n "s|^ *\"file\": \"$PWD/\(.*\)\",\{0,1\}\$|\1|p" "$build/compile_commands.json" | sort -u)
   )
@@ -45,7 +45,10 @@ tidy() {
   return "$status"
 }
 export -f tidy
-BUILD=$build
+# Headers that another compiler has precompiled are no use to clang.
+BUILD=$(mktemp -d)
+trap 'rm -rf -- "$BUILD"' EXIT
+sed -E 's/ -include (\\"[^"]*\\"|[^ "]*)//' "$build/compile_commands.json" >"$BUILD/compile_commands.json"
 export BUILD
 # shellcheck disable=SC2016  # the inner shell is to expand it
 printf '%s\0' "${files[@]}" | xargs -0 -n 1 -P "$(nproc)" bash -c 'tidy "$1"' tidy
