@@ -4,9 +4,9 @@
 //
 //   leaveNothingBehind();
 //   const QGuiApplication application(argc, argv);
-//   startProgram({.name = "kindora", .displayName = "Kindora"});
-//   ... make a window and its root controller ...
-//   return showWindows(engine, QUrl("qrc:/qt/qml/Kindora/Main/Main.qml"));
+//   startProgram({.name = QStringLiteral("kindora"), .displayName = QStringLiteral("Kindora")});
+//   // Make a window and its root controller here.
+//   return showWindows(engine, QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Main/Main.qml")));
 #pragma once
 
 #include <QQmlApplicationEngine>

@@ -13,8 +13,10 @@ namespace kindora {
 
 /// Passes on what happens to whoever wants to hear of it, by name. Main thread only.
 ///
-///     subscription_ = center.observe("...", [this](const std::any& info) { ... });
-///     center.post("...", std::any(size));
+///     subscription_ = center.observe("resized", [this](const std::any& info) {
+///       take(std::any_cast<CGSize>(info));
+///     });
+///     center.post("resized", std::any(size));
 class NotificationCenter {
  public:
   using Observer = std::function<void(const std::any& info)>;

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // A question or a message on a card above everything else.
 //
-//   const auto alert = QavAlertController::alertControllerWithTitle("Delete?", "For good.", 1);
+//   const auto alert = QavAlertController::alertControllerWithTitle(
+//       "Delete?", "For good.", QavAlertControllerStyle::alert);
 //   alert->addAction(QavAlertAction::actionWithTitle("Keep", QavAlertActionStyle::cancel));
 //   alert->addAction(QavAlertAction::actionWithTitle("Delete", QavAlertActionStyle::destructive,
 //                                                    [](QavAlertAction&) { ... }));

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 // One linear relation between two sizes or edges of views:
-//
-//   first.attribute (relation) multiplier * second.attribute + constant
+// "first.attribute (relation) multiplier * second.attribute + constant".
 //
 // It has an effect while a view holds it (UIView::addConstraint) that is, or has inside it, all
 // views that it names, and while at least one of them is placed by constraints. Left and right are
