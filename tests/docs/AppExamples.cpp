@@ -8,7 +8,7 @@ namespace kindora {
 namespace {
 
 // Compiled alone: it is a whole program's start.
-[[maybe_unused]] bool start(QQmlApplicationEngine& engine) {
+[[maybe_unused]] bool start(int argc, char* argv[], QQmlApplicationEngine& engine) {
 #include "examples/app/ProgramStart.h.1"
 }
 
