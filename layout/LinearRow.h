@@ -8,11 +8,11 @@
 
 namespace kindora::layout {
 
-/// What a tableau counts in; small numbers from 0 on, used again once released.
+/// Names a variable of a tableau; small numbers from 0 on, used again once released.
 using Symbol = std::int32_t;
 inline constexpr Symbol kNoSymbol = -1;
 
-/// A symbol and its coefficient.
+/// A variable and its coefficient.
 struct Cell {
   Symbol symbol = kNoSymbol;
   double coefficient = 0;

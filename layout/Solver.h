@@ -25,6 +25,7 @@
 #include <vector>
 
 #include "layout/Constraint.h"
+#include "layout/Definitions.h"
 #include "layout/Tableau.h"
 #include "layout/Variable.h"
 
@@ -63,39 +64,20 @@ class Solver final {
   /// As of the last update. 0 for a variable that no constraint holds, that is new, or that is not
   /// known.
   [[nodiscard]] double value(Variable variable) const {
-    const bool isKnown = variable.index < values_.size() &&
-                         values_[variable.index].generation == variable.generation;
-    return isKnown ? values_[variable.index].value : 0;
+    return isKnown(variable) ? variables_[variable.index].value : 0;
   }
 
  private:
-  using Index = std::uint32_t;
-  static constexpr Index kNone = ~Index{0};
+  using Index = Definitions::Index;
+  static constexpr Index kNone = Definitions::kNone;
 
-  // A constraint that names a variable, and as which of its terms.
-  struct Use {
-    Index constraint = kNone;
-    Index term = 0;
-  };
-  struct Value {
-    std::uint32_t generation = 1;
-    double value = 0;
-  };
   struct VariableRecord {
-    std::vector<Use> uses;
-    Index definition = kNone;     // the constraint that defines it
+    double value = 0;
+    std::uint32_t generation = 1;
     Symbol symbol = kNoSymbol;    // while a constraint of the tableau rests on it
-    std::uint32_t leafCount = 0;  // the constraints that do
-    std::uint32_t mark = 0;
+    std::uint32_t restCount = 0;  // how many do
     bool isHeld = true;
-    bool mayReachTableau = false;  // over definitions; never wrongly false
     bool isDirty = false;
-    double amount = 0;  // scratch of a walk
-  };
-  struct HeldTerm {
-    Index variable = kNone;
-    Index use = 0;  // its place among the variable's uses
-    double coefficient = 0;
   };
   enum class Kind : std::uint8_t { unused, empty, definition, tableau };
   struct ConstraintRecord {
@@ -103,70 +85,45 @@ class Solver final {
     Kind kind = Kind::unused;
     Relation relation = Relation::equal;
     bool isRequired = true;
-    Index subject = 0;  // the term of the variable that it defines
-    double constant = 0;
-    std::vector<HeldTerm> terms;
-    Tableau::Markers markers;
-    std::vector<Index> leaves;  // the undefined variables on which it rests
-  };
-  // A sum over undefined variables and a constant.
-  struct Expansion {
-    std::vector<Index> leaves;
-    std::vector<Cell> cells;  // parallel to the leaves
-    double constant = 0;
-  };
-  // A place in a walk over definitions.
-  struct Step {
-    Index variable = kNone;
-    Index next = 0;
+    Tableau::Slacks slacks;
+    std::vector<Index> leaves;  // on which it rests
   };
 
-  [[nodiscard]] bool isKnown(Variable variable) const;
+  [[nodiscard]] bool isKnown(Variable variable) const {
+    return variable.index < variables_.size() && variables_[variable.index].isHeld &&
+           variables_[variable.index].generation == variable.generation;
+  }
   [[nodiscard]] bool isKnown(ConstraintId id) const;
   [[nodiscard]] Outcome merge(const Constraint& constraint);
   [[nodiscard]] Index takeConstraint();
   void freeConstraint(Index index);
-  void attach(Index index);
-  void detach(Index index);
 
   [[nodiscard]] Index definableTerm();
-  [[nodiscard]] bool othersRestOn(Index variable);
-  void define(Index index, Index subject);
   void undefine(Index index);
-  [[nodiscard]] bool enterTableau(Index index, std::optional<double> strength);
+  [[nodiscard]] bool enterTableau(Index index, double constant, std::optional<double> strength);
   void leaveTableau(Index index);
-  void promote(Index index, std::span<const Index> reached, std::span<const Tableau::Shift> shifts);
+  void promote(Index index, std::span<const Definitions::Movement> moved);
+  [[nodiscard]] std::vector<Tableau::Shift> shiftsOf(
+      std::span<const Definitions::Movement> moved) const;
 
-  void beginWalk();
-  [[nodiscard]] bool visit(Index variable);
-  void walkUp(std::span<const HeldTerm> terms, Index except);
-  void walkDown(Index variable);
-  void markReaching();
-  [[nodiscard]] Expansion expand(std::span<const HeldTerm> terms, Index except);
-  [[nodiscard]] std::vector<Index> reachedFrom(Index variable);
-  [[nodiscard]] std::vector<Tableau::Shift> influence(Index variable, double amount,
-                                                      std::span<const Index> reached);
+  void restOn(const Definitions::Expansion& sum);
   void hold(Index leaf);
   void release(Index leaf);
   void markDirty(Index variable);
-  [[nodiscard]] double evaluate(const ConstraintRecord& definition) const;
+  [[nodiscard]] double evaluate(const Definitions::Constraint& definition) const;
 
+  Definitions definitions_;
   Tableau tableau_;
-  std::vector<Value> values_;  // apart from the records, since reading is frequent
   std::vector<VariableRecord> variables_;
   std::vector<Index> freeVariables_;
   std::vector<ConstraintRecord> constraints_;
   std::vector<Index> freeConstraints_;
-  std::vector<Index> bySymbol_;  // the variable of an external symbol
+  std::vector<Index> bySymbol_;  // the variable of a free symbol
   std::vector<Index> dirty_;
-  std::uint32_t mark_ = 0;
 
   // Scratch, kept for its room.
-  std::vector<HeldTerm> merged_;
-  std::vector<Step> path_;
-  std::vector<Index> order_;  // of the last walk: each variable behind those it was reached for
-  std::vector<Index> above_;
-  std::vector<Index> below_;
+  std::vector<Definitions::Term> merged_;
+  std::vector<Cell> cells_;  // of the expansion that restOn was given
 };
 
 }  // namespace kindora::layout

@@ -9,86 +9,86 @@
 namespace kindora::layout {
 namespace {
 
-constexpr double kTolerance = 1e-8;  // by which a row may miss what it is restricted to
+constexpr double kTolerance = 1e-8;  // by which a basic variable may miss its bound
 constexpr double kTiny = 1e-9;       // what counts as no coefficient
 
 }  // namespace
 
-Tableau::SymbolRecord& Tableau::record(Symbol symbol) {
-  return symbols_[static_cast<std::size_t>(symbol)];
+Tableau::Column& Tableau::column(Symbol symbol) {
+  return columns_[static_cast<std::size_t>(symbol)];
 }
 
-const Tableau::SymbolRecord& Tableau::record(Symbol symbol) const {
-  return symbols_[static_cast<std::size_t>(symbol)];
+const Tableau::Column& Tableau::column(Symbol symbol) const {
+  return columns_[static_cast<std::size_t>(symbol)];
 }
 
 Symbol Tableau::make(Kind kind) {
-  if (freeSymbols_.empty()) {
-    freeSymbols_.push_back(static_cast<Symbol>(symbols_.size()));
-    symbols_.emplace_back();
+  if (unusedSymbols_.empty()) {
+    unusedSymbols_.push_back(static_cast<Symbol>(columns_.size()));
+    columns_.emplace_back();
   }
-  const Symbol symbol = freeSymbols_.back();
-  freeSymbols_.pop_back();
-  record(symbol).kind = kind;
+  const Symbol symbol = unusedSymbols_.back();
+  unusedSymbols_.pop_back();
+  column(symbol).kind = kind;
   return symbol;
 }
 
 void Tableau::release(Symbol symbol) {
   // Rounding may have left cells; the column tells where.
   for (const std::int32_t index : rowsWith(symbol)) row(index).expression.take(symbol);
-  SymbolRecord& released = record(symbol);
+  Column& released = column(symbol);
   released.kind = Kind::unused;
-  released.row = -1;
+  released.basicRow = -1;
   released.strength.reset();
-  released.column.clear();
-  released.cost.clear();
-  freeSymbols_.push_back(symbol);
+  released.rows.clear();
+  released.reducedCost.clear();
+  unusedSymbols_.push_back(symbol);
 }
 
-Symbol Tableau::makeExternal() { return make(Kind::external); }
+Symbol Tableau::makeFree() { return make(Kind::free); }
 
-void Tableau::releaseExternal(Symbol symbol) {
-  if (record(symbol).row >= 0) dropRow(record(symbol).row);
+void Tableau::releaseFree(Symbol symbol) {
+  if (column(symbol).basicRow >= 0) dropRow(column(symbol).basicRow);
   release(symbol);
 }
 
 double Tableau::value(Symbol symbol) const {
-  const std::int32_t index = record(symbol).row;
+  const std::int32_t index = column(symbol).basicRow;
   return index >= 0 ? row(index).expression.constant : 0;
 }
 
 void Tableau::clearChanged() {
-  for (const Symbol symbol : changed_) record(symbol).isChanged = false;
+  for (const Symbol symbol : changed_) column(symbol).isChanged = false;
   changed_.clear();
 }
 
-// Puts the column in order: each row once, and only those that hold the symbol.
+// Puts the column in order: each row once, and only those that have a cell in it.
 const std::vector<std::int32_t>& Tableau::rowsWith(Symbol symbol) {
-  std::vector<std::int32_t>& column = record(symbol).column;
+  Column& ordered = column(symbol);
   ++rowMark_;
-  std::erase_if(column, [this, symbol](std::int32_t index) {
+  std::erase_if(ordered.rows, [this, symbol](std::int32_t index) {
     std::uint32_t& mark = rowMarks_[static_cast<std::size_t>(index)];
     if (mark == rowMark_ || row(index).expression.coefficient(symbol) == 0) return true;
     mark = rowMark_;
     return false;
   });
-  record(symbol).columnLimit = std::max<std::size_t>(16, 2 * column.size());
-  return column;
+  ordered.rowLimit = std::max<std::size_t>(16, 2 * ordered.rows.size());
+  return ordered.rows;
 }
 
 void Tableau::noteCell(Symbol symbol, std::int32_t index) {
-  SymbolRecord& noted = record(symbol);
-  noted.column.push_back(index);
+  Column& noted = column(symbol);
+  noted.rows.push_back(index);
   // Cells come and go; what is stale must not pile up.
-  if (noted.column.size() > noted.columnLimit) static_cast<void>(rowsWith(symbol));
+  if (noted.rows.size() > noted.rowLimit) static_cast<void>(rowsWith(symbol));
 }
 
 bool Tableau::isInfeasible(const Row& row) const {
   if (row.basic == kNoSymbol) return false;
-  switch (record(row.basic).kind) {
+  switch (column(row.basic).kind) {
     case Kind::slack:
       return row.expression.constant < -kTolerance;
-    case Kind::dummy:
+    case Kind::fixed:
       return std::abs(row.expression.constant) > kTolerance;
     default:
       return false;
@@ -97,26 +97,27 @@ bool Tableau::isInfeasible(const Row& row) const {
 
 void Tableau::noteConstant(std::int32_t index) {
   const Row& noted = row(index);
-  if (record(noted.basic).kind == Kind::external) {
+  if (column(noted.basic).kind == Kind::free) {
     noteChange(noted.basic);
   } else if (isInfeasible(noted)) {
     infeasible_.push_back(index);
   }
 }
 
-void Tableau::noteChange(Symbol external) {
-  SymbolRecord& noted = record(external);
+void Tableau::noteChange(Symbol symbol) {
+  Column& noted = column(symbol);
   if (noted.isChanged) return;
   noted.isChanged = true;
-  changed_.push_back(external);
+  changed_.push_back(symbol);
 }
 
-LinearRow Tableau::substituted(std::span<const Cell> cells, double constant) const {
+// The sum with each basic variable replaced by its row.
+LinearRow Tableau::inNonbasics(std::span<const Cell> cells, double constant) const {
   LinearRow result;
   result.constant = constant;
   std::vector<Symbol> added;
   for (const Cell& cell : cells) {
-    const std::int32_t index = record(cell.symbol).row;
+    const std::int32_t index = column(cell.symbol).basicRow;
     if (index >= 0) {
       result.add(row(index).expression, cell.coefficient, added);
     } else {
@@ -126,44 +127,44 @@ LinearRow Tableau::substituted(std::span<const Cell> cells, double constant) con
   return result;
 }
 
-void Tableau::noteCost(Symbol symbol) {
-  SymbolRecord& noted = record(symbol);
-  if (noted.isCandidate || noted.kind != Kind::slack || !noted.cost.isNegative()) return;
+void Tableau::noteReducedCost(Symbol symbol) {
+  Column& noted = column(symbol);
+  if (noted.isCandidate || noted.kind != Kind::slack || !noted.reducedCost.isNegative()) return;
   noted.isCandidate = true;
   candidates_.push_back(symbol);
 }
 
-void Tableau::addCost(Symbol symbol, const SymbolicWeight& cost, double factor) {
-  record(symbol).cost.add(cost, factor);
-  noteCost(symbol);
+void Tableau::addReducedCost(Symbol symbol, const SymbolicWeight& cost, double factor) {
+  column(symbol).reducedCost.add(cost, factor);
+  noteReducedCost(symbol);
 }
 
-// Adds what the symbol weighs as a violation, the factor times, to the costs.
-void Tableau::charge(Symbol symbol, double factor) {
-  const SymbolRecord& charged = record(symbol);
-  if (!charged.strength) return;
-  const double strength = *charged.strength;
-  if (charged.row < 0) {
-    record(symbol).cost.add(strength, factor);
-    noteCost(symbol);
+// Adds what the variable weighs as a violation, the factor times, to the objective.
+void Tableau::addToObjective(Symbol symbol, double factor) {
+  const Column& violation = column(symbol);
+  if (!violation.strength) return;
+  const double strength = *violation.strength;
+  if (violation.basicRow < 0) {
+    column(symbol).reducedCost.add(strength, factor);
+    noteReducedCost(symbol);
     return;
   }
-  for (const Cell& cell : row(charged.row).expression.cells()) {
-    record(cell.symbol).cost.add(strength, factor * cell.coefficient);
-    noteCost(cell.symbol);
+  for (const Cell& cell : row(violation.basicRow).expression.cells()) {
+    column(cell.symbol).reducedCost.add(strength, factor * cell.coefficient);
+    noteReducedCost(cell.symbol);
   }
 }
 
 std::int32_t Tableau::insertRow(Symbol basic, LinearRow expression) {
-  if (freeRows_.empty()) {
-    freeRows_.push_back(static_cast<std::int32_t>(rows_.size()));
+  if (unusedRows_.empty()) {
+    unusedRows_.push_back(static_cast<std::int32_t>(rows_.size()));
     rows_.emplace_back();
     rowMarks_.push_back(0);
   }
-  const std::int32_t index = freeRows_.back();
-  freeRows_.pop_back();
+  const std::int32_t index = unusedRows_.back();
+  unusedRows_.pop_back();
   row(index) = {basic, std::move(expression)};
-  record(basic).row = index;
+  column(basic).basicRow = index;
   // The column of a cell may be put in order here, so the row must be in place already.
   for (const Cell& cell : row(index).expression.cells()) noteCell(cell.symbol, index);
   noteConstant(index);
@@ -171,9 +172,9 @@ std::int32_t Tableau::insertRow(Symbol basic, LinearRow expression) {
 }
 
 void Tableau::dropRow(std::int32_t index) {
-  record(row(index).basic).row = -1;
+  column(row(index).basic).basicRow = -1;
   row(index) = {};
-  freeRows_.push_back(index);
+  unusedRows_.push_back(index);
 }
 
 void Tableau::addCell(std::int32_t index, Symbol symbol, double coefficient) {
@@ -181,23 +182,25 @@ void Tableau::addCell(std::int32_t index, Symbol symbol, double coefficient) {
   noteCell(symbol, index);
 }
 
-// Puts the symbol's own row in its place in all others and in the costs.
-void Tableau::substituteEverywhere(Symbol symbol, std::int32_t index) {
+// Puts the basic variable's row in its place in all other rows and in the objective.
+void Tableau::eliminate(Symbol basic, std::int32_t index) {
   const LinearRow& expression = row(index).expression;
-  for (const std::int32_t other : rowsWith(symbol)) {
+  for (const std::int32_t other : rowsWith(basic)) {
     if (other == index) continue;
     LinearRow& target = row(other).expression;
-    const double factor = target.take(symbol);
+    const double factor = target.take(basic);
     added_.clear();
     target.add(expression, factor, added_);
     for (const Symbol fresh : added_) noteCell(fresh, other);
     noteConstant(other);
   }
-  SymbolRecord& gone = record(symbol);
-  gone.column.clear();
-  if (gone.cost.isZero()) return;
-  for (const Cell& cell : expression.cells()) addCost(cell.symbol, gone.cost, cell.coefficient);
-  gone.cost.clear();
+  Column& eliminated = column(basic);
+  eliminated.rows.clear();
+  if (eliminated.reducedCost.isZero()) return;
+  for (const Cell& cell : expression.cells()) {
+    addReducedCost(cell.symbol, eliminated.reducedCost, cell.coefficient);
+  }
+  eliminated.reducedCost.clear();
 }
 
 void Tableau::pivot(std::int32_t index, Symbol entering) {
@@ -206,36 +209,38 @@ void Tableau::pivot(std::int32_t index, Symbol entering) {
   const double coefficient = turned.expression.take(entering);
   turned.expression.scale(-1 / coefficient);
   turned.basic = entering;
-  record(leaving).row = -1;
-  if (record(leaving).kind == Kind::external) noteChange(leaving);
-  record(entering).row = index;
+  column(leaving).basicRow = -1;
+  if (column(leaving).kind == Kind::free) noteChange(leaving);
+  column(entering).basicRow = index;
   addCell(index, leaving, 1 / coefficient);
   noteConstant(index);
-  substituteEverywhere(entering, index);
+  eliminate(entering, index);
 }
 
-Symbol Tableau::takeCandidate() {
+// A nonbasic variable that lowers the objective when it grows.
+Symbol Tableau::primalEntering() {
   std::erase_if(candidates_, [this](Symbol symbol) {
-    SymbolRecord& candidate = record(symbol);
-    candidate.isCandidate =
-        candidate.kind == Kind::slack && candidate.row < 0 && candidate.cost.isNegative();
+    Column& candidate = column(symbol);
+    candidate.isCandidate = candidate.kind == Kind::slack && candidate.basicRow < 0 &&
+                            candidate.reducedCost.isNegative();
     return !candidate.isCandidate;
   });
   if (candidates_.empty()) return kNoSymbol;
   return *std::min_element(candidates_.begin(), candidates_.end());
 }
 
-// The row whose basic symbol is the first to reach its bound when the entering one grows.
-std::int32_t Tableau::rowThatLimits(Symbol entering) {
+// The ratio test: the row whose basic variable is the first to reach its bound when the entering
+// one grows.
+std::int32_t Tableau::primalLeavingRow(Symbol entering) {
   std::int32_t best = -1;
   double least = std::numeric_limits<double>::infinity();
   for (const std::int32_t index : rowsWith(entering)) {
     const Row& candidate = row(index);
-    const Kind kind = record(candidate.basic).kind;
+    const Kind kind = column(candidate.basic).kind;
     const double coefficient = candidate.expression.coefficient(entering);
-    if (kind == Kind::external || (kind == Kind::slack && coefficient > 0)) continue;
+    if (kind == Kind::free || (kind == Kind::slack && coefficient > 0)) continue;
     const double ratio =
-        kind == Kind::dummy ? 0 : std::max(0.0, candidate.expression.constant) / -coefficient;
+        kind == Kind::fixed ? 0 : std::max(0.0, candidate.expression.constant) / -coefficient;
     if (ratio < least || (ratio == least && candidate.basic < row(best).basic)) {
       least = ratio;
       best = index;
@@ -244,19 +249,21 @@ std::int32_t Tableau::rowThatLimits(Symbol entering) {
   return best;
 }
 
-void Tableau::optimize() {
-  for (Symbol entering = takeCandidate(); entering != kNoSymbol; entering = takeCandidate()) {
-    const std::int32_t index = rowThatLimits(entering);
+// From a feasible tableau to an optimal one.
+void Tableau::primalSimplex() {
+  for (Symbol entering = primalEntering(); entering != kNoSymbol; entering = primalEntering()) {
+    const std::int32_t index = primalLeavingRow(entering);
     if (index >= 0) {
       pivot(index, entering);
     } else {
-      // Weights are bounded below, so this cost can only be what rounding left.
-      record(entering).cost.clear();
+      // The objective is bounded below, so this reduced cost can only be what rounding left.
+      column(entering).reducedCost.clear();
     }
   }
 }
 
-std::int32_t Tableau::takeInfeasible() {
+// A row whose basic variable is out of its bounds.
+std::int32_t Tableau::dualLeavingRow() {
   std::erase_if(infeasible_, [this](std::int32_t index) { return !isInfeasible(row(index)); });
   if (infeasible_.empty()) return -1;
   return *std::min_element(
@@ -264,18 +271,19 @@ std::int32_t Tableau::takeInfeasible() {
       [this](std::int32_t left, std::int32_t right) { return row(left).basic < row(right).basic; });
 }
 
-// The symbol that brings the row to its bound at the least cost.
-Symbol Tableau::symbolThatMends(const Row& row) const {
+// The dual ratio test: the nonbasic variable that brings the row's basic one to its bound at the
+// least cost.
+Symbol Tableau::dualEntering(const Row& row) const {
   const double direction = row.expression.constant < 0 ? 1 : -1;
   Symbol best = kNoSymbol;
   double bestFactor = 0;
   for (const Cell& cell : row.expression.cells()) {
-    const SymbolRecord& candidate = record(cell.symbol);
+    const Column& candidate = column(cell.symbol);
     const double pull = direction * cell.coefficient;
     if (candidate.kind != Kind::slack || pull <= kTiny) continue;
     const double factor = 1 / pull;
-    if (best != kNoSymbol &&
-        SymbolicWeight::compare(candidate.cost, factor, record(best).cost, bestFactor) >= 0) {
+    if (best != kNoSymbol && SymbolicWeight::compare(candidate.reducedCost, factor,
+                                                     column(best).reducedCost, bestFactor) >= 0) {
       continue;
     }
     best = cell.symbol;
@@ -284,15 +292,16 @@ Symbol Tableau::symbolThatMends(const Row& row) const {
   return best;
 }
 
-// False and all exchanges undone when the required constraints contradict each other.
-bool Tableau::restoreFeasibility() {
+// From an optimal tableau that may be infeasible to a feasible one. False and all pivots undone
+// when the required constraints contradict each other.
+bool Tableau::dualSimplex() {
   pivots_.clear();
-  for (std::int32_t index = takeInfeasible(); index >= 0; index = takeInfeasible()) {
+  for (std::int32_t index = dualLeavingRow(); index >= 0; index = dualLeavingRow()) {
     const Symbol leaving = row(index).basic;
-    const Symbol entering = symbolThatMends(row(index));
+    const Symbol entering = dualEntering(row(index));
     if (entering == kNoSymbol) {
       for (auto done = pivots_.rbegin(); done != pivots_.rend(); ++done) {
-        pivot(record(done->first).row, done->second);
+        pivot(column(done->first).basicRow, done->second);
       }
       infeasible_.clear();
       return false;
@@ -303,68 +312,69 @@ bool Tableau::restoreFeasibility() {
   return true;
 }
 
-// An external symbol to solve a new row for: the one that stands in the fewest rows.
-Symbol Tableau::subjectOf(const LinearRow& expression) const {
+// A free variable to solve a new row for: the one that stands in the fewest rows.
+Symbol Tableau::basicFor(const LinearRow& expression) const {
   Symbol best = kNoSymbol;
   for (const Cell& cell : expression.cells()) {
-    const SymbolRecord& candidate = record(cell.symbol);
-    if (candidate.kind != Kind::external) continue;
-    if (best == kNoSymbol || candidate.column.size() < record(best).column.size()) {
+    const Column& candidate = column(cell.symbol);
+    if (candidate.kind != Kind::free) continue;
+    if (best == kNoSymbol || candidate.rows.size() < column(best).rows.size()) {
       best = cell.symbol;
     }
   }
   return best;
 }
 
-std::optional<Tableau::Markers> Tableau::add(std::span<const Cell> cells, double constant,
-                                             bool equality, std::optional<double> strength) {
-  LinearRow expression = substituted(cells, constant);
-  Markers markers{make(equality && !strength ? Kind::dummy : Kind::slack)};
+std::optional<Tableau::Slacks> Tableau::add(std::span<const Cell> cells, double constant,
+                                            bool equality, std::optional<double> strength) {
+  LinearRow expression = inNonbasics(cells, constant);
+  Slacks slacks{make(equality && !strength ? Kind::fixed : Kind::slack)};
   if (strength) {
-    markers.other = make(Kind::slack);
-    record(markers.other).strength = strength;
-    if (equality) record(markers.marker).strength = strength;
+    slacks.shortfall = make(Kind::slack);
+    column(slacks.shortfall).strength = strength;
+    if (equality) column(slacks.surplus).strength = strength;
   }
-  const Symbol subject = subjectOf(expression);
-  if (subject != kNoSymbol) {
-    const double coefficient = expression.take(subject);
+  const Symbol basic = basicFor(expression);
+  if (basic != kNoSymbol) {
+    const double coefficient = expression.take(basic);
     expression.scale(-1 / coefficient);
-    expression.add(markers.marker, 1 / coefficient);
-    if (strength) expression.add(markers.other, -1 / coefficient);
-    substituteEverywhere(subject, insertRow(subject, std::move(expression)));
+    expression.add(slacks.surplus, 1 / coefficient);
+    if (strength) expression.add(slacks.shortfall, -1 / coefficient);
+    eliminate(basic, insertRow(basic, std::move(expression)));
   } else if (strength && expression.constant < 0) {
     expression.scale(-1);
-    expression.add(markers.marker, 1);
-    insertRow(markers.other, std::move(expression));
+    expression.add(slacks.surplus, 1);
+    insertRow(slacks.shortfall, std::move(expression));
   } else {
-    if (strength) expression.add(markers.other, 1);
-    const std::int32_t index = insertRow(markers.marker, std::move(expression));
-    if (!restoreFeasibility()) {
+    if (strength) expression.add(slacks.shortfall, 1);
+    const std::int32_t index = insertRow(slacks.surplus, std::move(expression));
+    if (!dualSimplex()) {
       dropRow(index);
-      release(markers.marker);
+      release(slacks.surplus);
       return std::nullopt;
     }
   }
-  charge(markers.marker, 1);
-  if (strength) charge(markers.other, 1);
-  optimize();
-  return markers;
+  addToObjective(slacks.surplus, 1);
+  if (strength) addToObjective(slacks.shortfall, 1);
+  primalSimplex();
+  return slacks;
 }
 
-// The row to exchange with the marker so that nothing else becomes infeasible by its going.
-std::int32_t Tableau::rowToFree(Symbol marker) {
-  enum Rank { dummy, falling, rising, external, none };
+// The row in which to make a nonbasic surplus basic, so that nothing else becomes infeasible when
+// its constraint goes.
+std::int32_t Tableau::removalLeavingRow(Symbol surplus) {
+  enum Rank { fixed, falling, rising, free, none };
   std::int32_t best = -1;
   Rank bestRank = none;
   double least = 0;
-  for (const std::int32_t index : rowsWith(marker)) {
+  for (const std::int32_t index : rowsWith(surplus)) {
     const Row& candidate = row(index);
-    const Kind kind = record(candidate.basic).kind;
-    const double coefficient = candidate.expression.coefficient(marker);
+    const Kind kind = column(candidate.basic).kind;
+    const double coefficient = candidate.expression.coefficient(surplus);
     Rank rank = coefficient < 0 ? falling : rising;
     double ratio = std::max(0.0, candidate.expression.constant) / std::abs(coefficient);
     if (kind != Kind::slack) {
-      rank = kind == Kind::dummy ? dummy : external;
+      rank = kind == Kind::fixed ? fixed : free;
       ratio = 0;
     }
     if (rank < bestRank || (rank == bestRank && ratio < least)) {
@@ -376,33 +386,33 @@ std::int32_t Tableau::rowToFree(Symbol marker) {
   return best;
 }
 
-void Tableau::remove(Markers markers) {
-  charge(markers.marker, -1);
-  if (markers.other != kNoSymbol) charge(markers.other, -1);
-  if (record(markers.marker).row < 0) {
-    const std::int32_t index = rowToFree(markers.marker);
-    if (index >= 0) pivot(index, markers.marker);
+void Tableau::remove(Slacks slacks) {
+  addToObjective(slacks.surplus, -1);
+  if (slacks.shortfall != kNoSymbol) addToObjective(slacks.shortfall, -1);
+  if (column(slacks.surplus).basicRow < 0) {
+    const std::int32_t index = removalLeavingRow(slacks.surplus);
+    if (index >= 0) pivot(index, slacks.surplus);
   }
-  for (const Symbol symbol : {markers.marker, markers.other}) {
+  for (const Symbol symbol : {slacks.surplus, slacks.shortfall}) {
     if (symbol == kNoSymbol) continue;
-    if (record(symbol).row >= 0) dropRow(record(symbol).row);
+    if (column(symbol).basicRow >= 0) dropRow(column(symbol).basicRow);
     release(symbol);
   }
-  optimize();
+  primalSimplex();
 }
 
 void Tableau::moveConstants(std::span<const Shift> shifts, double factor) {
   for (const Shift& shift : shifts) {
     const double amount = shift.amount * factor;
-    const std::int32_t own = record(shift.marker).row;
+    const std::int32_t own = column(shift.surplus).basicRow;
     if (own >= 0) {
       row(own).expression.constant += amount;
       noteConstant(own);
       continue;
     }
-    for (const std::int32_t index : rowsWith(shift.marker)) {
+    for (const std::int32_t index : rowsWith(shift.surplus)) {
       LinearRow& moved = row(index).expression;
-      moved.constant -= amount * moved.coefficient(shift.marker);
+      moved.constant -= amount * moved.coefficient(shift.surplus);
       noteConstant(index);
     }
   }
@@ -410,36 +420,36 @@ void Tableau::moveConstants(std::span<const Shift> shifts, double factor) {
 
 bool Tableau::shift(std::span<const Shift> shifts) {
   moveConstants(shifts, 1);
-  const bool feasible = restoreFeasibility();
+  const bool feasible = dualSimplex();
   if (!feasible) {
     moveConstants(shifts, -1);
     infeasible_.clear();
   }
-  optimize();
+  primalSimplex();
   return feasible;
 }
 
-Tableau::Markers Tableau::adopt(Symbol external, std::span<const Cell> cells, double constant,
-                                double pull, std::span<const Shift> influence) {
-  const Symbol marker = make(Kind::dummy);
+Tableau::Slacks Tableau::adopt(Symbol basic, std::span<const Cell> cells, double constant,
+                               double pull, std::span<const Shift> influence) {
+  const Symbol surplus = make(Kind::fixed);
   for (const Shift& shift : influence) {
-    const SymbolRecord& moved = record(shift.marker);
-    if (moved.row >= 0) {
-      addCell(moved.row, marker, shift.amount);
-      if (moved.strength) record(marker).cost.add(*moved.strength, shift.amount);
+    const Column& moved = column(shift.surplus);
+    if (moved.basicRow >= 0) {
+      addCell(moved.basicRow, surplus, shift.amount);
+      if (moved.strength) column(surplus).reducedCost.add(*moved.strength, shift.amount);
       continue;
     }
-    for (const std::int32_t index : rowsWith(shift.marker)) {
-      addCell(index, marker, -shift.amount * row(index).expression.coefficient(shift.marker));
+    for (const std::int32_t index : rowsWith(shift.surplus)) {
+      addCell(index, surplus, -shift.amount * row(index).expression.coefficient(shift.surplus));
     }
-    // What the marker itself weighs does not move with the rows.
-    record(marker).cost.add(moved.cost, -shift.amount);
-    if (moved.strength) record(marker).cost.add(*moved.strength, shift.amount);
+    // What the moved surplus itself weighs does not move with the rows.
+    column(surplus).reducedCost.add(moved.reducedCost, -shift.amount);
+    if (moved.strength) column(surplus).reducedCost.add(*moved.strength, shift.amount);
   }
-  LinearRow expression = substituted(cells, constant);
-  expression.add(marker, pull);
-  insertRow(external, std::move(expression));
-  return {marker};
+  LinearRow expression = inNonbasics(cells, constant);
+  expression.add(surplus, pull);
+  insertRow(basic, std::move(expression));
+  return {surplus};
 }
 
 }  // namespace kindora::layout
