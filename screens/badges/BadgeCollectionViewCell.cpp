@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "screens/badges/BadgeCollectionViewCell.h"
 
-#include "platform/UIImageColorOverlay.h"
+#include "screens/shared/PressedLook.h"
 #include "toolkit/controllers/Screen.h"
 
 namespace kindora {
 namespace {
 
-constexpr double kCornerRadius = 16;      // points
-constexpr double kHighlightAlpha = 0.25;  // of the black that darkens a pressed picture
+constexpr double kCornerRadius = 16;  // points
 constexpr UIColor kGray{0.5, 0.5, 0.5, 1};
 
 }  // namespace
@@ -41,14 +40,8 @@ void BadgeCollectionViewCell::setChallenge(const ChallengeRef& challenge) {
 void BadgeCollectionViewCell::setHighlighted(bool highlighted, bool animated) {
   UICollectionViewCell::setHighlighted(highlighted, animated);
   const UIImageRef picture = challenge_ ? challenge_->challengeImage : nullptr;
-  connected(badgeImageView)
-      ->setImage(highlighted && picture
-                     ? imageWithColorOverlay(
-                           picture, UIColor::blackColor().colorWithAlphaComponent(kHighlightAlpha))
-                     : picture);
-  const auto container = connected(imageContainerView);
-  container->setShadowOpacity(highlighted ? 0.25 : 0.5);
-  container->setTranslation({0, highlighted ? 2.5 : 0});
+  connected(badgeImageView)->setImage(pressedPicture(picture, highlighted));
+  sinkFrame(*connected(imageContainerView), highlighted);
   connected(badgeLabel)->setTextColor(highlighted ? kGray : UIColor::blackColor());
 }
 

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "screens/challenges/ChallengeTableViewCell.h"
 
-#include "platform/UIImageColorOverlay.h"
+#include "screens/shared/PressedLook.h"
 #include "toolkit/controllers/Screen.h"
 
 namespace kindora {
 namespace {
 
-constexpr double kPictureSide = 52;       // points
-constexpr double kHighlightAlpha = 0.25;  // of the black that darkens a pressed picture
+constexpr double kPictureSide = 52;  // points
 
 }  // namespace
 
@@ -52,16 +51,11 @@ void ChallengeTableViewCell::awakeFromNib() {
 void ChallengeTableViewCell::setHighlighted(bool highlighted, bool animated) {
   UITableViewCell::setHighlighted(highlighted, animated);
   if (profileImage_) {
-    connected(profileImageView)
-        ->setImage(highlighted ? imageWithColorOverlay(
-                                     profileImage_,
-                                     UIColor::blackColor().colorWithAlphaComponent(kHighlightAlpha))
-                               : profileImage_);
+    connected(profileImageView)->setImage(pressedPicture(profileImage_, highlighted));
   }
   const auto frame = pictureFrame();
-  frame->setShadowOpacity(highlighted ? 0.25 : 0.5);
+  sinkFrame(*frame, highlighted);
   frame->setShadowOffset({0, highlighted ? 1.0 : 3.0});
-  frame->setTranslation({0, highlighted ? 2.5 : 0});
 }
 
 }  // namespace kindora
