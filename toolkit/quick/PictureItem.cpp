@@ -4,8 +4,6 @@
 
 #include <QPainter>
 #include <QPainterPath>
-#include <QQuickWindow>
-#include <QSGImageNode>
 #include <algorithm>
 #include <cmath>
 #include <memory>
@@ -15,7 +13,7 @@
 
 namespace kindora {
 
-PictureItem::PictureItem(QQuickItem* parent) : QQuickItem(parent) { setFlag(ItemHasContents); }
+PictureItem::PictureItem(QQuickItem* parent) : TextureItem(parent) {}
 
 void PictureItem::setImage(const ImageHandle& image) {
   if (image_ == image) return;
@@ -59,22 +57,19 @@ void PictureItem::setFits(bool fits) {
   redraw();
 }
 
-void PictureItem::redraw() {
-  dirty_ = true;
-  update();
-}
-
-void PictureItem::geometryChange(const QRectF& now, const QRectF& before) {
-  QQuickItem::geometryChange(now, before);
-  if (now.size() != before.size()) redraw();
-}
-
 void PictureItem::itemChange(ItemChange change, const ItemChangeData& data) {
-  QQuickItem::itemChange(change, data);
+  TextureItem::itemChange(change, data);
   if (change == ItemDevicePixelRatioHasChanged) redraw();
 }
 
-QImage PictureItem::drawn(QSize pixels, double ratio) const {
+QRectF PictureItem::texturePlace() const {
+  const bool isShown = image_.image || ground_.alpha() > 0;
+  return isShown ? boundingRect() : QRectF();
+}
+
+QImage PictureItem::drawn(double ratio) const {
+  const QSize pixels(static_cast<int>(std::ceil(width() * ratio)),
+                     static_cast<int>(std::ceil(height() * ratio)));
   QImage result(pixels, QImage::Format_RGBA8888_Premultiplied);
   result.fill(Qt::transparent);
   QPainter painter(&result);
@@ -115,30 +110,6 @@ QImage PictureItem::drawn(QSize pixels, double ratio) const {
   brush.setTransform(QTransform::fromTranslate(corner0.x(), corner0.y()));
   painter.fillPath(shape, brush);
   return result;
-}
-
-QSGNode* PictureItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
-  const double ratio = window()->effectiveDevicePixelRatio();
-  const QSize pixels(static_cast<int>(std::ceil(width() * ratio)),
-                     static_cast<int>(std::ceil(height() * ratio)));
-  if (pixels.isEmpty() || (!image_.image && ground_.alpha() == 0)) {
-    delete old;
-    dirty_ = true;
-    return nullptr;
-  }
-  auto* node = static_cast<QSGImageNode*>(old);
-  if (node == nullptr) {
-    node = window()->createImageNode();
-    node->setOwnsTexture(true);
-    node->setFiltering(QSGTexture::Linear);
-    dirty_ = true;
-  }
-  if (dirty_) {
-    node->setTexture(window()->createTextureFromImage(drawn(pixels, ratio)));
-    dirty_ = false;
-  }
-  node->setRect(boundingRect());
-  return node;
 }
 
 }  // namespace kindora

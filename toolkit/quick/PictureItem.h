@@ -3,17 +3,16 @@
 #pragma once
 
 #include <QColor>
-#include <QImage>
-#include <QQuickItem>
 
 #include "toolkit/quick/ImageHandle.h"
+#include "toolkit/quick/TextureItem.h"
 
 namespace kindora {
 
 /// Draws a picture in exactly the item's device pixels, so that it is crisp at any size: aspect
 /// fill inside a rectangle with rounded corners, or all of it as large as it fits. Without a
 /// picture a neutral ground of the same shape.
-class PictureItem : public QQuickItem {
+class PictureItem : public kindora::TextureItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(kindora::ImageHandle image READ image WRITE setImage NOTIFY imageChanged)
@@ -52,21 +51,17 @@ class PictureItem : public QQuickItem {
   void fitsChanged();
 
  protected:
-  QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
-  void geometryChange(const QRectF& now, const QRectF& before) override;
+  [[nodiscard]] QRectF texturePlace() const override;
+  [[nodiscard]] QImage drawn(double ratio) const override;
   void itemChange(ItemChange change, const ItemChangeData& data) override;
 
  private:
-  void redraw();
-  [[nodiscard]] QImage drawn(QSize pixels, double ratio) const;
-
   ImageHandle image_;
   QString imageName_;
   QColor tint_;
   QColor ground_ = Qt::transparent;
   double radius_ = 0;
   bool fits_ = false;
-  bool dirty_ = true;
 };
 
 }  // namespace kindora

@@ -11,6 +11,13 @@
 
 namespace kindora {
 
+QSGImageNode* makeImageNode(QQuickWindow& window) {
+  QSGImageNode* node = window.createImageNode();
+  node->setOwnsTexture(true);
+  node->setFiltering(QSGTexture::Linear);
+  return node;
+}
+
 QSGNode* rasterNode(QQuickItem& item, QSGNode* old, const QRectF& place, bool stale,
                     const std::function<void(QPainter&)>& draw) {
   QQuickWindow& window = *item.window();
@@ -23,9 +30,7 @@ QSGNode* rasterNode(QQuickItem& item, QSGNode* old, const QRectF& place, bool st
   }
   auto* node = static_cast<QSGImageNode*>(old);
   if (node == nullptr) {
-    node = window.createImageNode();
-    node->setOwnsTexture(true);
-    node->setFiltering(QSGTexture::Linear);
+    node = makeImageNode(window);
     stale = true;
   }
   if (stale) {

@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/quick/ShadowItem.h"
 
-#include <QImage>
-#include <QQuickWindow>
-#include <QSGImageNode>
 #include <algorithm>
 #include <cmath>
 
@@ -45,7 +42,7 @@ QImage shadow(double width, double height, double radius, double blur, double ra
 
 }  // namespace
 
-ShadowItem::ShadowItem(QQuickItem* parent) : QQuickItem(parent) { setFlag(ItemHasContents); }
+ShadowItem::ShadowItem(QQuickItem* parent) : TextureItem(parent) {}
 
 void ShadowItem::setRadius(double radius) {
   if (radius_ == radius) return;
@@ -61,36 +58,13 @@ void ShadowItem::setBlur(double blur) {
   redraw();
 }
 
-void ShadowItem::redraw() {
-  dirty_ = true;
-  update();
+QRectF ShadowItem::texturePlace() const {
+  if (width() <= 0 || height() <= 0 || blur_ <= 0) return {};
+  return boundingRect().adjusted(-blur_, -blur_, blur_, blur_);
 }
 
-void ShadowItem::geometryChange(const QRectF& now, const QRectF& before) {
-  QQuickItem::geometryChange(now, before);
-  if (now.size() != before.size()) redraw();
-}
-
-QSGNode* ShadowItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
-  if (width() <= 0 || height() <= 0 || blur_ <= 0) {
-    delete old;
-    dirty_ = true;
-    return nullptr;
-  }
-  auto* node = static_cast<QSGImageNode*>(old);
-  if (node == nullptr) {
-    node = window()->createImageNode();
-    node->setOwnsTexture(true);
-    node->setFiltering(QSGTexture::Linear);
-    dirty_ = true;
-  }
-  if (dirty_) {
-    node->setTexture(window()->createTextureFromImage(
-        shadow(width(), height(), radius_, blur_, window()->effectiveDevicePixelRatio())));
-    dirty_ = false;
-  }
-  node->setRect(boundingRect().adjusted(-blur_, -blur_, blur_, blur_));
-  return node;
+QImage ShadowItem::drawn(double ratio) const {
+  return shadow(width(), height(), radius_, blur_, ratio);
 }
 
 }  // namespace kindora

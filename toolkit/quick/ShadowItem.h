@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QColor>
-#include <QQuickItem>
+#include "toolkit/quick/TextureItem.h"
 
 namespace kindora {
 
 /// The soft shadow of a rounded rectangle that fills the item, drawn without a shader. It reaches
 /// `blur` points beyond the item on every side.
-class ShadowItem : public QQuickItem {
+class ShadowItem : public kindora::TextureItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY radiusChanged)
@@ -28,14 +27,12 @@ class ShadowItem : public QQuickItem {
   void blurChanged();
 
  protected:
-  QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
-  void geometryChange(const QRectF& now, const QRectF& before) override;
+  [[nodiscard]] QRectF texturePlace() const override;
+  [[nodiscard]] QImage drawn(double ratio) const override;
 
  private:
-  void redraw();
   double radius_ = 0;
   double blur_ = 8;
-  bool dirty_ = true;
 };
 
 }  // namespace kindora
