@@ -58,4 +58,17 @@ std::vector<Rgba8> Raster::pixels() const {
   return result;
 }
 
+Raster croppedRaster(const Raster& raster, const CGRect& rect) {
+  const auto left = static_cast<std::size_t>(rect.origin.x);
+  const auto top = static_cast<std::size_t>(rect.origin.y);
+  const auto width = static_cast<std::size_t>(rect.size.width);
+  const auto height = static_cast<std::size_t>(rect.size.height);
+  std::vector<Rgba8> pixels;
+  pixels.reserve(width * height);
+  for (std::size_t y = top; y < top + height; ++y) {
+    for (std::size_t x = left; x < left + width; ++x) pixels.push_back(raster.pixel(x, y));
+  }
+  return {width, height, pixels};
+}
+
 }  // namespace kindora

@@ -13,6 +13,8 @@
 #include <span>
 #include <vector>
 
+#include "platform/Geometry.h"
+
 namespace kindora {
 
 struct Rgba8 {
@@ -68,5 +70,8 @@ class Raster {
   std::size_t rows_ = 0;
   std::vector<std::shared_ptr<Tile>> tiles_;
 };
+
+/// The rectangle of whole pixels cut from the raster, inside which it must lie.
+[[nodiscard]] Raster croppedRaster(const Raster& raster, const CGRect& rect);
 
 }  // namespace kindora

@@ -117,6 +117,15 @@ TEST(Raster, RastersOfDifferentSizesShareNothing) {
   EXPECT_FALSE(raster.sharesTile(Raster(64, 63), 0, 0));
 }
 
+TEST(Raster, TheSquareIsCutWhereItLay) {
+  Raster raster(80, 40);
+  raster.setPixel(40, 0, {1, 2, 3, 255});
+  const Raster cut = croppedRaster(raster, {{40, 0}, {40, 40}});
+  EXPECT_EQ(cut.width(), 40U);
+  EXPECT_EQ(cut.pixel(0, 0), (Rgba8{1, 2, 3, 255}));
+  EXPECT_EQ(cut.pixel(1, 0), Rgba8{});
+}
+
 TEST(RasterDeathTest, StopsWhenThereAreTooFewPixels) {
   const std::vector<Rgba8> pixels(11);
   EXPECT_DEATH(Raster(4, 3, pixels), "fatal error: too few pixels for the raster");

@@ -51,7 +51,4 @@ class PhotoCropController : public kindora::PhotoPageController {
   SquareCrop crop_;
 };
 
-/// The rectangle of whole pixels cut from the raster, inside which it must lie.
-[[nodiscard]] Raster croppedRaster(const Raster& raster, const CGRect& rect);
-
 }  // namespace kindora

@@ -288,15 +288,6 @@ TEST_F(UIImagePickerControllerTest, ChoosingYieldsTheSquareAsTheEditedImage) {
   EXPECT_TRUE(gone());
 }
 
-TEST_F(UIImagePickerControllerTest, TheSquareIsCutWhereItLay) {
-  Raster raster(80, 40);
-  raster.setPixel(40, 0, {1, 2, 3, 255});
-  const Raster cut = croppedRaster(raster, {{40, 0}, {40, 40}});
-  EXPECT_EQ(cut.width(), 40U);
-  EXPECT_EQ(cut.pixel(0, 0), (Rgba8{1, 2, 3, 255}));
-  EXPECT_EQ(cut.pixel(1, 0), Rgba8{});
-}
-
 TEST_F(UIImagePickerControllerTest, TheSquareTellsThoseWhoDrawItOnceAChange) {
   PhotoCropController& crop = reachCrop();
   int told = 0;
