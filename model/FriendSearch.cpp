@@ -20,15 +20,8 @@ bool isAscii(std::string_view text) {
 
 // ASCII folds letter by letter, so most names need neither a copy nor the text service.
 bool asciiNameContains(std::string_view name, std::string_view folded) {
-  if (folded.size() > name.size()) return false;
-  const char first = folded.front();
-  for (std::size_t start = 0; start + folded.size() <= name.size(); ++start) {
-    if (lowered(name[start]) != first) continue;
-    std::size_t same = 1;
-    while (same < folded.size() && lowered(name[start + same]) == folded[same]) ++same;
-    if (same == folded.size()) return true;
-  }
-  return false;
+  return std::search(name.begin(), name.end(), folded.begin(), folded.end(),
+                     [](char own, char sought) { return lowered(own) == sought; }) != name.end();
 }
 
 }  // namespace

@@ -16,8 +16,8 @@ namespace {
 
 template <typename T>
 const T& required(const JsonObject& object, std::string_view key) {
-  const auto entry = object.find(key);
-  const T* value = entry == object.end() ? nullptr : entry->second.as<T>();
+  const Json* member = memberOf(object, key);
+  const T* value = member == nullptr ? nullptr : member->as<T>();
   if (value == nullptr) fatalError("the reply lacks a proper \"" + std::string(key) + "\"");
   return *value;
 }

@@ -28,8 +28,9 @@ Json converted(const QJsonValue& value) {
     case QJsonValue::Object: {
       JsonObject object;
       const QJsonObject source = value.toObject();
+      object.reserve(static_cast<std::size_t>(source.size()));
       for (auto entry = source.begin(); entry != source.end(); ++entry) {
-        object.emplace(entry.key().toStdString(), converted(entry.value()));
+        object.push_back({entry.key().toStdString(), converted(entry.value())});
       }
       return {std::move(object)};
     }

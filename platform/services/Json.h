@@ -3,8 +3,8 @@
 // A JSON value as read by the JsonReader service.
 #pragma once
 
-#include <map>
-#include <memory>
+#include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,11 +14,13 @@
 namespace kindora {
 
 struct Json;
+struct JsonMember;
 using JsonArray = std::vector<Json>;
-using JsonObject = std::map<std::string, Json, std::less<>>;
+using JsonObject = std::vector<JsonMember>;  ///< each name once
 
 struct Json {
-  std::variant<std::nullptr_t, bool, double, std::string, JsonArray, JsonObject> value = nullptr;
+  /// Null at first. An initialiser would need JsonMember to be complete here.
+  std::variant<std::nullptr_t, bool, double, std::string, JsonArray, JsonObject> value;
 
   /// The value when it is of kind T, else null.
   template <typename T>
@@ -26,6 +28,17 @@ struct Json {
     return std::get_if<T>(&value);
   }
 };
+
+struct JsonMember {
+  std::string name;
+  Json value;
+};
+
+/// The value of that name, null when the object has none.
+[[nodiscard]] inline const Json* memberOf(const JsonObject& object, std::string_view name) {
+  const auto member = std::ranges::find(object, name, &JsonMember::name);
+  return member == object.end() ? nullptr : &member->value;
+}
 
 class JsonReader {
  public:

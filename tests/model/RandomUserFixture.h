@@ -4,9 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -21,6 +23,11 @@ inline Json number(double value) { return {value}; }
 inline Json boolean(bool value) { return {value}; }
 inline Json array(JsonArray elements) { return {std::move(elements)}; }
 inline Json object(JsonObject members) { return {std::move(members)}; }
+
+/// For changes; the object must have a member of that name.
+inline Json& presentMember(JsonObject& object, std::string_view name) {
+  return std::ranges::find(object, name, &JsonMember::name)->value;
+}
 
 /// A reply of the shape that the service gives.
 inline Json personReply(const std::string& first, const std::string& last,

@@ -91,7 +91,8 @@ TEST_F(RandomUserRequest, StatusCodeDoesNotMatter) {
 
 TEST_F(RandomUserRequest, OnlyTheFirstResultCounts) {
   Json reply = personReply("jane", "doe");
-  auto& results = std::get<JsonArray>(std::get<JsonObject>(reply.value).at("results").value);
+  auto& results =
+      std::get<JsonArray>(presentMember(std::get<JsonObject>(reply.value), "results").value);
   results.push_back(text("no person"));
   fetch();
   answer(0, reply);

@@ -29,17 +29,18 @@ TEST(QtJsonReader, ReadsAnObjectWithAllKindsOfValues) {
   ASSERT_TRUE(value.has_value());
   const JsonObject& object = *value->as<JsonObject>();
   EXPECT_EQ(object.size(), 7u);
-  EXPECT_NE(object.at("null").as<std::nullptr_t>(), nullptr);
-  EXPECT_EQ(*object.at("yes").as<bool>(), true);
-  EXPECT_EQ(*object.at("no").as<bool>(), false);
-  EXPECT_EQ(*object.at("number").as<double>(), -150);
-  EXPECT_EQ(*object.at("text").as<std::string>(), "x");
-  const JsonArray& array = *object.at("array").as<JsonArray>();
+  EXPECT_NE(memberOf(object, "null")->as<std::nullptr_t>(), nullptr);
+  EXPECT_EQ(*memberOf(object, "yes")->as<bool>(), true);
+  EXPECT_EQ(*memberOf(object, "no")->as<bool>(), false);
+  EXPECT_EQ(*memberOf(object, "number")->as<double>(), -150);
+  EXPECT_EQ(*memberOf(object, "text")->as<std::string>(), "x");
+  const JsonArray& array = *memberOf(object, "array")->as<JsonArray>();
   ASSERT_EQ(array.size(), 3u);
   EXPECT_EQ(*array[0].as<double>(), 1);
   EXPECT_EQ(*array[1].as<std::string>(), "two");
   EXPECT_TRUE(array[2].as<JsonArray>()->empty());
-  EXPECT_TRUE(object.at("object").as<JsonObject>()->at("").as<JsonObject>()->empty());
+  const JsonObject& inner = *memberOf(object, "object")->as<JsonObject>();
+  EXPECT_TRUE(memberOf(inner, "")->as<JsonObject>()->empty());
 }
 
 TEST(QtJsonReader, ReadsAnArrayAtTheTop) {
@@ -55,7 +56,10 @@ TEST(QtJsonReader, ReadsScalarsAtTheTop) {
 }
 
 TEST(QtJsonReader, TheLastOfTwoEqualKeysCounts) {
-  EXPECT_EQ(*read(R"({"a": 1, "a": 2})")->as<JsonObject>()->at("a").as<double>(), 2);
+  const auto value = read(R"({"a": 1, "a": 2})");
+  const JsonObject& object = *value->as<JsonObject>();
+  EXPECT_EQ(object.size(), 1u);
+  EXPECT_EQ(*memberOf(object, "a")->as<double>(), 2);
 }
 
 TEST(QtJsonReader, ByteOrderMarkIsSkipped) { EXPECT_EQ(*read("\xEF\xBB\xBF 3")->as<double>(), 3); }
@@ -75,7 +79,8 @@ TEST(QtJsonReader, ReadsAnEscapedNul) {
 }
 
 TEST(QtJsonReader, ReadsEscapedKeys) {
-  EXPECT_EQ(read(R"({"\u0061": 1})")->as<JsonObject>()->count("a"), 1u);
+  const auto value = read(R"({"\u0061": 1})");
+  EXPECT_NE(memberOf(*value->as<JsonObject>(), "a"), nullptr);
 }
 
 TEST(QtJsonReader, HalfASurrogatePairDoesNoHarm) {
