@@ -51,7 +51,8 @@ class BitmapContext final {
 
   [[nodiscard]] BlendMode blendMode() const { return blendMode_; }
   void setBlendMode(BlendMode mode) { blendMode_ = mode; }
-  /// Colours are kept as part of the context's state; in the clear blend mode none shows.
+  /// Kept for those who draw as the platform has them draw: in the clear blend mode no colour
+  /// shows.
   [[nodiscard]] UIColor fillColor() const { return fillColor_; }
   void setFillColor(UIColor color) { fillColor_ = color; }
   [[nodiscard]] UIColor strokeColor() const { return strokeColor_; }

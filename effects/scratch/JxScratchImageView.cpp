@@ -112,10 +112,6 @@ UIImageRef JxScratchImageView::addTouches(const UITouches& touches) {
 }
 
 void JxScratchImageView::scratch(const UITouch& touch, CGSize pixels) {
-  // Bound once for the process: a touch looks up no method.
-  static constexpr auto kMarkPoint = &JxScratchImageView::fillTileWithPoint;
-  static constexpr auto kMarkStroke = &JxScratchImageView::fillTileWithTwoPoints;
-
   const CGSize view = bounds().size;
   const auto bitmapPoint = [&](CGPoint location) -> CGPoint {
     return {pixels.width * location.x / view.width,
@@ -125,7 +121,7 @@ void JxScratchImageView::scratch(const UITouch& touch, CGSize pixels) {
   const auto radius = static_cast<double>(radius_);
   if (touch.phase == UITouchPhase::began) {
     if (imageContext_) imageContext_->fillDisc(point, radius);
-    (this->*kMarkPoint)({point.x - radius, point.y - radius});
+    fillTileWithPoint({point.x - radius, point.y - radius});
   } else if (touch.phase == UITouchPhase::moved) {
     const CGPoint previous = bitmapPoint(touch.previousLocation);
     if (imageContext_) {
@@ -133,7 +129,7 @@ void JxScratchImageView::scratch(const UITouch& touch, CGSize pixels) {
       imageContext_->setLineWidth(2 * radius);
       imageContext_->strokeRoundCappedLine(previous, point);
     }
-    (this->*kMarkStroke)(point, previous);
+    fillTileWithTwoPoints(point, previous);
   }
 }
 

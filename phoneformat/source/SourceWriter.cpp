@@ -17,7 +17,7 @@ template <typename Texts>
 std::string keywordLine(std::string_view keyword, const Texts& texts) {
   if (texts.empty()) return {};
   std::string line(keyword);
-  for (const std::string& text : texts) line += " " + text;
+  for (const std::string& text : texts) line.append(" ").append(text);
   return line + "\n";
 }
 
@@ -38,7 +38,8 @@ std::string quoted(std::string_view pattern) {
 }
 
 std::string ruleLine(const PhoneRule& rule, std::int32_t matchLen) {
-  std::string line = "  " + bound(rule.minVal, matchLen);
+  std::string line = "  ";
+  line.append(bound(rule.minVal, matchLen));
   if (rule.maxVal != rule.minVal) line.append("-").append(bound(rule.maxVal, matchLen));
   const std::int32_t prefix = rule.flag12 & kPrefixBits;
   line.append("  ").append(kPrefixes.at(static_cast<std::size_t>(prefix)));
