@@ -5,9 +5,10 @@
 #include <any>
 #include <functional>
 #include <map>
-#include <memory>
 #include <string>
 #include <string_view>
+
+#include "platform/ObserverList.h"
 
 namespace kindora {
 
@@ -21,22 +22,8 @@ class NotificationCenter {
  public:
   using Observer = std::function<void(const std::any& info)>;
 
-  /// Ends what it stands for when it goes. May outlive the centre.
-  class Subscription {
-   public:
-    Subscription() = default;
-    Subscription(Subscription&& other) noexcept;
-    Subscription& operator=(Subscription&& other) noexcept;
-    ~Subscription();
-
-   private:
-    friend class NotificationCenter;
-    void cancel();
-    std::function<void()> end_;
-  };
-
-  NotificationCenter();
-  ~NotificationCenter();
+  NotificationCenter() = default;
+  ~NotificationCenter() = default;
   NotificationCenter(const NotificationCenter&) = delete;
   NotificationCenter& operator=(const NotificationCenter&) = delete;
 
@@ -49,10 +36,7 @@ class NotificationCenter {
   void post(std::string_view name, const std::any& info = {});
 
  private:
-  using Observers = std::map<int, std::shared_ptr<const Observer>>;
-
-  std::shared_ptr<std::map<std::string, Observers, std::less<>>> names_;
-  int next_ = 1;
+  std::map<std::string, ObserverList<const std::any&>, std::less<>> names_;
 };
 
 }  // namespace kindora

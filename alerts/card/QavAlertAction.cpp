@@ -29,18 +29,7 @@ QavAlertActionRef QavAlertAction::copy() const { return actionWithTitle(title_, 
 void QavAlertAction::setEnabled(bool enabled) {
   if (enabled_ == enabled) return;
   enabled_ = enabled;
-  // An observer may end its own subscription or another's while it runs.
-  const auto observers = observers_;
-  for (const auto& observer : observers) {
-    if (const Subscription alive = observer.lock()) (*alive)(*this);
-  }
-}
-
-QavAlertAction::Subscription QavAlertAction::observeEnabled(EnabledObserver observer) {
-  std::erase_if(observers_, [](const auto& known) { return known.expired(); });
-  auto subscription = std::make_shared<const EnabledObserver>(std::move(observer));
-  observers_.push_back(subscription);
-  return subscription;
+  observers_.notify(*this);
 }
 
 }  // namespace kindora

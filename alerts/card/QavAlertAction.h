@@ -11,9 +11,10 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "platform/NSAttributedString.h"
+#include "platform/ObserverList.h"
 
 namespace kindora {
 
@@ -32,8 +33,6 @@ class QavAlertAction final {
   /// Told the action that was chosen; may be empty.
   using Handler = std::function<void(QavAlertAction& action)>;
   using EnabledObserver = std::function<void(QavAlertAction& action)>;
-  /// Ends with its last copy.
-  using Subscription = std::shared_ptr<const EnabledObserver>;
 
   [[nodiscard]] static QavAlertActionRef actionWithTitle(const std::optional<std::string>& title,
                                                          QavAlertActionStyle style,
@@ -57,7 +56,9 @@ class QavAlertAction final {
   [[nodiscard]] bool isEnabled() const { return enabled_; }
   void setEnabled(bool enabled);
   /// Calls the observer after each change, not now.
-  [[nodiscard]] Subscription observeEnabled(EnabledObserver observer);
+  [[nodiscard]] Subscription observeEnabled(EnabledObserver observer) {
+    return observers_.add(std::move(observer));
+  }
 
  private:
   QavAlertAction(QavAlertActionStyle style, Handler handler);
@@ -67,7 +68,7 @@ class QavAlertAction final {
   QavAlertActionStyle style_;
   Handler handler_;
   bool enabled_ = true;
-  std::vector<std::weak_ptr<const EnabledObserver>> observers_;
+  ObserverList<QavAlertAction&> observers_;
 };
 
 }  // namespace kindora

@@ -24,6 +24,7 @@
 #include "alerts/card/QavAlertControllerVisualStyle.h"
 #include "alerts/helpers/QavIntrinsicallySizedView.h"
 #include "platform/NSAttributedString.h"
+#include "platform/Subscription.h"
 #include "toolkit/view/UIVisualEffectView.h"
 
 namespace kindora {
@@ -131,7 +132,7 @@ class QavAlertControllerView final : public UIView,
   std::shared_ptr<QavAlertControllerCollectionViewFlowLayout> collectionViewLayout_;
   std::shared_ptr<QavActionsCollectionView> actionsCollectionView_;
   NSLayoutConstraintRef maximumHeightConstraint_;
-  std::vector<QavAlertAction::Subscription> enabledSubscriptions_;
+  std::vector<Subscription> enabledSubscriptions_;
 };
 
 }  // namespace kindora

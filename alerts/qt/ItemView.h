@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 
+#include "platform/Subscription.h"
 #include "toolkit/view/UIView.h"
 
 namespace kindora {

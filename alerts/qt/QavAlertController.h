@@ -25,6 +25,7 @@
 #include "alerts/legacy/QavAlertViewDelegate.h"
 #include "alerts/qt/QavAlertContent.h"
 #include "platform/NotificationCenter.h"
+#include "platform/Subscription.h"
 #include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {
@@ -170,7 +171,7 @@ class QavAlertController final : public kindora::UIViewController,
   std::shared_ptr<QavAlertControllerView> alert_;
   std::shared_ptr<QavAlertView> legacyAlertView_;
   std::shared_ptr<QavAlertControllerTransitioningDelegate> transitioningDelegate_;
-  NotificationCenter::Subscription keyboard_;
+  Subscription keyboard_;
   bool isPrepared_ = false;
   bool didAssignFirstResponder_ = false;
   bool presentingAlert_ = false;

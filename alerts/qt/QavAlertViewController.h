@@ -7,6 +7,7 @@
 
 #include "effects/keyframes/CAAnimationDelegate.h"
 #include "platform/NotificationCenter.h"
+#include "platform/Subscription.h"
 #include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {
@@ -66,8 +67,8 @@ class QavAlertViewController final : public kindora::UIViewController, public CA
   bool showsDimmingView_ = false;
   bool presentingFirstAlert_ = true;
   bool dismissingLastAlert_ = false;
-  NotificationCenter::Subscription keyboardShows_;
-  NotificationCenter::Subscription keyboardHides_;
+  Subscription keyboardShows_;
+  Subscription keyboardHides_;
 };
 
 }  // namespace kindora

@@ -2,16 +2,18 @@
 // SPDX-License-Identifier: Apache-2.0
 // Tells observers of a key that its value has changed, also when only a key that it depends on has.
 //
-// A copy starts without observers. One thread only.
+// Observers of one key are told in the order in which they came. A copy starts without observers.
+// One thread only.
 #pragma once
 
 #include <functional>
 #include <map>
-#include <memory>
 #include <set>
 #include <string>
 #include <string_view>
 #include <utility>
+
+#include "platform/ObserverList.h"
 
 namespace kindora {
 
@@ -19,30 +21,6 @@ class KeyValueObserving {
  public:
   using Observer = std::function<void()>;
   using Keys = std::set<std::string_view>;
-
- private:
-  struct Entry {
-    std::string key;
-    Observer observer;
-  };
-  using Entries = std::map<int, Entry>;
-
- public:
-  /// Observes until it is destroyed; may outlive the observed.
-  class Subscription {
-   public:
-    Subscription() = default;
-    Subscription(std::weak_ptr<Entries> entries, int id) : entries_(std::move(entries)), id_(id) {}
-    Subscription(Subscription&&) = default;
-    Subscription& operator=(Subscription&& other) noexcept;
-    ~Subscription() { cancel(); }
-
-   private:
-    void cancel();
-
-    std::weak_ptr<Entries> entries_;
-    int id_ = 0;
-  };
 
   virtual ~KeyValueObserving() = default;
   KeyValueObserving& operator=(const KeyValueObserving&) = delete;
@@ -70,8 +48,7 @@ class KeyValueObserving {
  private:
   [[nodiscard]] bool dependsOn(std::string_view key, std::string_view changed) const;
 
-  std::shared_ptr<Entries> entries_;  // made when somebody observes
-  int nextId_ = 1;
+  std::map<std::string, ObserverList<>, std::less<>> observers_;  // by key
 };
 
 }  // namespace kindora

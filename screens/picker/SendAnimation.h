@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+#include "platform/Subscription.h"
 #include "platform/UIImage.h"
 #include "toolkit/view/UIView.h"
 
@@ -36,7 +37,7 @@ class SendAnimation final : public std::enable_shared_from_this<SendAnimation> {
   std::shared_ptr<UIView> container_;
   std::shared_ptr<UIView> picture_;
   std::function<void()> completion_;
-  UIView::Subscription overlayChanged_;
+  Subscription overlayChanged_;
 };
 
 }  // namespace kindora

@@ -10,8 +10,6 @@
 namespace kindora {
 namespace {
 
-using Subscription = NotificationCenter::Subscription;
-
 class NotificationCenterTest : public ::testing::Test {
  protected:
   // Writes down the number that comes with the post, and which observer heard it.

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "platform/Subscription.h"
 #include "toolkit/controllers/UIPresentationController.h"
 #include "toolkit/controllers/UIViewAnimation.h"
 #include "toolkit/controllers/UIViewControllerAnimatedTransitioning.h"
@@ -72,7 +73,7 @@ class ModalPresentation final : public std::enable_shared_from_this<ModalPresent
 
   std::shared_ptr<UIPresentationController> controller_;
   CGRect containerFrame_;
-  UIView::Subscription containerSubscription_;
+  Subscription containerSubscription_;
   QMetaObject::Connection windowConnection_;
   std::shared_ptr<Context> context_;
   Animator animator_;

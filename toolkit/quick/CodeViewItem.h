@@ -5,6 +5,7 @@
 #include <QQuickItem>
 #include <memory>
 
+#include "platform/Subscription.h"
 #include "toolkit/quick/DrawnSubviews.h"
 #include "toolkit/quick/KeyframeTransform.h"
 #include "toolkit/view/UIImageView.h"
@@ -77,7 +78,7 @@ class CodeViewItem final : public QQuickItem {
   std::unique_ptr<ViewItem> button_;
   DrawnSubviews drawn_;
   Surroundings told_;
-  UIView::Subscription subscription_;
+  Subscription subscription_;
   KeyframeTransform keyframeTransform_;
 };
 

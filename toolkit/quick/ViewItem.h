@@ -8,6 +8,7 @@
 #include <QQuickItem>
 #include <memory>
 
+#include "platform/Subscription.h"
 #include "toolkit/controllers/ViewHandle.h"
 #include "toolkit/quick/ImageHandle.h"
 #include "toolkit/quick/KeyframeTransform.h"
@@ -108,7 +109,7 @@ class ViewItem : public QQuickItem {
   QString outlet_;
   std::shared_ptr<UIView> record_;
   std::shared_ptr<UIView> view_;
-  UIView::Subscription subscription_;
+  Subscription subscription_;
   KeyframeTransform keyframeTransform_;
 };
 

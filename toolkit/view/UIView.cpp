@@ -303,44 +303,11 @@ std::shared_ptr<UIView> UIView::viewWithName(std::string_view name) {
   return nullptr;
 }
 
-void UIView::changed() {
-  // An observer may drop its own subscription or another's while it runs.
-  const std::map<int, Observer> observers = observers_;
-  for (const auto& [id, observer] : observers) {
-    if (observers_.contains(id)) observer();
-  }
-}
-
-UIView::Subscription UIView::observe(Observer observer) {
-  const int id = nextObserver_++;
-  observers_[id] = std::move(observer);
-  return {weak_from_this(), id};
-}
-
 bool hasCoveringSubview(const UIView& view) {
   return std::ranges::any_of(view.subviews(), [&](const auto& subview) {
     return subview->isMadeInCode() && subview->isUserInteractionEnabled() &&
            subview->fillsSuperview();
   });
-}
-
-UIView::Subscription::Subscription(Subscription&& other) noexcept
-    : view_(std::exchange(other.view_, {})), id_(other.id_) {}
-
-UIView::Subscription& UIView::Subscription::operator=(Subscription&& other) noexcept {
-  if (this != &other) {
-    cancel();
-    view_ = std::exchange(other.view_, {});
-    id_ = other.id_;
-  }
-  return *this;
-}
-
-UIView::Subscription::~Subscription() { cancel(); }
-
-void UIView::Subscription::cancel() {
-  if (const auto view = view_.lock()) view->observers_.erase(id_);
-  view_.reset();
 }
 
 }  // namespace kindora

@@ -14,10 +14,12 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/CATransform3D.h"
 #include "platform/Geometry.h"
+#include "platform/ObserverList.h"
 #include "platform/UIColor.h"
 #include "toolkit/view/NSLayoutConstraint.h"
 #include "toolkit/view/UIMotionEffect.h"
@@ -249,23 +251,12 @@ class UIView : public std::enable_shared_from_this<UIView> {
   Observer layoutFinished;
 
   /// Calls the observer after every change until the subscription is dropped.
-  class Subscription {
-   public:
-    Subscription() = default;
-    Subscription(std::weak_ptr<UIView> view, int id) : view_(std::move(view)), id_(id) {}
-    Subscription(Subscription&& other) noexcept;
-    Subscription& operator=(Subscription&& other) noexcept;
-    ~Subscription();
-
-   private:
-    void cancel();
-    std::weak_ptr<UIView> view_;
-    int id_ = 0;
-  };
-  [[nodiscard]] Subscription observe(Observer observer);
+  [[nodiscard]] Subscription observe(Observer observer) {
+    return changes_.add(std::move(observer));
+  }
 
  protected:
-  void changed();
+  void changed() { changes_.notify(); }
   /// A pass of layout has given this view its place, or that of a subview has changed: the moment
   /// to place what constraints do not place. Overriders call the one that they override.
   virtual void layoutSubviews() {}
@@ -324,8 +315,7 @@ class UIView : public std::enable_shared_from_this<UIView> {
   bool constantsChanged_ = true;
   bool layoutIsScheduled_ = false;
   bool isLayingOut_ = false;
-  std::map<int, Observer> observers_;
-  int nextObserver_ = 1;
+  ObserverList<> changes_;
 };
 
 /// True while a subview that was made in code takes all input from what lies below it.

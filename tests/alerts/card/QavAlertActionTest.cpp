@@ -87,7 +87,7 @@ TEST(QavAlertAction, CopyIsNotObserved) {
 
 class QavAlertActionEnabled : public testing::Test {
  protected:
-  [[nodiscard]] QavAlertAction::Subscription watch() {
+  [[nodiscard]] Subscription watch() {
     return action->observeEnabled(
         [this](QavAlertAction& which) { seen.push_back(which.isEnabled()); });
   }
@@ -117,8 +117,8 @@ TEST_F(QavAlertActionEnabled, TellsNobodyWhoseSubscriptionHasEnded) {
 }
 
 TEST_F(QavAlertActionEnabled, AnObserverMayEndItsOwnSubscriptionAndThatOfTheNext) {
-  QavAlertAction::Subscription next;
-  QavAlertAction::Subscription own = action->observeEnabled([&](QavAlertAction&) {
+  Subscription next;
+  Subscription own = action->observeEnabled([&](QavAlertAction&) {
     seen.push_back(false);
     own.reset();
     next.reset();

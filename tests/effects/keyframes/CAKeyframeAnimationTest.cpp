@@ -89,7 +89,7 @@ TEST(CAKeyframeAnimation, IsNotCopiedThroughABaseReference) {
 TEST(CAKeyframeAnimation, TellsObserversOfEachSetting) {
   CAKeyframeAnimation animation;
   std::vector<std::string> told;
-  std::vector<KeyValueObserving::Subscription> subscriptions;
+  std::vector<Subscription> subscriptions;
   for (const char* key :
        {"keyPath", "duration", "values", "path", "fillMode", "removedOnCompletion", "repeatCount",
         "calculationMode", "timingFunction", "delegate"}) {

@@ -92,7 +92,7 @@ TEST(KeyValueObserving, NewSubscriptionReplacesTheOldOne) {
 }
 
 TEST(KeyValueObserving, SubscriptionMayOutliveTheObserved) {
-  KeyValueObserving::Subscription subscription;
+  Subscription subscription;
   {
     Account account;
     subscription = account.addObserver("left", [] {});
@@ -103,7 +103,7 @@ TEST(KeyValueObserving, SubscriptionMayOutliveTheObserved) {
 TEST(KeyValueObserving, ObserverRemovedByAnotherIsNotCalledAnyMore) {
   Account account;
   int told = 0;
-  std::optional<KeyValueObserving::Subscription> second;
+  std::optional<Subscription> second;
   const auto first = account.addObserver("left", [&] { second.reset(); });
   second = account.addObserver("left", [&] { ++told; });
   account.setLeft(1);
@@ -113,7 +113,7 @@ TEST(KeyValueObserving, ObserverRemovedByAnotherIsNotCalledAnyMore) {
 TEST(KeyValueObserving, ObserverAddedByAnotherHearsOfTheNextChange) {
   Account account;
   int told = 0;
-  std::optional<KeyValueObserving::Subscription> second;
+  std::optional<Subscription> second;
   const auto first = account.addObserver("left", [&] {
     if (!second) second = account.addObserver("left", [&] { ++told; });
   });

@@ -26,7 +26,7 @@ class KeyboardSourceTest : public QuickFixture {
 
   using Names = std::vector<std::string_view>;
   const std::unique_ptr<KeyboardSource> source = place<KeyboardSource>({20, 0, 60, 100});
-  std::vector<NotificationCenter::Subscription> subscriptions;
+  std::vector<Subscription> subscriptions;
   Names heard;
   KeyboardNotification last;
 };

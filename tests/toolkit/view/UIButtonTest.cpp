@@ -13,7 +13,7 @@ class UIButtonTest : public ::testing::Test {
  protected:
   const std::shared_ptr<UIButton> button = std::make_shared<UIButton>();
   int changes = 0;
-  const UIView::Subscription subscription = button->observe([this] { ++changes; });
+  const Subscription subscription = button->observe([this] { ++changes; });
 };
 
 TEST_F(UIButtonTest, IsEnabledAtTheStart) {

@@ -15,7 +15,7 @@ class UIImageViewTest : public ::testing::Test {
 
   const std::shared_ptr<UIImageView> view = std::make_shared<UIImageView>();
   int changes = 0;
-  const UIView::Subscription subscription = view->observe([this] { ++changes; });
+  const Subscription subscription = view->observe([this] { ++changes; });
 };
 
 TEST_F(UIImageViewTest, ShowsNothingAtTheStart) { EXPECT_EQ(view->image(), nullptr); }

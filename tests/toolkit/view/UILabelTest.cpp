@@ -13,7 +13,7 @@ class UILabelTest : public ::testing::Test {
  protected:
   const std::shared_ptr<UILabel> label = std::make_shared<UILabel>();
   int changes = 0;
-  const UIView::Subscription subscription = label->observe([this] { ++changes; });
+  const Subscription subscription = label->observe([this] { ++changes; });
 };
 
 TEST_F(UILabelTest, LeavesEverythingToTheStoryboardAtTheStart) {

@@ -23,7 +23,7 @@ class UIViewKeyframesTest : public ::testing::Test {
 
   const std::shared_ptr<UIView> view = std::make_shared<UIView>();
   int changes = 0;
-  const UIView::Subscription subscription = view->observe([this] { ++changes; });
+  const Subscription subscription = view->observe([this] { ++changes; });
 };
 
 TEST_F(UIViewKeyframesTest, AreNoneAtTheStart) {

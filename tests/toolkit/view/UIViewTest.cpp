@@ -20,7 +20,7 @@ class UIViewTest : public ::testing::Test {
  protected:
   const std::shared_ptr<UIView> view = named("view");
   int changes = 0;
-  UIView::Subscription subscription = view->observe([this] { ++changes; });
+  Subscription subscription = view->observe([this] { ++changes; });
 };
 
 // --- State ---
@@ -153,7 +153,7 @@ TEST_F(UIViewTest, ADroppedSubscriptionHearsNothing) {
 }
 
 TEST_F(UIViewTest, AMovedSubscriptionStillHears) {
-  const UIView::Subscription moved = std::move(subscription);
+  const Subscription moved = std::move(subscription);
   view->setAlpha(0);
   EXPECT_EQ(changes, 1);
 }
@@ -167,7 +167,7 @@ TEST_F(UIViewTest, EveryObserverHears) {
 }
 
 TEST_F(UIViewTest, AnObserverMayDropItself) {
-  UIView::Subscription own;
+  Subscription own;
   int heard = 0;
   own = view->observe([&] {
     ++heard;
@@ -180,7 +180,7 @@ TEST_F(UIViewTest, AnObserverMayDropItself) {
 }
 
 TEST_F(UIViewTest, AnObserverMayDropTheNext) {
-  UIView::Subscription next;
+  Subscription next;
   bool heard = false;
   const auto first = view->observe([&next] { next = {}; });
   next = view->observe([&heard] { heard = true; });
@@ -190,7 +190,7 @@ TEST_F(UIViewTest, AnObserverMayDropTheNext) {
 
 TEST_F(UIViewTest, ASubscriptionMayOutliveItsView) {
   auto passing = named("passing");
-  UIView::Subscription kept = passing->observe([] {});
+  Subscription kept = passing->observe([] {});
   passing.reset();
   kept = {};
   SUCCEED();
