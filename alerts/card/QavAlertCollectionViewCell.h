@@ -8,6 +8,7 @@
 #include "alerts/card/QavAlertControllerVisualStyle.h"
 #include "alerts/card/QavCollectionReusableView.h"
 #include "toolkit/view/UILabel.h"
+#include "toolkit/view/UITapGestureRecognizer.h"
 
 namespace kindora {
 

@@ -37,7 +37,6 @@ struct UIOffset {
   friend constexpr bool operator==(const UIOffset&, const UIOffset&) = default;
 };
 
-using UIViewRef = std::shared_ptr<UIView>;
 using NSLayoutConstraints = std::vector<NSLayoutConstraintRef>;
 
 /// The view itself if the other lies inside it, the other if it is the other way round, else the

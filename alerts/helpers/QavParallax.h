@@ -3,6 +3,7 @@
 #pragma once
 
 #include "alerts/helpers/QavAutoLayout.h"
+#include "toolkit/view/UIMotionEffect.h"
 
 namespace kindora {
 

@@ -3,6 +3,7 @@
 #include "alerts/legacy/QavAlertViewButtonRow.h"
 
 #include "alerts/helpers/QavAutoLayout.h"
+#include "toolkit/view/UITapGestureRecognizer.h"
 
 namespace kindora {
 namespace {

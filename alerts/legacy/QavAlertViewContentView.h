@@ -19,6 +19,7 @@
 #include "alerts/legacy/QavAlertViewFormats.h"
 #include "alerts/legacy/QavAlertViewStyle.h"
 #include "alerts/legacy/QavAlertViewTextField.h"
+#include "toolkit/view/NSLayoutConstraint.h"
 #include "toolkit/view/UIScrollView.h"
 
 namespace kindora {

@@ -21,12 +21,11 @@ void ConstraintLayoutAttached::setConstraintBased(bool constraintBased) {
 }
 
 ConstraintLayout::ConstraintLayout(QQuickItem* parent) : QQuickItem(parent) {
-  const std::shared_ptr<ItemView> view = viewOfItem(*this);
-  view->layoutScheduled = [this] { polish(); };
+  viewOfItem(*this)->setRenderer(*this);
   polish();
 }
 
-ConstraintLayout::~ConstraintLayout() { viewOfItem(*this)->layoutScheduled = {}; }
+ConstraintLayout::~ConstraintLayout() { viewOfItem(*this)->removeRenderer(*this); }
 
 ConstraintLayoutAttached* ConstraintLayout::qmlAttachedProperties(QObject* object) {
   return new ConstraintLayoutAttached(object);

@@ -4,8 +4,10 @@
 
 #include <QtQml/qqml.h>
 #include <QQuickItem>
+#include <optional>
 
 #include "alerts/qt/ItemView.h"
+#include "toolkit/view/UIViewRenderer.h"
 
 namespace kindora {
 
@@ -43,7 +45,7 @@ class ConstraintLayoutAttached : public QObject {
 /// script. An item in it that also has anchors is pulled two ways. A layout that lies directly in
 /// another one is placed by that and solved with it; any other stands for itself. Whatever items do
 /// in answer to being placed, a pass of layout ends.
-class ConstraintLayout : public QQuickItem, public ConstraintPlacer {
+class ConstraintLayout : public QQuickItem, public ConstraintPlacer, private UIViewRenderer {
   Q_OBJECT
   QML_ELEMENT
   QML_ATTACHED(ConstraintLayoutAttached)
@@ -56,6 +58,11 @@ class ConstraintLayout : public QQuickItem, public ConstraintPlacer {
 
  protected:
   void updatePolish() override;
+
+ private:
+  // Records of items know nothing of windows.
+  [[nodiscard]] std::optional<CGPoint> originInWindow() const override { return {}; }
+  void layoutScheduled() override { polish(); }
 };
 
 }  // namespace kindora

@@ -9,6 +9,7 @@
 #include "platform/NotificationCenter.h"
 #include "platform/Subscription.h"
 #include "toolkit/controllers/UIViewController.h"
+#include "toolkit/view/NSLayoutConstraint.h"
 
 namespace kindora {
 

@@ -9,6 +9,7 @@
 
 #include "benchmarks/layout/Sizes.h"
 #include "benchmarks/support/HeapUse.h"
+#include "toolkit/view/NSLayoutConstraint.h"
 #include "toolkit/view/UIView.h"
 
 namespace kindora {

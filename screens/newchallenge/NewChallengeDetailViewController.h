@@ -7,6 +7,7 @@
 #include "effects/scratch/JxScratchImageView.h"
 #include "model/Challenge.h"
 #include "toolkit/controllers/UIViewController.h"
+#include "toolkit/view/NSLayoutConstraint.h"
 #include "toolkit/view/UIButton.h"
 #include "toolkit/view/UIImageView.h"
 #include "toolkit/view/UILabel.h"

@@ -21,7 +21,6 @@ UIViewController::UIViewController() {
 
 UIViewController::~UIViewController() {
   for (const auto& child : children_) child->parent_ = nullptr;
-  if (view_) view_->layoutFinished = {};
 }
 
 // --- Life ---
@@ -34,7 +33,7 @@ const std::shared_ptr<UIView>& UIViewController::view() {
 void UIViewController::loadViewIfNeeded() {
   if (view_) return;
   view_ = loadView();
-  view_->layoutFinished = [this] { viewDidLayoutSubviews(); };
+  layouts_ = view_->observeLayout([this] { viewDidLayoutSubviews(); });
   if (scene_ != nullptr && scene_->connectOutlets) scene_->connectOutlets(*this);
   viewDidLoad();
 }

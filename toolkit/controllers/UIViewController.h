@@ -14,6 +14,7 @@
 #include <memory>
 #include <string_view>
 
+#include "platform/Subscription.h"
 #include "toolkit/controllers/UINavigationItem.h"
 #include "toolkit/controllers/UIResponder.h"
 #include "toolkit/controllers/UIStoryboard.h"
@@ -218,6 +219,7 @@ class UIViewController : public kindora::UIResponder,
   [[nodiscard]] UIViewController* unwindTarget(std::string_view action);
 
   std::shared_ptr<UIView> view_;
+  Subscription layouts_;
   Appearance appearance_ = Appearance::disappeared;
   bool animatedAppearance_ = false;
   QString title_;

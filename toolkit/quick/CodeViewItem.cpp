@@ -20,6 +20,7 @@
 #include "toolkit/quick/ViewItem.h"
 #include "toolkit/view/MotionEffects.h"
 #include "toolkit/view/UILabel.h"
+#include "toolkit/view/UIMotionEffect.h"
 #include "toolkit/view/UIScrollView.h"
 #include "toolkit/view/UITextField.h"
 #include "toolkit/view/UIVisualEffectView.h"

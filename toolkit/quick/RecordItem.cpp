@@ -15,9 +15,7 @@ RecordItem::~RecordItem() { leave(); }
 
 void RecordItem::leave() {
   if (drawn_) retire(std::move(drawn_));
-  if (!view_) return;
-  view_->locateInWindow = {};
-  view_->layoutScheduled = {};
+  if (view_) view_->removeRenderer(*this);
 }
 
 void RecordItem::setRecord(const ViewHandle& record) {
@@ -25,15 +23,16 @@ void RecordItem::setRecord(const ViewHandle& record) {
   leave();
   view_ = record.view;
   if (view_) {
-    view_->locateInWindow = [this]() -> std::optional<CGPoint> {
-      const QPointF origin = mapToScene({0, 0});
-      return CGPoint{origin.x(), origin.y()};
-    };
-    view_->layoutScheduled = [this] { polish(); };
+    view_->setRenderer(*this);
     place();
     drawn_ = std::make_unique<CodeViewItem>(view_, this);
   }
   emit recordChanged();
+}
+
+std::optional<CGPoint> RecordItem::originInWindow() const {
+  const QPointF origin = mapToScene({0, 0});
+  return CGPoint{origin.x(), origin.y()};
 }
 
 void RecordItem::geometryChange(const QRectF& now, const QRectF& before) {

@@ -4,10 +4,11 @@
 
 #include <QQuickItem>
 #include <memory>
-#include <vector>
+#include <optional>
 
 #include "toolkit/controllers/ViewHandle.h"
 #include "toolkit/view/UIView.h"
+#include "toolkit/view/UIViewRenderer.h"
 
 namespace kindora {
 
@@ -15,7 +16,7 @@ class CodeViewItem;
 
 /// Draws a tree of views made in code. Its root is as large as the item, and what needs layout is
 /// laid out before the next frame. At most one item draws a tree.
-class RecordItem : public QQuickItem {
+class RecordItem : public QQuickItem, private UIViewRenderer {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(kindora::ViewHandle record READ record WRITE setRecord NOTIFY recordChanged)
@@ -35,6 +36,8 @@ class RecordItem : public QQuickItem {
   void updatePolish() override;
 
  private:
+  [[nodiscard]] std::optional<CGPoint> originInWindow() const override;
+  void layoutScheduled() override { polish(); }
   void leave();
   void place();
 

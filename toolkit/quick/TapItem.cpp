@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/quick/TapItem.h"
 
+#include "toolkit/view/UITapGestureRecognizer.h"
+
 namespace kindora {
 
 bool TapItem::isTappable() const {

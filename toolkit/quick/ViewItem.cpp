@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/quick/ViewItem.h"
 
-#include <QPointer>
-
 #include "platform/FatalError.h"
 #include "toolkit/controllers/Colors.h"
 #include "toolkit/controllers/UIApplication.h"
@@ -26,6 +24,12 @@ QColor templateTint(const UIImageView& view) {
 ViewItem::ViewItem(QQuickItem* parent) : QQuickItem(parent) {
   connect(UIApplication::sharedApplication(), &UIApplication::tintColorChanged, this,
           &ViewItem::windowTintDidChange);
+}
+
+ViewItem::~ViewItem() { leave(); }
+
+void ViewItem::leave() {
+  if (view_) view_->removeRenderer(*this);
 }
 
 void ViewItem::windowTintDidChange() {
@@ -60,6 +64,7 @@ void ViewItem::componentComplete() {
 
 void ViewItem::connectView() {
   subscription_ = {};
+  leave();
   view_ = record_;
   if (record_) {
     subscription_ = view_->observe([this] { viewDidChange(); });
@@ -68,13 +73,14 @@ void ViewItem::connectView() {
     if (!view_) fatalError("no outlet \"" + outlet_.toStdString() + "\"");
     subscription_ = view_->observe([this] { viewDidChange(); });
     view_->reportFrame({{x(), y()}, {width(), height()}});
-    view_->locateInWindow = [item = QPointer<ViewItem>(this)]() -> std::optional<CGPoint> {
-      if (!item) return std::nullopt;
-      const QPointF origin = item->mapToScene({0, 0});
-      return CGPoint{origin.x(), origin.y()};
-    };
+    view_->setRenderer(*this);
   }
   viewDidChange();
+}
+
+std::optional<CGPoint> ViewItem::originInWindow() const {
+  const QPointF origin = mapToScene({0, 0});
+  return CGPoint{origin.x(), origin.y()};
 }
 
 void ViewItem::viewDidChange() {

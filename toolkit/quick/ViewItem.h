@@ -7,12 +7,14 @@
 #include <QPointF>
 #include <QQuickItem>
 #include <memory>
+#include <optional>
 
 #include "platform/Subscription.h"
 #include "toolkit/controllers/ViewHandle.h"
 #include "toolkit/quick/ImageHandle.h"
 #include "toolkit/quick/KeyframeTransform.h"
 #include "toolkit/view/UIView.h"
+#include "toolkit/view/UIViewRenderer.h"
 
 namespace kindora {
 
@@ -27,7 +29,7 @@ class UIImageView;
 ///
 /// In place of an outlet it may be given a view itself. Then it only shows what the view contains:
 /// place, alpha and presence are left to the item in which it lies.
-class ViewItem : public QQuickItem {
+class ViewItem : public QQuickItem, private UIViewRenderer {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QObject* owner READ owner WRITE setOwner NOTIFY ownerChanged REQUIRED)
@@ -52,6 +54,7 @@ class ViewItem : public QQuickItem {
 
  public:
   explicit ViewItem(QQuickItem* parent = nullptr);
+  ~ViewItem() override;
 
   [[nodiscard]] QObject* owner() const { return owner_; }
   void setOwner(QObject* owner);
@@ -102,6 +105,8 @@ class ViewItem : public QQuickItem {
   virtual void viewDidChange();
 
  private:
+  [[nodiscard]] std::optional<CGPoint> originInWindow() const override;
+  void leave();
   void connectView();
   void windowTintDidChange();
 

@@ -239,7 +239,7 @@ LayoutEngine::Entry& LayoutEngine::entryOf(UIView& view) {
   }
   entry.firstBaseline = view.firstBaselineFromTop();
   entry.lastBaseline = view.lastBaselineFromBottom();
-  entry.contentRevision = view.contentRevision_;
+  entry.contentRevision = view.contentRevision();
   return entry;
 }
 
@@ -279,8 +279,8 @@ bool LayoutEngine::takeOverFrames() {
 void LayoutEngine::takeOverContents(bool& baselinesChanged) {
   for (auto& [key, entry] : entries_) {
     const auto view = entry.view.lock();
-    if (!view || entry.contentRevision == view->contentRevision_) continue;
-    entry.contentRevision = view->contentRevision_;
+    if (!view || entry.contentRevision == view->contentRevision()) continue;
+    entry.contentRevision = view->contentRevision();
     if (entry.constraintBased) {
       const CGSize content = view->intrinsicContentSize();
       setContent(entry.horizontal, content.width);

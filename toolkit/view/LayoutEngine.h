@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "layout/Solver.h"
+#include "toolkit/view/NSLayoutConstraint.h"
 #include "toolkit/view/UIView.h"
 
 namespace kindora {

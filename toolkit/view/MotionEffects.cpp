@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/services/MotionService.h"
 #include "platform/services/ViewServices.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 

@@ -5,10 +5,12 @@
 #include <memory>
 #include <vector>
 
-#include "platform/services/MotionService.h"
-#include "toolkit/view/UIView.h"
+#include "platform/Geometry.h"
+#include "toolkit/view/UIViewRef.h"
 
 namespace kindora {
+
+class MotionService;
 
 /// Gives the phone's tilt to the views on the screen that have motion effects. The sensor rests
 /// while there is none. Main thread only.

@@ -69,11 +69,7 @@ NSLayoutConstraint::NSLayoutConstraint(Parts parts)
 void NSLayoutConstraint::setConstant(double constant) {
   if (parts_.constant == constant) return;
   parts_.constant = constant;
-  if (const auto owner = owner_.lock()) owner->constraintDidChange();
-}
-
-bool NSLayoutConstraint::mentions(const UIView& view) const {
-  return firstItem().get() == &view || secondItem().get() == &view;
+  if (const auto owner = owner_.lock()) owner->setNeedsUpdateConstraints();
 }
 
 std::string NSLayoutConstraint::description() const {

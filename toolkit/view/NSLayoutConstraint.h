@@ -68,13 +68,12 @@ class NSLayoutConstraint final {
   [[nodiscard]] std::shared_ptr<UIView> owner() const { return owner_.lock(); }
   /// Later ones have higher numbers.
   [[nodiscard]] std::uint64_t serial() const { return serial_; }
-  /// Whether it speaks of the view.
-  [[nodiscard]] bool mentions(const UIView& view) const;
   /// As in "a.left = b.right + 8", with the views' names where they have one.
   [[nodiscard]] std::string description() const;
 
  private:
-  friend class UIView;
+  friend class UIView;  // sets the owner
+
   Parts parts_;
   std::weak_ptr<UIView> owner_;
   std::uint64_t serial_;

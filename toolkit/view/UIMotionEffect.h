@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/Geometry.h"
+
 namespace kindora {
 
 enum class UIInterpolatingMotionEffectType {
@@ -28,5 +30,8 @@ struct UIMotionEffectGroup {
   std::vector<UIInterpolatingMotionEffect> motionEffects;
   friend bool operator==(const UIMotionEffectGroup&, const UIMotionEffectGroup&) = default;
 };
+
+/// How far a view with these effects is displaced at a tilt, each direction -1 to 1.
+[[nodiscard]] CGPoint offsetAtTilt(const std::vector<UIMotionEffectGroup>& groups, CGPoint tilt);
 
 }  // namespace kindora

@@ -3,6 +3,7 @@
 #include "toolkit/view/UIViewAnimationBlock.h"
 
 #include "platform/FatalError.h"
+#include "toolkit/view/UIViewAnimatable.h"
 
 namespace kindora {
 namespace {
@@ -26,7 +27,7 @@ UIViewAnimationBlock::UIViewAnimationBlock(const std::function<void()>& animatio
 
 UIViewAnimationBlock* UIViewAnimationBlock::current() { return running; }
 
-void UIViewAnimationBlock::willChange(const std::shared_ptr<UIView>& view) {
+void UIViewAnimationBlock::willChange(const std::shared_ptr<UIViewAnimatable>& view) {
   tracks_.try_emplace(view.get(), Track{view, view->presentation(), {}, 0});
 }
 

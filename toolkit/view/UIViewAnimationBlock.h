@@ -6,11 +6,12 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <optional>
 
-#include "toolkit/view/UIView.h"
+#include "toolkit/view/UIViewState.h"
 
 namespace kindora {
+
+class UIViewAnimatable;
 
 /// Catches the changes that a closure makes to views, so that they can be shown over time.
 ///
@@ -27,16 +28,16 @@ class UIViewAnimationBlock {
   /// The block whose closure runs now; null outside.
   [[nodiscard]] static UIViewAnimationBlock* current();
   /// Remembers what the view shows before its first change in this block.
-  void willChange(const std::shared_ptr<UIView>& view);
+  void willChange(const std::shared_ptr<UIViewAnimatable>& view);
 
  private:
   struct Track {
-    std::weak_ptr<UIView> view;
+    std::weak_ptr<UIViewAnimatable> view;
     UIViewState from;
     UIViewState to;
     std::uint64_t revision = 0;  // of the view's state when the closure had run
   };
-  std::map<const UIView*, Track> tracks_;
+  std::map<const UIViewAnimatable*, Track> tracks_;
 };
 
 }  // namespace kindora

@@ -4,28 +4,12 @@
 #include <algorithm>
 #include <utility>
 
-#include "toolkit/view/LayoutEngine.h"
+#include "toolkit/view/LayoutPasses.h"
+#include "toolkit/view/NSLayoutConstraint.h"
 #include "toolkit/view/UIView.h"
+#include "toolkit/view/UIViewRenderer.h"
 
 namespace kindora {
-namespace {
-
-// Views that agree need two or three rounds. What has not settled by then never will.
-constexpr int kMostRounds = 50;
-
-}  // namespace
-
-bool UIView::contains(const UIView& other) const {
-  if (&other == this) return true;
-  const std::shared_ptr<UIView> up = other.superview();
-  return up && contains(*up);
-}
-
-UIView& UIView::topmostView() {
-  UIView* top = this;
-  while (const auto up = top->superview()) top = up.get();
-  return *top;
-}
 
 // --- Constraints ---
 
@@ -34,14 +18,14 @@ void UIView::addConstraint(NSLayoutConstraintRef constraint) {
   constraint->owner_ = weak_from_this();
   constraints_.push_back(std::move(constraint));
   structureChanged();
-  constraintDidChange();
+  setNeedsUpdateConstraints();
 }
 
 void UIView::removeConstraint(const NSLayoutConstraintRef& constraint) {
   if (std::erase(constraints_, constraint) == 0) return;
   constraint->owner_.reset();
   structureChanged();
-  constraintDidChange();
+  setNeedsUpdateConstraints();
 }
 
 void UIView::removeConstraintsOn(const UIView& leaving) {
@@ -65,16 +49,21 @@ void UIView::setTranslatesAutoresizingMaskIntoConstraints(bool translates) {
   structureChanged();
 }
 
-void UIView::constraintDidChange() {
-  if (laidOut_) layoutTarget_ = state_.layout + 1;
-  topmostView().constantsChanged_ = true;
+void UIView::setNeedsUpdateConstraints() {
+  if (laidOut_) layoutTarget_ = state().layout + 1;
+  topmostView().passes().constantsChanged();
   scheduleLayout();
 }
 
 // --- Passes ---
 
+LayoutPasses& UIView::passes() {
+  if (!passes_) passes_ = std::make_unique<LayoutPasses>(*this);
+  return *passes_;
+}
+
 void UIView::structureChanged() {
-  topmostView().structureChanged_ = true;
+  topmostView().passes().structureChanged();
   scheduleLayout();
 }
 
@@ -90,42 +79,24 @@ void UIView::setNeedsLayout() {
 
 void UIView::scheduleLayout() {
   UIView& top = topmostView();
-  if (std::exchange(top.layoutIsScheduled_, true) || top.isLayingOut_) return;
-  if (top.layoutScheduled) top.layoutScheduled();
+  if (top.passes().schedule() && top.renderer_ != nullptr) top.renderer_->layoutScheduled();
 }
 
 void UIView::layoutIfNeeded() {
-  if (layoutRequested) layoutRequested();
   laidOut_ = true;
-  if (layoutTarget_ > state_.layout) {
-    UIViewState next = state_;
+  if (layoutTarget_ > state().layout) {
+    UIViewState next = state();
     next.layout = layoutTarget_;
     setState(next);
   }
-  topmostView().runLayoutPasses();
-}
-
-void UIView::runLayoutPasses() {
-  if (isLayingOut_) return;
-  const std::shared_ptr<UIView> alive = weak_from_this().lock();
-  isLayingOut_ = true;
-  if (!engine_) engine_ = std::make_unique<LayoutEngine>(*this);
-  for (int round = 0; round < kMostRounds; ++round) {
-    layoutIsScheduled_ = false;
-    engine_->takeOver({.structure = std::exchange(structureChanged_, false),
-                       .constants = std::exchange(constantsChanged_, false)});
-    engine_->placeViews();
-    layOutMarkedViews();
-    if (!layoutIsScheduled_) break;
-  }
-  layoutIsScheduled_ = false;
-  isLayingOut_ = false;
+  UIView& top = topmostView();
+  top.passes().run([&top] { top.layOutMarkedViews(); });
 }
 
 void UIView::layOutMarkedViews() {
   if (std::exchange(needsLayout_, false)) {
     layoutSubviews();
-    if (layoutFinished) layoutFinished();
+    layouts_.notify();
   }
   const auto inside = subviews_;  // the views may change it while they lay themselves out
   for (const auto& view : inside) view->layOutMarkedViews();

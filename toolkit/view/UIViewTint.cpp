@@ -2,42 +2,32 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/view/UIViewTint.h"
 
-#include "toolkit/view/UIView.h"
-
 namespace kindora {
 
-void UIView::setTintAdjustmentMode(UIViewTintAdjustmentMode mode) {
-  if (tintAdjustmentMode_ == mode) return;
-  tintAdjustmentMode_ = mode;
-  tintChanged();
+void UIViewTint::setTintAdjustmentMode(UIViewTintAdjustmentMode mode) {
+  if (mode_ == mode) return;
+  mode_ = mode;
+  tintDidChange();
 }
 
-bool UIView::isTintDimmed() const {
-  if (tintAdjustmentMode_ != UIViewTintAdjustmentMode::automatic) {
-    return tintAdjustmentMode_ == UIViewTintAdjustmentMode::dimmed;
+bool UIViewTint::isTintDimmed() const {
+  if (mode_ != UIViewTintAdjustmentMode::automatic) {
+    return mode_ == UIViewTintAdjustmentMode::dimmed;
   }
-  const std::shared_ptr<UIView> parent = superview_.lock();
-  return parent && parent->isTintDimmed();
+  const auto above = tintAbove();
+  return above && above->isTintDimmed();
 }
 
-void UIView::setTintColor(const UIColor& color) {
-  if (ownTintColor_ == color) return;
-  ownTintColor_ = color;
-  tintChanged();
+void UIViewTint::setTintColor(const UIColor& color) {
+  if (ownColor_ == color) return;
+  ownColor_ = color;
+  tintDidChange();
 }
 
-UIColor UIView::tintColor(const UIColor& otherwise) const {
-  std::optional<UIColor> color = ownTintColor_;
-  for (auto up = superview_.lock(); up && !color; up = up->superview_.lock()) {
-    color = up->ownTintColor_;
-  }
+UIColor UIViewTint::tintColor(const UIColor& otherwise) const {
+  std::optional<UIColor> color = ownColor_;
+  for (auto up = tintAbove(); up && !color; up = up->tintAbove()) color = up->ownColor_;
   return isTintDimmed() ? desaturated(color.value_or(otherwise)) : color.value_or(otherwise);
-}
-
-void UIView::tintChanged() {
-  changed();
-  const std::vector<std::shared_ptr<UIView>> views = subviews_;
-  for (const auto& view : views) view->tintChanged();
 }
 
 }  // namespace kindora

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/view/UIVisualEffectView.h"
 
+#include "toolkit/view/NSLayoutConstraint.h"
+
 namespace kindora {
 
 std::shared_ptr<UIVisualEffectView> UIVisualEffectView::withBlur(UIBlurEffectStyle style) {

@@ -13,6 +13,7 @@
 #include "alerts/card/QavAlertControllerView.h"
 #include "platform/fakes/FakeViewServices.h"
 #include "toolkit/view/LayoutEngine.h"
+#include "toolkit/view/UITapGestureRecognizer.h"
 
 namespace kindora {
 

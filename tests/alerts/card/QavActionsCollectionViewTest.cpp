@@ -170,8 +170,8 @@ TEST_F(QavActionsCollectionViewTest, RestsWhenNothingHasChanged) {
   show(3);
   int changes = 0;
   int passes = 0;
-  view->layoutFinished = [&] { ++passes; };
-  const auto subscription = view->observe([&] { ++changes; });
+  const auto ofPasses = view->observeLayout([&] { ++passes; });
+  const auto ofChanges = view->observe([&] { ++changes; });
   view->layoutIfNeeded();
   EXPECT_EQ(passes, 0);
   EXPECT_EQ(changes, 0);

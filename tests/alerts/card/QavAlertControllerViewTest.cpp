@@ -8,6 +8,8 @@
 
 #include "alerts/card/QavAlertControllerDefaultVisualStyle.h"
 #include "tests/alerts/card/CardFixture.h"
+#include "tests/toolkit/view/FakeRenderer.h"
+#include "toolkit/view/UIMotionEffect.h"
 
 namespace kindora {
 namespace {
@@ -260,16 +262,15 @@ TEST_F(QavAlertControllerViewTest, LayoutSettlesSoonAndThenRests) {
   card->showTextFieldView(QavAlertTextFieldTableView::withTextFields(
       {std::make_shared<UITextField>(), std::make_shared<UITextField>()}, card->visualStyle()));
   int passes = 0;
-  card->scrollView()->layoutFinished = [&] { ++passes; };
+  const auto subscription = card->scrollView()->observeLayout([&] { ++passes; });
   show(3);
   EXPECT_GT(passes, 0);
   EXPECT_LT(passes, 10);
   passes = 0;
-  int scheduled = 0;
-  window->layoutScheduled = [&] { ++scheduled; };
+  const FakeRenderer renderer(*window);
   window->layoutIfNeeded();
   EXPECT_EQ(passes, 0);
-  EXPECT_EQ(scheduled, 0);
+  EXPECT_EQ(renderer.scheduled, 0);
 }
 
 TEST_F(QavAlertControllerViewTest, LeavesNothingBehind) {

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "alerts/helpers/QavAutoLayout.h"
+#include "tests/toolkit/view/FakeRenderer.h"
 #include "tests/toolkit/view/LayoutFixture.h"
 #include "toolkit/view/UILabel.h"
 
@@ -117,17 +118,16 @@ TEST_F(QavIntrinsicallySizedViewTest, FollowsSubviewsThatConstraintsPlace) {
 }
 
 TEST_F(QavIntrinsicallySizedViewTest, SettlesInOnePassOfLayout) {
-  int scheduled = 0;
   stand();
   add({{0, 0}, {50, 20}});
   root->layoutIfNeeded();
-  root->layoutScheduled = [&scheduled] { ++scheduled; };
+  const FakeRenderer renderer(*root);
   root->layoutIfNeeded();
-  EXPECT_EQ(scheduled, 0);
+  EXPECT_EQ(renderer.scheduled, 0);
   add({{0, 0}, {60, 20}});
-  EXPECT_EQ(scheduled, 1);
+  EXPECT_EQ(renderer.scheduled, 1);
   root->layoutIfNeeded();
-  EXPECT_EQ(scheduled, 1);
+  EXPECT_EQ(renderer.scheduled, 1);
   EXPECT_EQ(view->frame().size, (CGSize{60, 20}));
 }
 

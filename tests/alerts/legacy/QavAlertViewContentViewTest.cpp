@@ -8,6 +8,7 @@
 #include "alerts/legacy/QavLocalizedString.h"
 #include "platform/fakes/FakeViewServices.h"
 #include "toolkit/view/LayoutEngine.h"
+#include "toolkit/view/UITapGestureRecognizer.h"
 
 namespace kindora {
 namespace {

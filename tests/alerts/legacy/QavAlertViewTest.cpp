@@ -6,6 +6,9 @@
 
 #include "alerts/legacy/QavAlertViewColors.h"
 #include "tests/alerts/legacy/AlertFixture.h"
+#include "toolkit/view/NSLayoutConstraint.h"
+#include "toolkit/view/UIMotionEffect.h"
+#include "toolkit/view/UITapGestureRecognizer.h"
 
 namespace kindora {
 namespace {

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "effects/qt/LayerAnimations.h"
@@ -14,6 +15,7 @@
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 #include "screens/picker/KindoraTableViewController.h"
 #include "tests/support/app/AppFixture.h"
+#include "tests/toolkit/view/FakeRenderer.h"
 #include "toolkit/view/UIControl.h"
 
 namespace kindora {
@@ -40,8 +42,8 @@ class InProgressCeremonyTest : public AppFixture {
 
   void layOut() {
     screen().imageView.lock()->reportFrame(kPicture);
-    root().locateInWindow = [] { return kPageOrigin; };
-    tab("tabBar").locateInWindow = [] { return kBarOrigin; };
+    page_.emplace(root(), kPageOrigin);
+    bar_.emplace(tab("tabBar"), kBarOrigin);
     tab("tab0").reportFrame({{0, 0}, {195, 49}});
     tab("tab1").reportFrame({{195, 0}, {195, 49}});
   }
@@ -95,6 +97,8 @@ class InProgressCeremonyTest : public AppFixture {
 
  private:
   double elapsed_ = 0;
+  std::optional<FakeRenderer> page_;
+  std::optional<FakeRenderer> bar_;
 };
 
 }  // namespace kindora

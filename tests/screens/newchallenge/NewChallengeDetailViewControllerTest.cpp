@@ -17,6 +17,7 @@ TEST_F(NewChallengeDetailViewControllerTest, AMissingChallengeStops) {
 
 TEST_F(NewChallengeDetailViewControllerTest, IsLaidOutBeforeItTakesItsCover) {
   bool laidOut = false;
+  Subscription layouts;
   UIImageRef coverThen = fakes.bundle->imageNamed("another");
   const UIStoryboard storyboard({{.identifier = "screen",
                                   .make = [] { return makeViewController<Screen>(); },
@@ -24,10 +25,10 @@ TEST_F(NewChallengeDetailViewControllerTest, IsLaidOutBeforeItTakesItsCover) {
                                       [&](UIViewController& controller) {
                                         auto& made = dynamic_cast<Screen&>(controller);
                                         made.connectOutlets();
-                                        made.view()->layoutRequested = [&] {
+                                        layouts = made.view()->observeLayout([&] {
                                           laidOut = true;
                                           coverThen = made.scratchImageView.lock()->image();
-                                        };
+                                        });
                                       }}});
   const auto made =
       std::dynamic_pointer_cast<Screen>(storyboard.instantiateViewController("screen"));

@@ -6,6 +6,8 @@
 #include "tests/toolkit/quick/RecordFixture.h"
 #include "toolkit/quick/BlurItem.h"
 #include "toolkit/quick/DrawnPlace.h"
+#include "toolkit/view/NSLayoutConstraint.h"
+#include "toolkit/view/UIMotionEffect.h"
 #include "toolkit/view/UIScrollView.h"
 #include "toolkit/view/UIVisualEffectView.h"
 

@@ -7,6 +7,7 @@
 
 #include "tests/toolkit/quick/RecordFixture.h"
 #include "toolkit/view/UILabel.h"
+#include "toolkit/view/UITapGestureRecognizer.h"
 
 namespace kindora {
 namespace {

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include "tests/toolkit/view/FakeRenderer.h"
 #include "tests/toolkit/view/LayoutFixture.h"
 #include "toolkit/view/UILabel.h"
 
@@ -260,15 +261,14 @@ TEST_F(LayoutEngineTest, AViewThatWasInAnotherTreeMeanwhileIsSeenAsItIs) {
 
 TEST_F(LayoutEngineTest, AViewThatLeavesATreeSchedulesItsOwnLayoutAgain) {
   const auto box = std::make_shared<UIView>();
-  int scheduled = 0;
   box->setNeedsLayout();  // before anybody listens
   root->addSubview(box);
   root->layoutIfNeeded();
   box->removeFromSuperview();
   box->layoutIfNeeded();
-  box->layoutScheduled = [&scheduled] { ++scheduled; };
+  const FakeRenderer renderer(*box);
   box->setNeedsLayout();
-  EXPECT_EQ(scheduled, 1);
+  EXPECT_EQ(renderer.scheduled, 1);
 }
 
 TEST_F(LayoutEngineTest, ChangingTheOrderOfSubviewsKeepsTheConstraints) {

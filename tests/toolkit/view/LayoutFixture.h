@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "platform/fakes/FakeViewServices.h"
+#include "toolkit/view/NSLayoutConstraint.h"
 #include "toolkit/view/UIView.h"
 
 namespace kindora {

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/fakes/FakeViewServices.h"
+#include "toolkit/view/UIMotionEffect.h"
+#include "toolkit/view/UIView.h"
 
 namespace kindora {
 namespace {

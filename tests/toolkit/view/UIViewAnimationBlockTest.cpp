@@ -6,6 +6,9 @@
 
 #include <memory>
 
+#include "toolkit/view/NSLayoutConstraint.h"
+#include "toolkit/view/UIView.h"
+
 namespace kindora {
 namespace {
 

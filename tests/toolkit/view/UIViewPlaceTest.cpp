@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "tests/toolkit/view/FakeRenderer.h"
 #include "toolkit/view/UIImageView.h"
 #include "toolkit/view/UIView.h"
 #include "toolkit/view/UIViewAnimationBlock.h"
@@ -125,7 +126,7 @@ TEST_F(UIViewPlaceTest, LiesInTheWindowWhereItsFramesAddUpTo) {
 }
 
 TEST_F(UIViewPlaceTest, LiesInTheWindowWhereItsItemSays) {
-  view->locateInWindow = [] { return CGPoint{200, 300}; };
+  const FakeRenderer renderer(*view, CGPoint{200, 300});
   inner->setFrame({{3, 4}, {5, 6}});
   view->addSubview(inner);
   EXPECT_EQ(view->originInWindow(), (CGPoint{200, 300}));
@@ -133,14 +134,27 @@ TEST_F(UIViewPlaceTest, LiesInTheWindowWhereItsItemSays) {
 }
 
 TEST_F(UIViewPlaceTest, LiesWhereItsFrameSaysOnceItsItemHasGone) {
-  view->locateInWindow = []() -> std::optional<CGPoint> { return std::nullopt; };
+  { const FakeRenderer gone(*view, CGPoint{200, 300}); }
   EXPECT_EQ(view->originInWindow(), (CGPoint{10, 20}));
+}
+
+TEST_F(UIViewPlaceTest, LiesWhereItsFrameSaysWhileItsItemDoesNotKnow) {
+  const FakeRenderer renderer(*view);
+  EXPECT_EQ(view->originInWindow(), (CGPoint{10, 20}));
+}
+
+TEST_F(UIViewPlaceTest, AnItemThatGoesLeavesTheOneThatTookTheViewOver) {
+  auto before = std::make_optional<FakeRenderer>(*view, CGPoint{200, 300});
+  const FakeRenderer now(*view, CGPoint{400, 500});
+  EXPECT_EQ(view->originInWindow(), (CGPoint{400, 500}));
+  before.reset();
+  EXPECT_EQ(view->originInWindow(), (CGPoint{400, 500}));
 }
 
 TEST_F(UIViewPlaceTest, ConvertsAPointOfAnotherSpaceIntoItsOwn) {
   const auto bar = std::make_shared<UIView>();
-  bar->locateInWindow = [] { return CGPoint{0, 795}; };
-  view->locateInWindow = [] { return CGPoint{0, 64}; };
+  const FakeRenderer ofBar(*bar, CGPoint{0, 795});
+  const FakeRenderer ofView(*view, CGPoint{0, 64});
   EXPECT_EQ(view->convertPoint({292.5, 49}, *bar), (CGPoint{292.5, 780}));
 }
 

@@ -7,6 +7,8 @@
 #include <memory>
 #include <utility>
 
+#include "toolkit/view/NSLayoutConstraint.h"
+
 namespace kindora {
 namespace {
 
@@ -296,12 +298,20 @@ TEST_F(UIViewLayoutTest, TheFirstLayoutIsTheStart) {
   EXPECT_EQ(view->state().layout, 0);
 }
 
-TEST_F(UIViewLayoutTest, AskingForALayoutTellsWhoDrawsTheView) {
-  int requests = 0;
-  view->layoutRequested = [&requests] { ++requests; };
+TEST_F(UIViewLayoutTest, TellsOfEachLayoutAllWhoHear) {
+  int first = 0;
+  int second = 0;
+  const auto one = view->observeLayout([&first] { ++first; });
+  auto other = view->observeLayout([&second] { ++second; });
   view->layoutIfNeeded();
+  view->layoutIfNeeded();  // nothing is left to do
+  EXPECT_EQ(first, 1);
+  EXPECT_EQ(second, 1);
+  other.reset();
+  view->setNeedsLayout();
   view->layoutIfNeeded();
-  EXPECT_EQ(requests, 2);
+  EXPECT_EQ(first, 2);
+  EXPECT_EQ(second, 1);
 }
 
 TEST_F(UIViewLayoutTest, AChangeIsLaidOutOnlyWhenAsked) {
