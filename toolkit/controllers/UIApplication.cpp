@@ -52,11 +52,11 @@ void UIApplication::removeWindow(UIWindow& window) {
 }
 
 bool UIApplication::listensForMotion() const {
-  return supportsShakeToEdit_ && UIResponder::firstResponder() != nullptr;
+  return supportsShakeToEdit_ && UIResponder::motionResponder() != nullptr;
 }
 
 void UIApplication::shake() {
-  if (listensForMotion()) UIResponder::firstResponder()->motionEnded(UIEventSubtype::motionShake);
+  if (listensForMotion()) UIResponder::motionResponder()->motionEnded(UIEventSubtype::motionShake);
 }
 
 }  // namespace kindora

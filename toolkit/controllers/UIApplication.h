@@ -16,8 +16,7 @@ class QQmlEngine;
 
 namespace kindora {
 
-/// The one application object: its windows, and the way by which motions reach the first
-/// responder.
+/// The one application object: its windows, and the way by which motions reach whoever hears them.
 class UIApplication final : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -48,7 +47,7 @@ class UIApplication final : public QObject {
 
   /// True while a motion would reach somebody; sensors may rest otherwise.
   [[nodiscard]] bool listensForMotion() const;
-  /// Tells the first responder that the phone was shaken, if shakes are supported.
+  /// Tells whoever hears motions that the phone was shaken, if shakes are supported.
   Q_INVOKABLE void shake();
 
  signals:

@@ -5,34 +5,28 @@
 #include "toolkit/controllers/UIApplication.h"
 
 namespace kindora {
-namespace {
 
-UIResponder* first = nullptr;  // main thread only
+UIResponder::UIResponder(QObject* parent) : QObject(parent), Responder(ResponderEvents::motions) {}
 
-void setFirst(UIResponder* responder) {
-  first = responder;
-  emit UIApplication::sharedApplication()->listensForMotionChanged();
-}
-
-}  // namespace
-
-UIResponder::~UIResponder() {
-  if (first == this) setFirst(nullptr);
-}
+UIResponder::~UIResponder() { resignFirstResponder(); }
 
 bool UIResponder::becomeFirstResponder() {
   if (!canBecomeFirstResponder()) return false;
-  setFirst(this);
+  enterResponderChain();
   return true;
 }
 
 bool UIResponder::resignFirstResponder() {
-  if (first == this) setFirst(nullptr);
+  leaveResponderChain();
   return true;
 }
 
-bool UIResponder::isFirstResponder() const { return first == this; }
+UIResponder* UIResponder::motionResponder() {
+  return dynamic_cast<UIResponder*>(responderFor(ResponderEvents::motions));
+}
 
-UIResponder* UIResponder::firstResponder() { return first; }
+void UIResponder::respondingDidChange() {
+  emit UIApplication::sharedApplication()->listensForMotionChanged();
+}
 
 }  // namespace kindora

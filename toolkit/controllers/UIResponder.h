@@ -4,27 +4,32 @@
 
 #include <QObject>
 
+#include "toolkit/view/Responder.h"
+
 namespace kindora {
 
 enum class UIEventSubtype { none, motionShake };
 
-/// Something that can hear events which have no place on the screen, such as a shake. At most one,
-/// the first responder, hears them.
-class UIResponder : public QObject {
+/// A responder that hears motions, such as a shake. It hears them under a text field that has the
+/// keyboard, too.
+class UIResponder : public QObject, public Responder {
   Q_OBJECT
 
  public:
-  using QObject::QObject;
+  explicit UIResponder(QObject* parent = nullptr);
   ~UIResponder() override;
 
   [[nodiscard]] virtual bool canBecomeFirstResponder() const { return false; }
   /// Takes over as first responder; false when this one may not.
   bool becomeFirstResponder();
   bool resignFirstResponder();
-  [[nodiscard]] bool isFirstResponder() const;
-  [[nodiscard]] static UIResponder* firstResponder();
+  /// The one that hears motions; null when none does.
+  [[nodiscard]] static UIResponder* motionResponder();
 
   virtual void motionEnded(UIEventSubtype /*motion*/) {}
+
+ private:
+  void respondingDidChange() override;
 };
 
 }  // namespace kindora

@@ -35,9 +35,11 @@ void UISearchBar::edit(const QString& text) {
 }
 
 void UISearchBar::setFirstResponder(bool first) {
-  if (firstResponder_ == first) return;
-  firstResponder_ = first;
-  emit firstResponderChanged();
+  if (first) {
+    enterResponderChain();
+  } else {
+    leaveResponderChain();
+  }
 }
 
 QColor UISearchBar::background() const { return toQColor(backgroundColor_); }

@@ -9,28 +9,31 @@
 
 #include "platform/Geometry.h"
 #include "platform/UIColor.h"
+#include "toolkit/view/Responder.h"
 
 namespace kindora {
 
 enum class UISearchBarStyle { standard, minimal };
 
-/// A line in which the user types what to look for. It is first responder while it has the
-/// keyboard.
-class UISearchBar : public QObject {
+/// A line in which the user types what to look for while it has the keyboard.
+class UISearchBar : public QObject, public Responder {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("owned by search controllers")
   Q_PROPERTY(QString text READ text NOTIFY textChanged)
   Q_PROPERTY(QColor backgroundColor READ background NOTIFY lookChanged)
   Q_PROPERTY(double height READ height NOTIFY lookChanged)
-  Q_PROPERTY(bool firstResponder READ isFirstResponder NOTIFY firstResponderChanged)
+  Q_PROPERTY(bool firstResponder READ isResponding NOTIFY firstResponderChanged)
   Q_PROPERTY(bool showsCancelButton READ showsCancelButton NOTIFY showsCancelButtonChanged)
 
  public:
+  UISearchBar() : Responder(ResponderEvents::keys) {}
+
   [[nodiscard]] const QString& text() const { return text_; }
   void setText(const QString& text);
   [[nodiscard]] CGRect frame() const { return frame_; }
   void setFrame(CGRect frame);
+  /// Kept for the platform's interface: it has no say in how the bar is drawn.
   [[nodiscard]] UISearchBarStyle searchBarStyle() const { return style_; }
   void setSearchBarStyle(UISearchBarStyle style) { style_ = style; }
   [[nodiscard]] const UIColor& backgroundColor() const { return backgroundColor_; }
@@ -38,7 +41,6 @@ class UISearchBar : public QObject {
   [[nodiscard]] bool showsCancelButton() const { return showsCancelButton_; }
   void setShowsCancelButton(bool shows);
 
-  [[nodiscard]] bool isFirstResponder() const { return firstResponder_; }
   void resignFirstResponder() { setFirstResponder(false); }
 
   // --- What the user does ---
@@ -58,12 +60,13 @@ class UISearchBar : public QObject {
   void cancelled();
 
  private:
+  void respondingDidChange() override { emit firstResponderChanged(); }
+
   QString text_;
   CGRect frame_{{0, 0}, {0, 44}};
   UISearchBarStyle style_ = UISearchBarStyle::standard;
   UIColor backgroundColor_ = UIColor::whiteColor();
   bool showsCancelButton_ = false;
-  bool firstResponder_ = false;
 };
 
 }  // namespace kindora

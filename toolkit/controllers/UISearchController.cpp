@@ -6,7 +6,7 @@ namespace kindora {
 
 UISearchController::UISearchController() {
   connect(&searchBar_, &UISearchBar::firstResponderChanged, this, [this] {
-    if (searchBar_.isFirstResponder()) setActive(true);
+    if (searchBar_.isResponding()) setActive(true);
   });
   connect(&searchBar_, &UISearchBar::edited, this, [this] {
     if (active_) {

@@ -44,7 +44,7 @@ QString TextInputItem::placeholder() const {
   return input() != nullptr ? QString::fromStdString(input()->placeholder()) : QString();
 }
 
-bool TextInputItem::isEditing() const { return input() != nullptr && input()->isFirstResponder(); }
+bool TextInputItem::isEditing() const { return input() != nullptr && input()->isResponding(); }
 
 int TextInputItem::selectionStart() const {
   return input() != nullptr ? static_cast<int>(input()->selectedRange().location) : 0;

@@ -3,18 +3,8 @@
 #include "toolkit/view/UITextInput.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace kindora {
-
-UITextInput*& UITextInput::current() {
-  static UITextInput* responder = nullptr;  // main thread only
-  return responder;
-}
-
-UITextInput::~UITextInput() {
-  if (isFirstResponder()) current() = nullptr;
-}
 
 NSRange UITextInput::clamped(NSRange range) const {
   const std::size_t length = utf16Length(text_);
@@ -61,17 +51,12 @@ void UITextInput::setKeyboardType(UIKeyboardType type) {
 }
 
 bool UITextInput::becomeFirstResponder() {
-  if (isFirstResponder()) return true;
-  UITextInput* before = std::exchange(current(), this);
-  if (before != nullptr) before->changed();
-  changed();
+  enterResponderChain();
   return true;
 }
 
 bool UITextInput::resignFirstResponder() {
-  if (!isFirstResponder()) return true;
-  current() = nullptr;
-  changed();
+  leaveResponderChain();
   return true;
 }
 

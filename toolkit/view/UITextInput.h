@@ -8,18 +8,19 @@
 
 #include "platform/TextRange.h"
 #include "platform/UIColor.h"
+#include "toolkit/view/Responder.h"
 #include "toolkit/view/UIView.h"
 
 namespace kindora {
 
 enum class UIKeyboardType { standard, phonePad };
 
-/// A view into which the user types. At most one, the first responder, takes what is typed.
+/// A view into which the user types while it has the keyboard.
 ///
 /// Its text is what the user sees: text that an input method has not decided on yet is part of it.
-class UITextInput : public UIView {
+class UITextInput : public UIView, public Responder {
  public:
-  ~UITextInput() override;
+  UITextInput() : Responder(ResponderEvents::keys) {}
 
   [[nodiscard]] std::string text() const;
   /// Puts the caret behind the text. Tells only those who draw the view.
@@ -36,8 +37,7 @@ class UITextInput : public UIView {
   [[nodiscard]] UIKeyboardType keyboardType() const { return keyboardType_; }
   void setKeyboardType(UIKeyboardType type);
 
-  [[nodiscard]] bool isFirstResponder() const { return current() == this; }
-  /// Takes over from the view that had the keyboard before. True.
+  /// Takes the keyboard over from whoever had it before. True.
   bool becomeFirstResponder();
   bool resignFirstResponder() override;
 
@@ -58,7 +58,7 @@ class UITextInput : public UIView {
   virtual void didChange() {}
 
  private:
-  static UITextInput*& current();
+  void respondingDidChange() override { changed(); }
   [[nodiscard]] NSRange clamped(NSRange range) const;
 
   std::string text_;  // without marked text

@@ -6,6 +6,9 @@
 
 #include <memory>
 
+#include "toolkit/controllers/UISearchBar.h"
+#include "toolkit/view/UITextField.h"
+
 namespace kindora {
 namespace {
 
@@ -62,6 +65,45 @@ TEST_F(UIApplicationTest, WithoutSupportNoShakeIsDelivered) {
   application.shake();
   EXPECT_EQ(listener.shakes, 0);
   EXPECT_FALSE(application.listensForMotion());
+}
+
+TEST_F(UIApplicationTest, AShakeIsHeardWhileATextFieldHasTheKeyboard) {
+  UITextField field;
+  listener.becomeFirstResponder();
+  field.becomeFirstResponder();
+  EXPECT_TRUE(field.isFirstResponder());
+  EXPECT_TRUE(application.listensForMotion());
+  application.shake();
+  EXPECT_EQ(listener.shakes, 1);
+}
+
+TEST_F(UIApplicationTest, AShakeIsHeardWhileASearchBarHasTheKeyboard) {
+  UISearchBar bar;
+  listener.becomeFirstResponder();
+  bar.setFirstResponder(true);
+  EXPECT_FALSE(listener.isFirstResponder());
+  application.shake();
+  EXPECT_EQ(listener.shakes, 1);
+}
+
+TEST_F(UIApplicationTest, ListensToNobodyWhoOnlyTakesKeys) {
+  UITextField field;
+  field.becomeFirstResponder();
+  EXPECT_FALSE(application.listensForMotion());
+  application.shake();
+  EXPECT_EQ(listener.shakes, 0);
+}
+
+TEST_F(UIApplicationTest, TheKeyboardIsNoneOfItsConcern) {
+  UITextField field;
+  listener.becomeFirstResponder();
+  int changes = 0;
+  QObject context;
+  QObject::connect(&application, &UIApplication::listensForMotionChanged, &context,
+                   [&changes] { ++changes; });
+  field.becomeFirstResponder();
+  field.resignFirstResponder();
+  EXPECT_EQ(changes, 0);
 }
 
 TEST_F(UIApplicationTest, ListensWhileThereIsAFirstResponder) {

@@ -5,6 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
+#include <memory>
+
+#include "toolkit/view/UITextField.h"
 
 namespace kindora {
 namespace {
@@ -68,6 +71,24 @@ TEST_F(UISearchBarTest, TellsOnceThatItIsFirstResponderAndNoLonger) {
   bar.resignFirstResponder();
   EXPECT_FALSE(bar.isFirstResponder());
   EXPECT_EQ(firsts.count(), 2);
+}
+
+TEST_F(UISearchBarTest, ATextFieldTakesTheKeyboardFromIt) {
+  UITextField field;
+  bar.setFirstResponder(true);
+  field.becomeFirstResponder();
+  EXPECT_FALSE(bar.isFirstResponder());
+  EXPECT_EQ(firsts.count(), 2);
+}
+
+TEST_F(UISearchBarTest, TakesTheKeyboardFromATextField) {
+  const auto field = std::make_shared<UITextField>();
+  field->becomeFirstResponder();
+  int told = 0;
+  const auto subscription = field->observe([&told] { ++told; });
+  bar.setFirstResponder(true);
+  EXPECT_FALSE(field->isFirstResponder());
+  EXPECT_EQ(told, 1);
 }
 
 TEST_F(UISearchBarTest, ShowsItsCancelButtonWhenTold) {
