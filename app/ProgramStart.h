@@ -6,7 +6,7 @@
 //   const QGuiApplication application(argc, argv);
 //   startProgram({.name = QStringLiteral("kindora"), .displayName = QStringLiteral("Kindora")});
 //   // Make a window and its root controller here.
-//   return showWindows(engine, QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Main/Main.qml")));
+//   return showWindows(engine, pageUrl(u"Kindora.Main", u"Main"));
 #pragma once
 
 #include <QQmlApplicationEngine>

@@ -7,6 +7,7 @@
 #include "app/AppearanceManager.h"
 #include "app/ProgramStart.h"
 #include "gallery/GalleryStoryboard.h"
+#include "toolkit/controllers/PageUrl.h"
 #include "toolkit/controllers/UIWindow.h"
 
 int main(int argc, char* argv[]) {
@@ -23,6 +24,6 @@ int main(int argc, char* argv[]) {
   window.makeKeyAndVisible();
 
   QQmlApplicationEngine engine;
-  const QUrl file(QStringLiteral("qrc:/qt/qml/Kindora/Gallery/GalleryWindow.qml"));
+  const QUrl file = pageUrl(u"Kindora.Gallery", u"GalleryWindow");
   return showWindows(engine, file) ? QGuiApplication::exec() : EXIT_FAILURE;
 }

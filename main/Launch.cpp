@@ -5,6 +5,7 @@
 #include "app/AppDelegate.h"
 #include "app/ProgramStart.h"
 #include "main/MainStoryboard.h"
+#include "toolkit/controllers/PageUrl.h"
 
 namespace kindora {
 
@@ -19,7 +20,7 @@ bool launch(QQmlApplicationEngine& engine) {
   delegate.applicationDidFinishLaunching();
   delegate.window->makeKeyAndVisible();
 
-  return showWindows(engine, QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Main/Main.qml")));
+  return showWindows(engine, pageUrl(u"Kindora.Main", u"Main"));
 }
 
 }  // namespace kindora

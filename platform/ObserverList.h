@@ -14,9 +14,9 @@ namespace kindora {
 /// Those who hear of something, in the order in which they came. A copy tells the same ones. One
 /// thread only.
 ///
-///     Subscription observe(std::function<void(int)> observer) { return observers_.add(observer); }
-///     ...
-///     observers_.notify(value);
+///     ObserverList<int> observers;
+///     const Subscription hearing = observers.add([&](int value) { heard = value; });
+///     observers.notify(3);
 template <typename... Args>
 class ObserverList final {
  public:

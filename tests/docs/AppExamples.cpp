@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 
 #include "app/ProgramStart.h"
+#include "toolkit/controllers/PageUrl.h"
 
 namespace kindora {
 namespace {

@@ -6,6 +6,7 @@
 
 #include "platform/Geometry.h"
 #include "platform/NotificationCenter.h"
+#include "platform/ObserverList.h"
 #include "platform/fakes/FakeHttp.h"
 #include "platform/fakes/ManualQueue.h"
 
@@ -25,6 +26,12 @@ TEST_F(PlatformExamples, AnObserverHearsOfAPost) {
   const CGSize size{3, 4};
 #include "examples/platform/NotificationCenter.h.1"
   EXPECT_EQ(heard, size);
+}
+
+TEST_F(PlatformExamples, AnObserverIsToldAValue) {
+  int heard = 0;
+#include "examples/platform/ObserverList.h.1"
+  EXPECT_EQ(heard, 3);
 }
 
 TEST_F(PlatformExamples, ARequestIsAnsweredWhenTold) {

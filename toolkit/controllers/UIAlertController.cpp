@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "toolkit/controllers/PageUrl.h"
+
 namespace kindora {
 
 UIAlertController::UIAlertController(const std::optional<std::string>& title,
@@ -54,9 +56,8 @@ QList<int> UIAlertController::destructiveIndexes() const {
 }
 
 QUrl UIAlertController::page() const {
-  return QUrl(style_ == UIAlertControllerStyle::alert
-                  ? QStringLiteral("qrc:/qt/qml/Kindora/Toolkit/Hosts/AlertHost.qml")
-                  : QStringLiteral("qrc:/qt/qml/Kindora/Toolkit/Hosts/ActionSheetHost.qml"));
+  return pageUrl(u"Kindora.Toolkit.Hosts",
+                 style_ == UIAlertControllerStyle::alert ? u"AlertHost" : u"ActionSheetHost");
 }
 
 }  // namespace kindora

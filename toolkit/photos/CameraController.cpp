@@ -3,6 +3,7 @@
 #include "toolkit/photos/CameraController.h"
 
 #include "platform/services/Services.h"
+#include "toolkit/controllers/PageUrl.h"
 
 namespace kindora {
 
@@ -10,9 +11,7 @@ CameraController::CameraController() { setTitle(QStringLiteral("Camera")); }
 
 CameraController::~CameraController() = default;
 
-QUrl CameraController::page() const {
-  return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Toolkit/Photos/CameraPage.qml"));
-}
+QUrl CameraController::page() const { return pageUrl(u"Kindora.Toolkit.Photos", u"CameraPage"); }
 
 void CameraController::viewDidLoad() {
   PhotoPageController::viewDidLoad();

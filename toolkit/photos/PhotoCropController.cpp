@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "toolkit/controllers/PageUrl.h"
+
 namespace kindora {
 
 PhotoCropController::PhotoCropController(UIImageRef image)
@@ -12,7 +14,7 @@ PhotoCropController::PhotoCropController(UIImageRef image)
 }
 
 QUrl PhotoCropController::page() const {
-  return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Toolkit/Photos/PhotoCropPage.qml"));
+  return pageUrl(u"Kindora.Toolkit.Photos", u"PhotoCropPage");
 }
 
 // Its buttons stand on the page, so that the bar's place is the way back.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/services/Services.h"
+#include "toolkit/controllers/PageUrl.h"
 
 namespace kindora {
 
@@ -14,7 +15,7 @@ PhotoFolderController::PhotoFolderController(std::string path) : path_(std::move
 }
 
 QUrl PhotoFolderController::page() const {
-  return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Toolkit/Photos/PhotoFolderPage.qml"));
+  return pageUrl(u"Kindora.Toolkit.Photos", u"PhotoFolderPage");
 }
 
 void PhotoFolderController::viewDidLoad() {

@@ -3,12 +3,13 @@
 #include "toolkit/photos/PhotoLibraryController.h"
 
 #include "platform/services/Services.h"
+#include "toolkit/controllers/PageUrl.h"
 #include "toolkit/photos/PhotoFolderController.h"
 
 namespace kindora {
 
 QUrl PhotoLibraryController::page() const {
-  return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Toolkit/Photos/PhotoLibraryPage.qml"));
+  return pageUrl(u"Kindora.Toolkit.Photos", u"PhotoLibraryPage");
 }
 
 void PhotoLibraryController::viewDidLoad() {

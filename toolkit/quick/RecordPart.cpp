@@ -8,6 +8,7 @@
 #include <QQuickWindow>
 
 #include "platform/FatalError.h"
+#include "toolkit/controllers/PageUrl.h"
 
 namespace kindora {
 namespace {
@@ -28,8 +29,7 @@ QQmlComponent& componentOf(QQmlEngine& engine, const QString& type) {
   if (auto* known = engine.findChild<QQmlComponent*>(type, Qt::FindDirectChildrenOnly)) {
     return *known;
   }
-  const QUrl url(QStringLiteral("qrc:/qt/qml/Kindora/Toolkit/Quick/%1.qml").arg(type));
-  auto* made = new QQmlComponent(&engine, url, &engine);
+  auto* made = new QQmlComponent(&engine, pageUrl(u"Kindora.Toolkit.Quick", type), &engine);
   made->setObjectName(type);
   return *made;
 }

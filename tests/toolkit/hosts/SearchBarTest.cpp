@@ -8,6 +8,7 @@
 
 #include "platform/fakes/FakeServices.h"
 #include "tests/support/QuickFixture.h"
+#include "toolkit/controllers/PageUrl.h"
 #include "toolkit/controllers/UISearchController.h"
 
 namespace kindora {
@@ -22,8 +23,7 @@ class SearchBarTest : public QuickFixture {
     window.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     search.searchBar()->setFrame({{0, 0}, {320, 44}});
-    QQmlComponent component(
-        &engine, QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Toolkit/Hosts/SearchBar.qml")));
+    QQmlComponent component(&engine, pageUrl(u"Kindora.Toolkit.Hosts", u"SearchBar"));
     item.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
         {{QStringLiteral("bar"), QVariant::fromValue(search.searchBar())},
          {QStringLiteral("width"), 320},
