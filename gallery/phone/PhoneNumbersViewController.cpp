@@ -8,6 +8,7 @@
 #include "gallery/phone/CountryTableViewController.h"
 #include "phoneformat/PhoneFormatEnvironment.h"
 #include "platform/services/Services.h"
+#include "toolkit/controllers/UIStoryboard.h"
 
 namespace kindora {
 namespace {

@@ -7,6 +7,7 @@
 #include "screens/picker/KindoraTableViewController.h"
 #include "screens/shared/ImageNames.h"
 #include "screens/shared/SegueIdentifiers.h"
+#include "toolkit/controllers/UIStoryboard.h"
 
 namespace kindora {
 

@@ -10,6 +10,8 @@
 #include "screens/shared/SegueIdentifiers.h"
 #include "screens/shared/StoryboardIdentifiers.h"
 #include "toolkit/controllers/UINavigationController.h"
+#include "toolkit/controllers/UIStoryboard.h"
+#include "toolkit/controllers/UITabBar.h"
 
 namespace kindora {
 

@@ -16,6 +16,7 @@
 #include "screens/shared/PlaceholderTableViewCell.h"
 #include "screens/shared/SegueIdentifiers.h"
 #include "toolkit/controllers/UINavigationController.h"
+#include "toolkit/controllers/UIStoryboard.h"
 
 namespace kindora {
 namespace {

@@ -15,6 +15,7 @@
 #include "screens/shared/SegueIdentifiers.h"
 #include "toolkit/controllers/UINavigationController.h"
 #include "toolkit/controllers/UITabBarController.h"
+#include "toolkit/controllers/UIViewAnimation.h"
 
 namespace kindora {
 namespace {

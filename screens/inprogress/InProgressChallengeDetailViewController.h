@@ -5,6 +5,7 @@
 #include "effects/keyframes/CAAnimationDelegate.h"
 #include "effects/keyframes/CAKeyframeAnimation.h"
 #include "model/Challenge.h"
+#include "toolkit/controllers/UITabBar.h"
 #include "toolkit/controllers/UIViewController.h"
 #include "toolkit/view/UIButton.h"
 #include "toolkit/view/UIImageView.h"

@@ -7,6 +7,7 @@
 #include "platform/services/Services.h"
 #include "screens/shared/PassingAlert.h"
 #include "screens/shared/SegueIdentifiers.h"
+#include "toolkit/controllers/UINavigationItem.h"
 
 namespace kindora {
 namespace {

@@ -10,6 +10,7 @@
 #include "screens/shared/PassingAlert.h"
 #include "screens/shared/SegueIdentifiers.h"
 #include "toolkit/controllers/UINavigationController.h"
+#include "toolkit/controllers/UIViewAnimation.h"
 
 namespace kindora {
 namespace {

@@ -8,7 +8,9 @@
 
 #include "model/Challenge.h"
 #include "model/User.h"
+#include "toolkit/controllers/UINavigationItem.h"
 #include "toolkit/controllers/UISearchController.h"
+#include "toolkit/controllers/UIStoryboard.h"
 #include "toolkit/controllers/UITableViewController.h"
 
 namespace kindora {

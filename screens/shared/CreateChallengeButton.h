@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "toolkit/controllers/UINavigationItem.h"
 #include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {

@@ -18,7 +18,7 @@ class ModalPresentation::Context final : public UIViewControllerContextTransitio
   explicit Context(ModalPresentation& owner)
       : owner_(owner.weak_from_this()),
         container_(owner.controller_->containerView()),
-        presenting_(&owner.host_),
+        presenting_(&owner.host()),
         presented_(owner.presented_.get()),
         dismisses_(owner.dismissing_),
         presentedFrame_(owner.controller_->frameOfPresentedViewInContainerView()) {}
@@ -44,8 +44,10 @@ class ModalPresentation::Context final : public UIViewControllerContextTransitio
   CGRect presentedFrame_;
 };
 
-ModalPresentation::ModalPresentation(UIViewController& host, UIViewControllerRef presented)
-    : host_(host), presented_(std::move(presented)) {}
+ModalPresentation::ModalPresentation(PresentationPlace& host, PresentationPlace& presented)
+    : host_(host),
+      presented_(presented.controller.shared_from_this()),
+      presentedPlace_(presented) {}
 
 ModalPresentation::~ModalPresentation() {
   QObject::disconnect(windowConnection_);
@@ -53,33 +55,44 @@ ModalPresentation::~ModalPresentation() {
   if (window_) window_->presentations()->remove(presented_);
 }
 
+std::shared_ptr<UIViewControllerTransitioningDelegate> ModalPresentation::transitioning() const {
+  const bool custom = presented_->modalPresentationStyle() == UIModalPresentationStyle::custom;
+  return custom ? presented_->transitioningDelegate() : nullptr;
+}
+
+void ModalPresentation::setProgress(double progress) {
+  if (progress_ == progress) return;
+  progress_ = progress;
+  emit presented_->presentationProgressChanged();
+}
+
 // --- Coming ---
 
 void ModalPresentation::present(bool animated, Completion completion) {
   const auto self = shared_from_this();
   presentedCompletion_ = std::move(completion);
-  presented_->presenting_ = &host_;
-  window_ = host_.window();
+  presentedPlace_.below = self;
+  window_ = host().window();
   presented_->loadViewIfNeeded();
-  const auto delegate = presented_->customTransitioning();
+  const auto delegate = transitioning();
   if (delegate) {
-    controller_ = delegate->presentationControllerForPresentedViewController(*presented_, host_);
+    controller_ = delegate->presentationControllerForPresentedViewController(*presented_, host());
     if (!controller_) {
-      controller_ = std::make_shared<UIPresentationController>(presented_.get(), &host_);
+      controller_ = std::make_shared<UIPresentationController>(presented_.get(), &host());
     }
     makeContainer();
     beginTransition(animated
-                        ? delegate->animationControllerForPresentedController(*presented_, host_)
+                        ? delegate->animationControllerForPresentedController(*presented_, host())
                         : nullptr);
     controller_->presentationTransitionWillBegin();
     controller_->containerViewWillLayoutSubviews();
     controller_->containerViewDidLayoutSubviews();
   }
   animated = delegate ? animator_ != nullptr : animated;
-  presented_->setPresentationProgress(animated ? 0 : 1);
+  setProgress(animated ? 0 : 1);
   if (window_) window_->presentations()->append(presented_);
   tell(true, animated);
-  if (host_.presentation_ != self || dismissing_) return;
+  if (host_.above != self || dismissing_) return;
   if (animated && delegate) {
     animateCustom();
   } else if (animated) {
@@ -96,7 +109,7 @@ void ModalPresentation::present(bool animated, Completion completion) {
 
 void ModalPresentation::makeContainer() {
   const auto container = std::make_shared<UIView>();
-  container->setFrame(window_ ? window_->bounds() : host_.view()->bounds());
+  container->setFrame(window_ ? window_->bounds() : host().view()->bounds());
   containerFrame_ = container->frame();
   controller_->containerView_ = container;
   containerSubscription_ = container->observe([this] { containerChanged(); });
@@ -126,7 +139,7 @@ void ModalPresentation::containerChanged() {
 void ModalPresentation::endPresenting() {
   const auto self = shared_from_this();
   if (coordinator_) {
-    presented_->setPresentationProgress(1);
+    setProgress(1);
     controller_->presentationTransitionDidEnd(true);
     endTransition();
   }
@@ -165,9 +178,7 @@ void ModalPresentation::animateProgress(double from, double to) {
   animation_ = ProgressAnimation(
       {.duration = presented_->presentationDuration() * std::abs(to - from),
        .curve = UIViewAnimationCurve::easeOut},
-      [this, from, to](double done) {
-        presented_->setPresentationProgress(from + (to - from) * done);
-      },
+      [this, from, to](double done) { setProgress(from + (to - from) * done); },
       [this] { dismissing_ ? finishDismissal() : endPresenting(); });
 }
 
@@ -192,13 +203,13 @@ void ModalPresentation::dismiss(bool animated, Completion completion) {
   if (completion) dismissed_.push_back(std::move(completion));
   if (dismissing_) return;
   // Whatever stands above it goes with it.
-  if (const auto above = presented_->presentation_) above->dismiss(false, {});
+  if (const auto above = presentedPlace_.above) above->dismiss(false, {});
   animation_ = {};
   endPresenting();
-  if (host_.presentation_ != self || dismissing_) return;
+  if (host_.above != self || dismissing_) return;
   dismissing_ = true;
   if (controller_) {
-    const auto delegate = presented_->customTransitioning();
+    const auto delegate = transitioning();
     beginTransition(animated && delegate
                         ? delegate->animationControllerForDismissedController(*presented_)
                         : nullptr);
@@ -212,7 +223,7 @@ void ModalPresentation::dismiss(bool animated, Completion completion) {
   } else if (controller_) {
     animateCustom();
   } else {
-    animateProgress(presented_->presentationProgress(), 0);
+    animateProgress(progress_, 0);
   }
 }
 
@@ -239,9 +250,9 @@ void ModalPresentation::cancelDismissal() {
 
 // Nothing is presented from here on.
 void ModalPresentation::takeOut() {
-  const auto self = std::exchange(host_.presentation_, nullptr);
-  presented_->presenting_ = nullptr;
-  presented_->setPresentationProgress(0);
+  const auto self = std::exchange(host_.above, nullptr);
+  presentedPlace_.below.reset();
+  setProgress(0);
   if (controller_) presented_->view()->removeFromSuperview();
   if (window_) window_->presentations()->remove(presented_);
   window_ = nullptr;
@@ -250,20 +261,20 @@ void ModalPresentation::takeOut() {
 // --- Appearance ---
 
 void ModalPresentation::tell(bool presentedAppears, bool animated) {
-  const auto host = [&] {
+  const auto tellHost = [&] {
     if (presented_->coversPresenter()) {
-      host_.beginAppearanceTransition(!presentedAppears, animated);
+      host().beginAppearanceTransition(!presentedAppears, animated);
     }
   };
   // Whoever goes hears it first.
-  if (presentedAppears) host();
+  if (presentedAppears) tellHost();
   presented_->beginAppearanceTransition(presentedAppears, animated);
-  if (!presentedAppears) host();
+  if (!presentedAppears) tellHost();
 }
 
 void ModalPresentation::tellEnd(bool presentedAppears) {
   if (!presentedAppears) presented_->endAppearanceTransition();
-  if (presented_->coversPresenter()) host_.endAppearanceTransition();
+  if (presented_->coversPresenter()) host().endAppearanceTransition();
   if (presentedAppears) presented_->endAppearanceTransition();
 }
 

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "toolkit/controllers/PresentationPlace.h"
 #include "platform/Subscription.h"
 #include "toolkit/controllers/UIPresentationController.h"
 #include "toolkit/controllers/UIViewAnimation.h"
@@ -16,8 +17,10 @@
 
 namespace kindora {
 
-/// What a controller presents, from its coming to its going. The controller's own: nobody else
-/// makes one.
+class UIViewControllerTransitioningDelegate;
+
+/// What a controller presents, from its coming to its going. Made by the controller that presents,
+/// which keeps it in its place above.
 ///
 /// A presented controller of a custom style with a delegate comes and goes as the delegate's
 /// animators show it, inside a container; any other as a number that its host draws.
@@ -26,12 +29,15 @@ class ModalPresentation final : public std::enable_shared_from_this<ModalPresent
   using Completion = std::function<void()>;
 
   /// The host outlives the presentation.
-  ModalPresentation(UIViewController& host, UIViewControllerRef presented);
+  ModalPresentation(PresentationPlace& host, PresentationPlace& presented);
   ~ModalPresentation();
   ModalPresentation(const ModalPresentation&) = delete;
   ModalPresentation& operator=(const ModalPresentation&) = delete;
 
+  [[nodiscard]] UIViewController& host() const { return host_.controller; }
   [[nodiscard]] const UIViewControllerRef& presented() const { return presented_; }
+  /// How far the presented controller has come onto the screen, 0 to 1.
+  [[nodiscard]] double progress() const { return progress_; }
   /// Null unless the presentation is custom.
   [[nodiscard]] UIPresentationController* presentationController() const {
     return controller_.get();
@@ -48,6 +54,9 @@ class ModalPresentation final : public std::enable_shared_from_this<ModalPresent
   class Context;
   using Animator = std::shared_ptr<UIViewControllerAnimatedTransitioning>;
 
+  /// The delegate of the presented controller, when its style asks for it.
+  [[nodiscard]] std::shared_ptr<UIViewControllerTransitioningDelegate> transitioning() const;
+  void setProgress(double progress);
   void makeContainer();
   void containerChanged();
   void beginTransition(Animator animator);
@@ -63,8 +72,10 @@ class ModalPresentation final : public std::enable_shared_from_this<ModalPresent
   void tell(bool presentedAppears, bool animated);
   void tellEnd(bool presentedAppears);
 
-  UIViewController& host_;
+  PresentationPlace& host_;
   UIViewControllerRef presented_;
+  PresentationPlace& presentedPlace_;
+  double progress_ = 0;
   QPointer<UIWindow> window_;
   bool dismissing_ = false;
   Completion presentedCompletion_;

@@ -8,6 +8,8 @@
 
 #include "platform/FatalError.h"
 #include "toolkit/controllers/Colors.h"
+#include "toolkit/controllers/PageUrl.h"
+#include "toolkit/controllers/UIViewAnimation.h"
 
 namespace kindora {
 namespace {
@@ -25,11 +27,6 @@ struct UINavigationController::Transition {
   ProgressAnimation animation;
 };
 
-UINavigationBarAppearance& UINavigationBar::appearance() {
-  static UINavigationBarAppearance look;
-  return look;
-}
-
 UINavigationController::UINavigationController(const UIViewControllerRef& root) {
   adopt(root);
   stack_.push_back(root);
@@ -37,7 +34,7 @@ UINavigationController::UINavigationController(const UIViewControllerRef& root) 
 }
 
 UINavigationController::~UINavigationController() {
-  for (const auto& controller : stack_) controller->parent_ = nullptr;
+  for (const auto& controller : stack_) setParentOf(*controller, nullptr);
 }
 
 void UINavigationController::setBackgroundColor(const UIColor& color) {
@@ -54,7 +51,7 @@ UIViewControllerRef UINavigationController::visibleViewController() {
 QColor UINavigationController::background() const { return toQColor(backgroundColor_); }
 
 void UINavigationController::adopt(const UIViewControllerRef& controller) {
-  controller->parent_ = this;
+  setParentOf(*controller, this);
   connect(controller->navigationItem(), &UINavigationItem::changed, this,
           &UINavigationController::canGoBackChanged);
 }
@@ -93,7 +90,7 @@ void UINavigationController::popToViewController(const UIViewController& control
   stack_.erase(target + 1, stack_.end());
   for (const auto& skipped : between) {
     pages_.remove(skipped);
-    skipped->parent_ = nullptr;
+    setParentOf(*skipped, nullptr);
   }
   transition_ = std::make_unique<Transition>();
   transition_->pops = true;
@@ -106,8 +103,7 @@ void UINavigationController::change(const UIViewControllerRef& leaving, bool ani
   emit stackChanged();
   emit canGoBackChanged();
   emit transitionChanged();
-  const bool seen = appearance_ == Appearance::appeared || appearance_ == Appearance::appearing;
-  if (seen) {
+  if (isComingOrVisible()) {
     leaving->beginAppearanceTransition(false, animated);
     stack_.back()->beginAppearanceTransition(true, animated);
   }
@@ -139,7 +135,7 @@ void UINavigationController::finish() {
   if (!ended) return;
   if (ended->pops) {
     pages_.remove(ended->leaving);
-    ended->leaving->parent_ = nullptr;
+    setParentOf(*ended->leaving, nullptr);
     disconnect(ended->leaving->navigationItem(), nullptr, this, nullptr);
   }
   setTopProgress(1);
@@ -211,7 +207,7 @@ std::vector<UIViewController*> UINavigationController::visibleChildren() const {
 }
 
 QUrl UINavigationController::page() const {
-  return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Toolkit/Hosts/NavigationHost.qml"));
+  return pageUrl(u"Kindora.Toolkit.Hosts", u"NavigationHost");
 }
 
 }  // namespace kindora

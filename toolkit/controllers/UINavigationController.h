@@ -5,35 +5,12 @@
 #include <QColor>
 
 #include "platform/UIColor.h"
-#include "platform/UIFont.h"
 #include "toolkit/controllers/ControllerList.h"
+#include "toolkit/controllers/UINavigationBar.h"
+#include "toolkit/controllers/UINavigationItem.h"
 #include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {
-
-/// How every navigation bar looks.
-struct UINavigationBarAppearance {
-  UIColor barTintColor = UIColor::whiteColor();
-  UIColor tintColor = UIColor::blackColor();  ///< of bar buttons and the back arrow
-  UIColor titleColor = UIColor::blackColor();
-  UIFont titleFont{"", 17};
-};
-
-/// The bar above a navigation controller's pages.
-class UINavigationBar : public QObject {
-  Q_OBJECT
-  QML_ELEMENT
-  QML_UNCREATABLE("owned by navigation controllers")
-
- public:
-  /// The look of all bars, to be set before the first one is drawn.
-  [[nodiscard]] static UINavigationBarAppearance& appearance();
-  /// Asks whoever draws the bar to lay it out again.
-  void setNeedsLayout() { emit layoutRequested(); }
-
- signals:
-  void layoutRequested();
-};
 
 /// A stack of screens, of which the top is seen. Pushing and popping take effect at once; animated,
 /// the appearance callbacks frame the time that the change takes on the screen.

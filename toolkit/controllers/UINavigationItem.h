@@ -4,7 +4,6 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
-#include <QQmlListProperty>
 #include <QString>
 #include <functional>
 #include <memory>

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "platform/FatalError.h"
-#include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {
 

@@ -4,17 +4,14 @@
 #pragma once
 
 #include <QUrl>
-#include <any>
 #include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace kindora {
+#include "toolkit/controllers/UIViewController.h"
 
-class UIViewController;
-using UIViewControllerRef = std::shared_ptr<UIViewController>;
+namespace kindora {
 
 /// A change of screens under way.
 struct UIStoryboardSegue {

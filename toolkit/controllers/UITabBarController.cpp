@@ -2,20 +2,21 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/controllers/UITabBarController.h"
 
+#include "toolkit/controllers/PageUrl.h"
 #include "toolkit/controllers/UINavigationController.h"
 
 namespace kindora {
 
 UITabBarController::UITabBarController(const std::vector<UIViewControllerRef>& viewControllers) {
   for (const auto& controller : viewControllers) {
-    controller->parent_ = this;
+    setParentOf(*controller, this);
     pages_.append(controller);
     tabBar_.addTab();
   }
 }
 
 UITabBarController::~UITabBarController() {
-  for (const auto& controller : pages_.items()) controller->parent_ = nullptr;
+  for (const auto& controller : pages_.items()) setParentOf(*controller, nullptr);
 }
 
 const UIViewControllerRef& UITabBarController::selected() const {
@@ -29,7 +30,7 @@ void UITabBarController::setSelectedIndex(int index) {
   const UIViewControllerRef arriving = selected();
   arriving->loadViewIfNeeded();
   emit selectedIndexChanged();
-  if (appearance_ != Appearance::appeared && appearance_ != Appearance::appearing) return;
+  if (!isComingOrVisible()) return;
   leaving->beginAppearanceTransition(false, false);
   arriving->beginAppearanceTransition(true, false);
   leaving->endAppearanceTransition();
@@ -52,8 +53,6 @@ std::vector<UIViewController*> UITabBarController::visibleChildren() const {
 
 bool UITabBarController::goBack() { return hasCoveringSubview(*view()) || selected()->goBack(); }
 
-QUrl UITabBarController::page() const {
-  return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Toolkit/Hosts/TabHost.qml"));
-}
+QUrl UITabBarController::page() const { return pageUrl(u"Kindora.Toolkit.Hosts", u"TabHost"); }
 
 }  // namespace kindora

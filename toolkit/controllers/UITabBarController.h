@@ -3,6 +3,7 @@
 #pragma once
 
 #include "toolkit/controllers/ControllerList.h"
+#include "toolkit/controllers/UITabBar.h"
 #include "toolkit/controllers/UIViewController.h"
 
 namespace kindora {

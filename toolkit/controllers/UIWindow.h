@@ -9,12 +9,10 @@
 #include "platform/Geometry.h"
 #include "platform/UIColor.h"
 #include "toolkit/controllers/ControllerList.h"
+#include "toolkit/controllers/UIViewControllerRef.h"
 #include "toolkit/view/UIViewTint.h"
 
 namespace kindora {
-
-class UIViewController;
-using UIViewControllerRef = std::shared_ptr<UIViewController>;
 
 inline constexpr double UIWindowLevelNormal = 0;
 inline constexpr double UIWindowLevelAlert = 2000;

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 #include "tests/toolkit/controllers/ToolkitFixture.h"
+#include "toolkit/controllers/UIViewAnimation.h"
 #include "toolkit/controllers/UIViewControllerTransitionCoordinator.h"
 #include "toolkit/controllers/UIViewControllerTransitioningDelegate.h"
+#include "toolkit/controllers/ViewHandle.h"
 
 namespace kindora {
 namespace {

@@ -3,6 +3,7 @@
 #include "toolkit/controllers/UIViewController.h"
 
 #include "tests/toolkit/controllers/ToolkitFixture.h"
+#include "toolkit/controllers/ViewHandle.h"
 
 namespace kindora {
 namespace {

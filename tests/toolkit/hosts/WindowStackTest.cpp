@@ -15,6 +15,7 @@
 #include "toolkit/controllers/UIApplication.h"
 #include "toolkit/controllers/UIViewController.h"
 #include "toolkit/controllers/UIViewControllerTransitioningDelegate.h"
+#include "toolkit/controllers/ViewHandle.h"
 
 namespace kindora {
 namespace {
