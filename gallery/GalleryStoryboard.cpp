@@ -9,6 +9,7 @@
 #include "gallery/phone/CountryTableViewController.h"
 #include "gallery/phone/PhoneNumbersViewController.h"
 #include "gallery/scratch/ScratchDemoViewController.h"
+#include "toolkit/controllers/PageUrl.h"
 
 namespace kindora {
 namespace {
@@ -20,20 +21,6 @@ constexpr const char* kSpringyGrid = "SpringyGridViewController";
 constexpr const char* kPhoneNumbers = "PhoneNumbersViewController";
 constexpr const char* kAlerts = "AlertsViewController";
 constexpr const char* kCountries = "CountryTableViewController";
-
-QUrl page(const char* name) {
-  return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Gallery/%1.qml").arg(QLatin1String(name)));
-}
-
-template <typename Controller>
-UIViewControllerRef make() {
-  return makeViewController<Controller>();
-}
-
-template <typename Controller>
-void connectOutlets(UIViewController& controller) {
-  dynamic_cast<Controller&>(controller).connectOutlets();
-}
 
 // A demonstration's way from the list is named like its scene.
 UIStoryboardSegueTemplate show(const char* scene) {
@@ -55,31 +42,31 @@ std::vector<UIStoryboardScene> scenes() {
   return {
       {.identifier = kMenu,
        .make = makeMenu,
-       .page = page("Menu/MenuPage"),
+       .page = pageUrl(u"Kindora.Gallery.Menu", u"MenuPage"),
        .segues = {show(kScratch), show(kCurves), show(kSpringyGrid), show(kPhoneNumbers),
                   show(kAlerts)}},
       {.identifier = kScratch,
-       .make = make<ScratchDemoViewController>,
-       .connectOutlets = connectOutlets<ScratchDemoViewController>,
-       .page = page("Scratch/ScratchDemoPage")},
+       .make = makeSceneController<ScratchDemoViewController>,
+       .connectOutlets = connectSceneOutlets<ScratchDemoViewController>,
+       .page = pageUrl(u"Kindora.Gallery.Scratch", u"ScratchDemoPage")},
       {.identifier = kCurves,
-       .make = make<CurvesViewController>,
-       .connectOutlets = connectOutlets<CurvesViewController>,
-       .page = page("Curves/CurvesPage")},
+       .make = makeSceneController<CurvesViewController>,
+       .connectOutlets = connectSceneOutlets<CurvesViewController>,
+       .page = pageUrl(u"Kindora.Gallery.Curves", u"CurvesPage")},
       {.identifier = kSpringyGrid,
-       .make = make<SpringyGridViewController>,
-       .page = page("Grid/SpringyGridPage")},
+       .make = makeSceneController<SpringyGridViewController>,
+       .page = pageUrl(u"Kindora.Gallery.Grid", u"SpringyGridPage")},
       {.identifier = kPhoneNumbers,
-       .make = make<PhoneNumbersViewController>,
-       .connectOutlets = connectOutlets<PhoneNumbersViewController>,
-       .page = page("Phone/PhoneNumbersPage"),
+       .make = makeSceneController<PhoneNumbersViewController>,
+       .connectOutlets = connectSceneOutlets<PhoneNumbersViewController>,
+       .page = pageUrl(u"Kindora.Gallery.Phone", u"PhoneNumbersPage"),
        .segues = {{std::string(kChooseCountry), UIStoryboardSegueKind::show, kCountries}}},
       {.identifier = kAlerts,
-       .make = make<AlertsViewController>,
-       .page = page("Alerts/AlertsPage")},
+       .make = makeSceneController<AlertsViewController>,
+       .page = pageUrl(u"Kindora.Gallery.Alerts", u"AlertsPage")},
       {.identifier = kCountries,
-       .make = make<CountryTableViewController>,
-       .page = page("Phone/CountryPage")},
+       .make = makeSceneController<CountryTableViewController>,
+       .page = pageUrl(u"Kindora.Gallery.Phone", u"CountryPage")},
   };
 }
 

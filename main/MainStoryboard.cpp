@@ -12,6 +12,7 @@
 #include "screens/picker/KindoraTableViewController.h"
 #include "screens/shared/SegueIdentifiers.h"
 #include "screens/shared/StoryboardIdentifiers.h"
+#include "toolkit/controllers/PageUrl.h"
 #include "toolkit/controllers/UINavigationController.h"
 
 namespace kindora {
@@ -25,26 +26,12 @@ constexpr const char* kInvite = "InviteFriendTableViewController";
 constexpr const char* kCreateNavigation = "CreateChallengeNavigationController";
 constexpr const char* kCreate = "CreateChallengeTableViewController";
 
-QUrl page(const char* name) {
-  return QUrl(QStringLiteral("qrc:/qt/qml/Kindora/Screens/%1.qml").arg(QLatin1String(name)));
-}
-
-template <typename Controller>
-UIViewControllerRef make() {
-  return makeViewController<Controller>();
-}
-
 // A screen in a navigation controller of its own.
 std::function<UIViewControllerRef()> inNavigation(const char* scene) {
   return [scene] {
     return makeViewController<UINavigationController>(
         mainStoryboard().instantiateViewController(scene));
   };
-}
-
-template <typename Controller>
-void connectOutlets(UIViewController& controller) {
-  dynamic_cast<Controller&>(controller).connectOutlets();
 }
 
 template <typename Controller>
@@ -64,51 +51,51 @@ std::vector<UIStoryboardScene> scenes() {
                                            kCreateNavigation};
   return {
       {.identifier = kChallenges,
-       .make = make<ChallengesTableViewController>,
-       .page = page("Challenges/ChallengesPage"),
+       .make = makeSceneController<ChallengesTableViewController>,
+       .page = pageUrl(u"Kindora.Screens.Challenges", u"ChallengesPage"),
        .segues = {{std::string(kShowNewChallenge), Kind::show, kNewChallenge},
                   {std::string(kShowInProgressChallenge), Kind::show, kInProgressChallenge},
                   toCreate},
        .unwindActions = {unwindAction(kUnwind, &ChallengesTableViewController::unwind)}},
       {.identifier = kNewChallenge,
-       .make = make<NewChallengeDetailViewController>,
-       .connectOutlets = connectOutlets<NewChallengeDetailViewController>,
-       .page = page("NewChallenge/NewChallengePage"),
+       .make = makeSceneController<NewChallengeDetailViewController>,
+       .connectOutlets = connectSceneOutlets<NewChallengeDetailViewController>,
+       .page = pageUrl(u"Kindora.Screens.NewChallenge", u"NewChallengePage"),
        .segues = {backToList}},
       {.identifier = kInProgressChallenge,
-       .make = make<InProgressChallengeDetailViewController>,
-       .connectOutlets = connectOutlets<InProgressChallengeDetailViewController>,
-       .page = page("InProgress/InProgressChallengePage"),
+       .make = makeSceneController<InProgressChallengeDetailViewController>,
+       .connectOutlets = connectSceneOutlets<InProgressChallengeDetailViewController>,
+       .page = pageUrl(u"Kindora.Screens.InProgress", u"InProgressChallengePage"),
        .segues = {backToList}},
       {.identifier = kBadges,
-       .make = make<BadgesViewController>,
-       .connectOutlets = connectOutlets<BadgesViewController>,
-       .page = page("Badges/BadgesPage"),
+       .make = makeSceneController<BadgesViewController>,
+       .connectOutlets = connectSceneOutlets<BadgesViewController>,
+       .page = pageUrl(u"Kindora.Screens.Badges", u"BadgesPage"),
        .segues = {{std::string(kShowBadgeDetail), Kind::show, kBadgeInfoScene}, toCreate},
        .unwindActions = {unwindAction("unwindToBadges", &BadgesViewController::unwindToBadges)}},
       {.identifier = kBadgeInfoScene,
-       .make = make<BadgeInfoViewController>,
-       .connectOutlets = connectOutlets<BadgeInfoViewController>,
-       .page = page("Badges/BadgeInfoPage"),
+       .make = makeSceneController<BadgeInfoViewController>,
+       .connectOutlets = connectSceneOutlets<BadgeInfoViewController>,
+       .page = pageUrl(u"Kindora.Screens.Badges", u"BadgeInfoPage"),
        .segues = {{std::string(kKindora), Kind::show, kPickerScene}},
        .unwindActions = {unwindAction("unwindToBadgeInfo",
                                       &BadgeInfoViewController::unwindToBadgeInfo)}},
       {.identifier = kPickerScene,
-       .make = make<KindoraTableViewController>,
-       .page = page("Picker/KindoraPage"),
+       .make = makeSceneController<KindoraTableViewController>,
+       .page = pageUrl(u"Kindora.Screens.Picker", u"KindoraPage"),
        .segues = {{std::string(kInviteFriend), Kind::show, kInvite}},
        .unwindActions = {unwindAction(kUnwindToKindora,
                                       &KindoraTableViewController::unwindToKindora)}},
       {.identifier = kInvite,
-       .make = make<InviteFriendTableViewController>,
-       .connectOutlets = connectOutlets<InviteFriendTableViewController>,
-       .page = page("Invite/InviteFriendPage"),
+       .make = makeSceneController<InviteFriendTableViewController>,
+       .connectOutlets = connectSceneOutlets<InviteFriendTableViewController>,
+       .page = pageUrl(u"Kindora.Screens.Invite", u"InviteFriendPage"),
        .segues = {{std::string(kUnwindToKindora), Kind::unwind, std::string(kUnwindToKindora)}}},
       {.identifier = kCreateNavigation, .make = inNavigation(kCreate)},
       {.identifier = kCreate,
-       .make = make<CreateChallengeTableViewController>,
-       .connectOutlets = connectOutlets<CreateChallengeTableViewController>,
-       .page = page("Create/CreateChallengePage")},
+       .make = makeSceneController<CreateChallengeTableViewController>,
+       .connectOutlets = connectSceneOutlets<CreateChallengeTableViewController>,
+       .page = pageUrl(u"Kindora.Screens.Create", u"CreateChallengePage")},
   };
 }
 

@@ -44,6 +44,18 @@ struct UIStoryboardScene {
   std::vector<UIStoryboardUnwindAction> unwindActions;
 };
 
+/// How a scene makes a controller whose constructor takes nothing.
+template <typename Controller>
+[[nodiscard]] UIViewControllerRef makeSceneController() {
+  return makeViewController<Controller>();
+}
+
+/// How a scene connects the outlets of a controller that names them itself.
+template <typename Controller>
+void connectSceneOutlets(UIViewController& controller) {
+  dynamic_cast<Controller&>(controller).connectOutlets();
+}
+
 class UIStoryboard final {
  public:
   explicit UIStoryboard(std::vector<UIStoryboardScene> scenes);
