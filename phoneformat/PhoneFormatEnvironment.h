@@ -20,8 +20,8 @@ class PhoneFormatEnvironment {
   [[nodiscard]] virtual std::string countryCode() = 0;
 };
 
-/// Installs what all formatters made from now on ask. Once at launch, before any other thread runs.
-/// Without it there is no data and no country.
+/// Installs what all formatters made from now on ask. For a program's start, before any other
+/// thread runs (here startProgram does it); without it there is no data and no country.
 void installPhoneFormatEnvironment(std::shared_ptr<PhoneFormatEnvironment> environment);
 
 /// The environment in force; one without data and country when none was installed.

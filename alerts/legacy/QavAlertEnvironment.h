@@ -19,7 +19,7 @@ struct QavAlertEnvironment {
 };
 
 /// Installs what the shared coordinator uses, both parts of it. Has an effect before the
-/// coordinator is first asked for.
+/// coordinator is first asked for. Whoever draws the windows does it (installAlertWindows).
 void installAlertEnvironment(QavAlertEnvironment installed);
 
 /// The environment in force; stops when none was installed.

@@ -26,7 +26,7 @@ class QavAlertView final : public UIView, public QavAlertViewContentViewDelegate
   using Text = std::optional<std::string>;
   using Titles = std::vector<std::string>;
 
-  /// The look of alerts that are made afterwards.
+  /// The look of alerts that are made afterwards, for the program to set when it likes.
   [[nodiscard]] static QavAlertViewAppearance& appearance();
 
   [[nodiscard]] static std::shared_ptr<QavAlertView> initWithTitle(

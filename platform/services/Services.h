@@ -25,8 +25,8 @@ struct Services {
   std::shared_ptr<PhotoService> photos;
 };
 
-/// Installs the services, all of which must be given. Once at launch, before any other thread runs;
-/// tests install their own before each test.
+/// Installs the services, all of which must be given. A program's start does it (startProgram),
+/// once and before any other thread runs; tests install their own before each test.
 void installServices(Services installed);
 
 /// The services in force; stops when none were installed.

@@ -17,7 +17,9 @@ struct ViewServices {
   std::shared_ptr<MotionService> motion;
 };
 
-/// Installs the services, all of which must be given. Those installed last are in force.
+/// Installs the services, all of which must be given; those installed last are in force. A
+/// program's start does it (startProgram), or the first QML item that needs them
+/// (ensureViewServices).
 void installViewServices(ViewServices installed);
 
 [[nodiscard]] bool hasViewServices();

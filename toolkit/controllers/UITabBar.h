@@ -26,7 +26,7 @@ class UITabBarItem : public QObject {
   Q_PROPERTY(QString badgeValue READ badgeValue NOTIFY changed)
 
  public:
-  /// The look of all tabs, to be set before the first one is drawn.
+  /// The look of all tabs. Set at launch, before the first is drawn (configureAppearance does it).
   [[nodiscard]] static UITabBarItemAppearance& appearance();
 
   [[nodiscard]] const QString& title() const { return title_; }

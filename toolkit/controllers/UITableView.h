@@ -81,6 +81,7 @@ class UITableView : public QAbstractListModel {
   void reloadSections(const std::vector<int>& sections, UITableViewRowAnimation animation);
   /// Opens nothing: with false it closes the row that was swiped open.
   void setEditing(bool editing, bool animated);
+  /// Pressed and not deselected since. Kept for the platform's interface: a row shows no selection.
   [[nodiscard]] std::optional<IndexPath> indexPathForSelectedRow() const { return selected_; }
   void deselectRowAtIndexPath(IndexPath path, bool animated);
   /// The cell that shows the row now; null when there is no such row.
