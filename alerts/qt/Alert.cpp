@@ -17,6 +17,20 @@
 namespace kindora {
 namespace {
 
+// QML says the alerts' own numbers.
+constexpr bool same(Alert::ActionLayout shown, QavAlertActionLayout meant) {
+  return static_cast<int>(shown) == static_cast<int>(meant);
+}
+constexpr bool same(AlertAction::Style shown, QavAlertActionStyle meant) {
+  return static_cast<int>(shown) == static_cast<int>(meant);
+}
+static_assert(same(Alert::ActionLayout::Automatic, QavAlertActionLayout::automatic));
+static_assert(same(Alert::ActionLayout::Horizontal, QavAlertActionLayout::horizontal));
+static_assert(same(Alert::ActionLayout::Vertical, QavAlertActionLayout::vertical));
+static_assert(same(AlertAction::Style::Default, QavAlertActionStyle::standard));
+static_assert(same(AlertAction::Style::Cancel, QavAlertActionStyle::cancel));
+static_assert(same(AlertAction::Style::Destructive, QavAlertActionStyle::destructive));
+
 // QML has no absent text: an empty one takes no room either.
 std::optional<std::string> optionalText(const QString& text) {
   return text.isEmpty() ? std::nullopt : std::optional(text.toStdString());

@@ -26,6 +26,17 @@ QVariantList handle(const NSLayoutConstraints& constraints) {
   return all;
 }
 
+// QML says the helpers' own bits.
+constexpr bool same(ItemAutoLayout::Edge shown, UIRectEdge meant) {
+  return static_cast<unsigned>(shown) == static_cast<unsigned>(meant);
+}
+static_assert(same(ItemAutoLayout::None, UIRectEdge::none));
+static_assert(same(ItemAutoLayout::Top, UIRectEdge::top));
+static_assert(same(ItemAutoLayout::Left, UIRectEdge::left));
+static_assert(same(ItemAutoLayout::Bottom, UIRectEdge::bottom));
+static_assert(same(ItemAutoLayout::Right, UIRectEdge::right));
+static_assert(same(ItemAutoLayout::All, UIRectEdge::all));
+
 // What a helper takes for what QML gives.
 UIViewRef taken(QQuickItem* item) { return viewOfItem(*item); }
 double taken(double points) { return points; }

@@ -8,6 +8,31 @@
 #include "alerts/qt/ItemView.h"
 
 namespace kindora {
+namespace {
+
+// QML says the toolkit's own numbers.
+constexpr bool same(ItemConstraint::Attribute shown, NSLayoutAttribute meant) {
+  return static_cast<int>(shown) == static_cast<int>(meant);
+}
+constexpr bool same(ItemConstraint::Relation shown, NSLayoutRelation meant) {
+  return static_cast<int>(shown) == static_cast<int>(meant);
+}
+static_assert(same(ItemConstraint::NotAnAttribute, NSLayoutAttribute::notAnAttribute));
+static_assert(same(ItemConstraint::Left, NSLayoutAttribute::left));
+static_assert(same(ItemConstraint::Right, NSLayoutAttribute::right));
+static_assert(same(ItemConstraint::Top, NSLayoutAttribute::top));
+static_assert(same(ItemConstraint::Bottom, NSLayoutAttribute::bottom));
+static_assert(same(ItemConstraint::Width, NSLayoutAttribute::width));
+static_assert(same(ItemConstraint::Height, NSLayoutAttribute::height));
+static_assert(same(ItemConstraint::CenterX, NSLayoutAttribute::centerX));
+static_assert(same(ItemConstraint::CenterY, NSLayoutAttribute::centerY));
+static_assert(same(ItemConstraint::Baseline, NSLayoutAttribute::baseline));
+static_assert(same(ItemConstraint::FirstBaseline, NSLayoutAttribute::firstBaseline));
+static_assert(same(ItemConstraint::LessThanOrEqual, NSLayoutRelation::lessThanOrEqual));
+static_assert(same(ItemConstraint::Equal, NSLayoutRelation::equal));
+static_assert(same(ItemConstraint::GreaterThanOrEqual, NSLayoutRelation::greaterThanOrEqual));
+
+}  // namespace
 
 ItemConstraint::ItemConstraint(QObject* parent) : QObject(parent) {}
 ItemConstraint::~ItemConstraint() { uninstall(); }
