@@ -52,7 +52,7 @@ void QavActionsCollectionView::layoutSubviews() {
 }
 
 void QavActionsCollectionView::bringIntoOrder(const std::vector<CellRef>& views) {
-  const auto isInPlace = [](const std::shared_ptr<UIView>& a, const CellRef& b) { return a == b; };
+  const auto isInPlace = [](const UIViewRef& a, const CellRef& b) { return a == b; };
   if (std::ranges::equal(subviews(), views, isInPlace)) return;
   for (const CellRef& view : views) addSubview(view);
 }

@@ -40,7 +40,7 @@ void QavAlertCollectionViewCell::updateWithAction(const QavAlertAction& action,
   setEnabled(action.isEnabled());
 }
 
-void QavAlertCollectionViewCell::setHighlightedBackgroundView(std::shared_ptr<UIView> view) {
+void QavAlertCollectionViewCell::setHighlightedBackgroundView(UIViewRef view) {
   if (highlightedBackgroundView_) highlightedBackgroundView_->removeFromSuperview();
   highlightedBackgroundView_ = std::move(view);
   highlightedBackgroundView_->setTranslatesAutoresizingMaskIntoConstraints(false);

@@ -22,7 +22,7 @@ class QavAlertCollectionViewCell final : public QavCollectionReusableView {
 
   [[nodiscard]] const std::shared_ptr<UILabel>& textLabel() const { return textLabel_; }
   /// Behind the title; shown while the button is pressed. Null before the first action.
-  [[nodiscard]] const std::shared_ptr<UIView>& highlightedBackgroundView() const {
+  [[nodiscard]] const UIViewRef& highlightedBackgroundView() const {
     return highlightedBackgroundView_;
   }
   [[nodiscard]] const std::shared_ptr<UITapGestureRecognizer>& gestureRecognizer() const {
@@ -39,11 +39,11 @@ class QavAlertCollectionViewCell final : public QavCollectionReusableView {
 
  private:
   QavAlertCollectionViewCell() = default;
-  void setHighlightedBackgroundView(std::shared_ptr<UIView> view);
+  void setHighlightedBackgroundView(UIViewRef view);
   void updateHighlight();
 
   std::shared_ptr<UILabel> textLabel_ = std::make_shared<UILabel>();
-  std::shared_ptr<UIView> highlightedBackgroundView_;
+  UIViewRef highlightedBackgroundView_;
   bool enabled_ = true;
 };
 

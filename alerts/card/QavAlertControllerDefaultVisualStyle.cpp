@@ -11,8 +11,7 @@ double onePixel() { return 1 / viewServices().mainScreen->scale(); }
 
 }  // namespace
 
-std::shared_ptr<UIView> QavAlertControllerDefaultVisualStyle::actionViewHighlightBackgroundView()
-    const {
+UIViewRef QavAlertControllerDefaultVisualStyle::actionViewHighlightBackgroundView() const {
   auto view = std::make_shared<UIView>();
   view->setBackgroundColor(UIColor::colorWithWhite(0.8, 0.7));
   return view;

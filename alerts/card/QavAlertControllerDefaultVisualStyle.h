@@ -25,7 +25,7 @@ class QavAlertControllerDefaultVisualStyle : public QavAlertControllerVisualStyl
 
   [[nodiscard]] double actionViewHeight() const override { return 44; }
   [[nodiscard]] double minimumActionViewWidth() const override { return 90; }
-  [[nodiscard]] std::shared_ptr<UIView> actionViewHighlightBackgroundView() const override;
+  [[nodiscard]] UIViewRef actionViewHighlightBackgroundView() const override;
   [[nodiscard]] UIColor actionViewSeparatorColor() const override {
     return UIColor::colorWithWhite(0.5, 0.5);
   }

@@ -42,7 +42,7 @@ class QavAlertControllerVisualStyle {
   /// Of buttons side by side.
   [[nodiscard]] virtual double minimumActionViewWidth() const = 0;
   /// Shown behind the title of a button that is pressed. A new view at each call.
-  [[nodiscard]] virtual std::shared_ptr<UIView> actionViewHighlightBackgroundView() const = 0;
+  [[nodiscard]] virtual UIViewRef actionViewHighlightBackgroundView() const = 0;
   [[nodiscard]] virtual UIColor actionViewSeparatorColor() const = 0;
   [[nodiscard]] virtual double actionViewSeparatorThickness() const = 0;
   [[nodiscard]] virtual UIColor textColorForAction(const QavAlertAction& action) const = 0;

@@ -38,16 +38,14 @@ class QavAlertView final : public UIView, public QavAlertViewContentViewDelegate
                                                                            const Text& message);
   [[nodiscard]] static std::shared_ptr<QavAlertView> alertWithTitleMessageButtons(
       const Text& title, const Text& message, const Titles& buttons);
-  [[nodiscard]] static std::shared_ptr<QavAlertView> alertWithSubview(
-      const std::shared_ptr<UIView>& subview);
+  [[nodiscard]] static std::shared_ptr<QavAlertView> alertWithSubview(const UIViewRef& subview);
   [[nodiscard]] static std::shared_ptr<QavAlertView> alertWithTitleSubview(
-      const Text& title, const std::shared_ptr<UIView>& subview);
+      const Text& title, const UIViewRef& subview);
   [[nodiscard]] static std::shared_ptr<QavAlertView> alertWithTitleMessageSubview(
-      const Text& title, const Text& message, const std::shared_ptr<UIView>& subview);
+      const Text& title, const Text& message, const UIViewRef& subview);
   /// A null subview is none.
   [[nodiscard]] static std::shared_ptr<QavAlertView> alertWithTitleMessageSubviewButtons(
-      const Text& title, const Text& message, const std::shared_ptr<UIView>& subview,
-      const Titles& buttons);
+      const Text& title, const Text& message, const UIViewRef& subview, const Titles& buttons);
 
   /// Kept weakly.
   [[nodiscard]] std::shared_ptr<QavAlertViewDelegate> delegate() const { return delegate_.lock(); }

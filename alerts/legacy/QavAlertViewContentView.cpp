@@ -26,12 +26,11 @@ std::shared_ptr<QavAlertViewContentView> QavAlertViewContentView::initWithTitle(
 
 void QavAlertViewContentView::makeElements() {
   setTranslatesAutoresizingMaskIntoConstraints(false);
-  for (const std::shared_ptr<UIView>& view :
-       {std::shared_ptr<UIView>(scrollView_), std::shared_ptr<UIView>(titleLabel_),
-        std::shared_ptr<UIView>(messageLabel_), textFieldBackgroundView_, textFieldSeparatorView_,
-        std::shared_ptr<UIView>(customContentView_), buttonTopSeparatorView_,
-        buttonMiddleSeparatorView_, std::shared_ptr<UIView>(otherButtonsTableView_),
-        std::shared_ptr<UIView>(suggestedButtonTableView_)}) {
+  for (const UIViewRef& view :
+       {UIViewRef(scrollView_), UIViewRef(titleLabel_), UIViewRef(messageLabel_),
+        textFieldBackgroundView_, textFieldSeparatorView_, UIViewRef(customContentView_),
+        buttonTopSeparatorView_, buttonMiddleSeparatorView_, UIViewRef(otherButtonsTableView_),
+        UIViewRef(suggestedButtonTableView_)}) {
     view->setTranslatesAutoresizingMaskIntoConstraints(false);
   }
   for (const auto& label : {titleLabel_, messageLabel_}) {

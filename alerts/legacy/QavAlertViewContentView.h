@@ -86,12 +86,10 @@ class QavAlertViewContentView final : public UIView {
   void setMaximumSize(CGSize size);
 
   [[nodiscard]] const std::shared_ptr<UIScrollView>& scrollView() const { return scrollView_; }
-  [[nodiscard]] const std::shared_ptr<UIView>& textFieldBackgroundView() const {
+  [[nodiscard]] const UIViewRef& textFieldBackgroundView() const {
     return textFieldBackgroundView_;
   }
-  [[nodiscard]] const std::shared_ptr<UIView>& buttonTopSeparatorView() const {
-    return buttonTopSeparatorView_;
-  }
+  [[nodiscard]] const UIViewRef& buttonTopSeparatorView() const { return buttonTopSeparatorView_; }
   [[nodiscard]] const std::shared_ptr<QavAlertViewButtonTable>& suggestedButtonTableView() const {
     return suggestedButtonTableView_;
   }
@@ -118,8 +116,7 @@ class QavAlertViewContentView final : public UIView {
   void layOutTextFields();
   void layOutButtons();
   void layOutButtonsSideBySide();
-  NSLayoutConstraintRef pin(const std::shared_ptr<UIView>& view, NSLayoutAttribute attribute,
-                            double constant);
+  NSLayoutConstraintRef pin(const UIViewRef& view, NSLayoutAttribute attribute, double constant);
   [[nodiscard]] double heightOfLabels() const;
   [[nodiscard]] double heightOfFields() const;
   [[nodiscard]] double heightOfButtons() const;
@@ -134,13 +131,13 @@ class QavAlertViewContentView final : public UIView {
   std::shared_ptr<UIScrollView> scrollView_ = std::make_shared<UIScrollView>();
   std::shared_ptr<UILabel> titleLabel_ = std::make_shared<UILabel>();
   std::shared_ptr<UILabel> messageLabel_ = std::make_shared<UILabel>();
-  std::shared_ptr<UIView> textFieldBackgroundView_ = std::make_shared<UIView>();
-  std::shared_ptr<UIView> textFieldSeparatorView_ = std::make_shared<UIView>();
+  UIViewRef textFieldBackgroundView_ = std::make_shared<UIView>();
+  UIViewRef textFieldSeparatorView_ = std::make_shared<UIView>();
   std::vector<TextFieldRef> textFields_;
   std::shared_ptr<QavIntrinsicallySizedView> customContentView_ =
       std::make_shared<QavIntrinsicallySizedView>();
-  std::shared_ptr<UIView> buttonTopSeparatorView_ = std::make_shared<UIView>();
-  std::shared_ptr<UIView> buttonMiddleSeparatorView_ = std::make_shared<UIView>();
+  UIViewRef buttonTopSeparatorView_ = std::make_shared<UIView>();
+  UIViewRef buttonMiddleSeparatorView_ = std::make_shared<UIView>();
   std::shared_ptr<QavAlertViewButtonTable> otherButtonsTableView_ =
       std::make_shared<QavAlertViewButtonTable>();
   std::shared_ptr<QavAlertViewButtonTable> suggestedButtonTableView_ =

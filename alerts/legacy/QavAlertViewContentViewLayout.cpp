@@ -25,7 +25,7 @@ constexpr UIEdgeInsets kFieldsInsets{.left = 15, .right = -15};
 double onePixel() { return 1 / viewServices().mainScreen->scale(); }
 
 // With none of the constraints that it had.
-void addAnew(UIView& superview, const std::shared_ptr<UIView>& view) {
+void addAnew(UIView& superview, const UIViewRef& view) {
   view->removeFromSuperview();
   superview.addSubview(view);
 }
@@ -108,7 +108,7 @@ void QavAlertViewContentView::hold(std::string_view format) {
   for (NSLayoutConstraintRef& constraint : std::get<0>(made)) addConstraint(std::move(constraint));
 }
 
-NSLayoutConstraintRef QavAlertViewContentView::pin(const std::shared_ptr<UIView>& view,
+NSLayoutConstraintRef QavAlertViewContentView::pin(const UIViewRef& view,
                                                    NSLayoutAttribute attribute, double constant) {
   // Held here rather than by the view, so that it goes when the view does.
   auto constraint = std::make_shared<NSLayoutConstraint>(NSLayoutConstraint::Parts{
@@ -133,7 +133,7 @@ void QavAlertViewContentView::layOutTextFields() {
   qav_alignEdgesWithSuperview(textFieldBackgroundView_, kSides, kFieldsInsets);
   textFieldBackgroundView_->setBorder({qav_textFieldBackgroundViewColor(), onePixel()});
   const bool two = textFields_.size() > 1;
-  std::vector<std::shared_ptr<UIView>> inside(textFields_.begin(), textFields_.end());
+  std::vector<UIViewRef> inside(textFields_.begin(), textFields_.end());
   textFieldSeparatorView_->removeFromSuperview();
   if (two) inside.push_back(textFieldSeparatorView_);
   for (const auto& view : inside) {

@@ -16,24 +16,23 @@ std::shared_ptr<QavAlertView> QavAlertView::alertWithTitleMessageButtons(const T
   return alertWithTitleMessageSubviewButtons(title, message, nullptr, buttons);
 }
 
-std::shared_ptr<QavAlertView> QavAlertView::alertWithSubview(
-    const std::shared_ptr<UIView>& subview) {
+std::shared_ptr<QavAlertView> QavAlertView::alertWithSubview(const UIViewRef& subview) {
   return alertWithTitleMessageSubviewButtons(std::nullopt, std::nullopt, subview, {});
 }
 
-std::shared_ptr<QavAlertView> QavAlertView::alertWithTitleSubview(
-    const Text& title, const std::shared_ptr<UIView>& subview) {
+std::shared_ptr<QavAlertView> QavAlertView::alertWithTitleSubview(const Text& title,
+                                                                  const UIViewRef& subview) {
   return alertWithTitleMessageSubviewButtons(title, std::nullopt, subview, {});
 }
 
-std::shared_ptr<QavAlertView> QavAlertView::alertWithTitleMessageSubview(
-    const Text& title, const Text& message, const std::shared_ptr<UIView>& subview) {
+std::shared_ptr<QavAlertView> QavAlertView::alertWithTitleMessageSubview(const Text& title,
+                                                                         const Text& message,
+                                                                         const UIViewRef& subview) {
   return alertWithTitleMessageSubviewButtons(title, message, subview, {});
 }
 
 std::shared_ptr<QavAlertView> QavAlertView::alertWithTitleMessageSubviewButtons(
-    const Text& title, const Text& message, const std::shared_ptr<UIView>& subview,
-    const Titles& buttons) {
+    const Text& title, const Text& message, const UIViewRef& subview, const Titles& buttons) {
   const bool hasButtons = !buttons.empty();
   auto alert = initWithTitle(title, message, {}, hasButtons ? Text(buttons.front()) : std::nullopt,
                              hasButtons ? Titles(buttons.begin() + 1, buttons.end()) : Titles{});

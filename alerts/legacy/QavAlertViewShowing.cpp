@@ -21,8 +21,7 @@ void QavAlertView::show() {
     if (const auto alert = weak.lock()) alert->updateFirstOtherButton();
   };
   alertContentView_->prepareForShowing();
-  for (const std::shared_ptr<UIView>& part : {std::shared_ptr<UIView>(alertBackgroundView_),
-                                              std::shared_ptr<UIView>(alertContentView_)}) {
+  for (const UIViewRef& part : {UIViewRef(alertBackgroundView_), UIViewRef(alertContentView_)}) {
     part->removeFromSuperview();  // with the constraints of an earlier showing
     addSubview(part);
     qav_alignEdgesWithSuperview(part, UIRectEdge::all);

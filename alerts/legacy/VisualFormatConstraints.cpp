@@ -9,16 +9,16 @@ namespace {
 
 using Constraints = std::vector<NSLayoutConstraintRef>;
 
-std::shared_ptr<UIView> viewNamed(const std::string& name, const VisualFormatViews& views) {
+UIViewRef viewNamed(const std::string& name, const VisualFormatViews& views) {
   const auto found = views.find(name);
   return found != views.end() ? found->second : nullptr;
 }
 
 // The item that the name means next to a neighbour, or null.
-std::shared_ptr<UIView> itemNamed(const std::string& name, const std::string& neighbour,
-                                  const VisualFormatViews& views) {
+UIViewRef itemNamed(const std::string& name, const std::string& neighbour,
+                    const VisualFormatViews& views) {
   if (name != kSuperviewName) return viewNamed(name, views);
-  const std::shared_ptr<UIView> view = viewNamed(neighbour, views);
+  const UIViewRef view = viewNamed(neighbour, views);
   return view ? view->superview() : nullptr;
 }
 

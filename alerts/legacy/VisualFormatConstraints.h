@@ -14,7 +14,7 @@
 namespace kindora {
 
 /// Views by the names under which a format speaks of them.
-using VisualFormatViews = std::map<std::string, std::shared_ptr<UIView>, std::less<>>;
+using VisualFormatViews = std::map<std::string, UIViewRef, std::less<>>;
 
 /// The constraints that the format describes, in its order, not yet held by any view. The superview
 /// is that of the view next to its edge. A name without a view, and an edge next to a view without

@@ -13,7 +13,7 @@ namespace {
 // Nothing: what lies below is drawn and touched as if it were not there.
 class EmptyViewController final : public UIViewController {
  public:
-  [[nodiscard]] std::shared_ptr<UIView> loadView() override {
+  [[nodiscard]] UIViewRef loadView() override {
     auto view = std::make_shared<UIView>();
     view->setUserInteractionEnabled(false);
     return view;

@@ -24,7 +24,7 @@ double QavAlertAnimationController::transitionDuration(const UITransitionContext
 void QavAlertAnimationController::animateTransition(const UITransitionContextRef& context) {
   using Key = UITransitionContextViewControllerKey;
   UIViewController* controller = context->viewControllerForKey(presentation_ ? Key::to : Key::from);
-  const std::shared_ptr<UIView> view = controller->view();
+  const UIViewRef view = controller->view();
   if (presentation_) {
     context->containerView()->addSubview(view);
     view->setFrame(context->finalFrameForViewController(*controller));

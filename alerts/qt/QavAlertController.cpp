@@ -183,7 +183,7 @@ QavAlertControllerRef QavAlertController::showAlertControllerWithTitle(
 
 QavAlertControllerRef QavAlertController::showAlertControllerWithTitle(
     const std::optional<std::string>& title, const std::optional<std::string>& message,
-    const std::optional<std::string>& actionTitle, const std::shared_ptr<UIView>& subview) {
+    const std::optional<std::string>& actionTitle, const UIViewRef& subview) {
   const auto controller = alertControllerWithTitle(title, message, QavAlertControllerStyle::alert);
   controller->addAction(QavAlertAction::actionWithTitle(actionTitle, QavAlertActionStyle::cancel));
   if (subview) controller->contentView()->addSubview(subview);
@@ -193,7 +193,7 @@ QavAlertControllerRef QavAlertController::showAlertControllerWithTitle(
 
 // --- The controller's life ---
 
-std::shared_ptr<UIView> QavAlertController::loadView() { return std::make_shared<UIView>(); }
+UIViewRef QavAlertController::loadView() { return std::make_shared<UIView>(); }
 
 void QavAlertController::viewWillAppear(bool animated) {
   UIViewController::viewWillAppear(animated);

@@ -131,7 +131,7 @@ class QavAlertController final : public kindora::UIViewController,
       const std::optional<std::string>& actionTitle);
   static QavAlertControllerRef showAlertControllerWithTitle(
       const std::optional<std::string>& title, const std::optional<std::string>& message,
-      const std::optional<std::string>& actionTitle, const std::shared_ptr<UIView>& subview);
+      const std::optional<std::string>& actionTitle, const UIViewRef& subview);
 
   /// The card.
   [[nodiscard]] const std::shared_ptr<QavAlertControllerView>& alert() const { return alert_; }
@@ -140,7 +140,7 @@ class QavAlertController final : public kindora::UIViewController,
 
   // --- The controller's life ---
 
-  [[nodiscard]] std::shared_ptr<UIView> loadView() override;
+  [[nodiscard]] UIViewRef loadView() override;
   void viewWillAppear(bool animated) override;
   void viewDidAppear(bool animated) override;
   void viewDidDisappear(bool animated) override;

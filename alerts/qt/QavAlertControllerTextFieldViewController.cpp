@@ -17,7 +17,7 @@ QavAlertControllerTextFieldViewController::tableView() {
   return tableView_;
 }
 
-std::shared_ptr<UIView> QavAlertControllerTextFieldViewController::loadView() {
+UIViewRef QavAlertControllerTextFieldViewController::loadView() {
   tableView_ = QavAlertTextFieldTableView::withTextFields(textFields_, visualStyle_);
   return tableView_;
 }

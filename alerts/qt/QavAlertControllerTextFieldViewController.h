@@ -28,7 +28,7 @@ class QavAlertControllerTextFieldViewController final : public kindora::UIViewCo
   }
   [[nodiscard]] const std::shared_ptr<QavAlertTextFieldTableView>& tableView();
 
-  [[nodiscard]] std::shared_ptr<UIView> loadView() override;
+  [[nodiscard]] UIViewRef loadView() override;
 
  private:
   std::vector<std::shared_ptr<UITextField>> textFields_;

@@ -12,7 +12,7 @@ class QavAlertPresentationController final : public UIPresentationController {
   QavAlertPresentationController(UIViewController* presentedViewController,
                                  UIViewController* presentingViewController);
 
-  [[nodiscard]] const std::shared_ptr<UIView>& dimmingView() const { return dimmingView_; }
+  [[nodiscard]] const UIViewRef& dimmingView() const { return dimmingView_; }
 
   void presentationTransitionWillBegin() override;
   void dismissalTransitionWillBegin() override;
@@ -21,7 +21,7 @@ class QavAlertPresentationController final : public UIPresentationController {
  private:
   void fadeDimmingView(double alpha);
 
-  std::shared_ptr<UIView> dimmingView_ = std::make_shared<UIView>();
+  UIViewRef dimmingView_ = std::make_shared<UIView>();
 };
 
 }  // namespace kindora

@@ -58,7 +58,7 @@ QavAlertViewController::QavAlertViewController() {
 
 QavAlertViewController::~QavAlertViewController() = default;
 
-std::shared_ptr<UIView> QavAlertViewController::loadView() {
+UIViewRef QavAlertViewController::loadView() {
   auto root = std::make_shared<UIView>();
   dimmingView_->setBackgroundColor(qav_dimmedBackgroundColor());
   dimmingView_->setAlpha(0);
@@ -120,8 +120,7 @@ void QavAlertViewController::setShowsDimmingView(bool shows) {
   spring(dimmingView_, shows ? 0 : 1, shows ? 1 : 0);
 }
 
-void QavAlertViewController::spring(const std::shared_ptr<UIView>& view, double fromOpacity,
-                                    double toOpacity) {
+void QavAlertViewController::spring(const UIViewRef& view, double fromOpacity, double toOpacity) {
   const auto self = std::static_pointer_cast<QavAlertViewController>(shared_from_this());
   view->setAlpha(toOpacity);
   addAnimation(view,
@@ -130,8 +129,8 @@ void QavAlertViewController::spring(const std::shared_ptr<UIView>& view, double 
                "opacity");
 }
 
-void QavAlertViewController::spring(const std::shared_ptr<UIView>& view, double fromOpacity,
-                                    double toOpacity, double fromScale, double toScale) {
+void QavAlertViewController::spring(const UIViewRef& view, double fromOpacity, double toOpacity,
+                                    double fromScale, double toScale) {
   const auto self = std::static_pointer_cast<QavAlertViewController>(shared_from_this());
   spring(view, fromOpacity, toOpacity);
   view->setScaling(toScale);

@@ -30,10 +30,8 @@ class QavAlertViewController final : public kindora::UIViewController, public CA
   void replaceAlert(const AlertRef& oldAlert, const AlertRef& withAlert, bool animated,
                     Completion completion);
 
-  [[nodiscard]] const std::shared_ptr<UIView>& dimmingView() const { return dimmingView_; }
-  [[nodiscard]] const std::shared_ptr<UIView>& alertContainerView() const {
-    return alertContainerView_;
-  }
+  [[nodiscard]] const UIViewRef& dimmingView() const { return dimmingView_; }
+  [[nodiscard]] const UIViewRef& alertContainerView() const { return alertContainerView_; }
   [[nodiscard]] bool showsDimmingView() const { return showsDimmingView_; }
   /// How far the container's bottom lies below the window's: not above 0.
   [[nodiscard]] const NSLayoutConstraintRef& bottomSpacingConstraint() const {
@@ -43,7 +41,7 @@ class QavAlertViewController final : public kindora::UIViewController, public CA
   [[nodiscard]] bool presentingFirstAlert() const { return presentingFirstAlert_; }
   [[nodiscard]] bool dismissingLastAlert() const { return dismissingLastAlert_; }
 
-  [[nodiscard]] std::shared_ptr<UIView> loadView() override;
+  [[nodiscard]] UIViewRef loadView() override;
   /// The alert is never higher than the window less a margin.
   void viewDidLayoutSubviews() override;
   /// Esc and the system's back press the cancel button of the visible alert, if it has one.
@@ -54,15 +52,15 @@ class QavAlertViewController final : public kindora::UIViewController, public CA
 
  private:
   void setShowsDimmingView(bool shows);
-  void spring(const std::shared_ptr<UIView>& view, double fromOpacity, double toOpacity);
-  void spring(const std::shared_ptr<UIView>& view, double fromOpacity, double toOpacity,
-              double fromScale, double toScale);
+  void spring(const UIViewRef& view, double fromOpacity, double toOpacity);
+  void spring(const UIViewRef& view, double fromOpacity, double toOpacity, double fromScale,
+              double toScale);
   void keyboardWillShow(const CGRect& endFrame, double duration);
   void keyboardWillHide(double duration);
   void animateAlertContainerForKeyboardChangeWithDuration(double duration);
 
-  std::shared_ptr<UIView> dimmingView_ = std::make_shared<UIView>();
-  std::shared_ptr<UIView> alertContainerView_ = std::make_shared<UIView>();
+  UIViewRef dimmingView_ = std::make_shared<UIView>();
+  UIViewRef alertContainerView_ = std::make_shared<UIView>();
   NSLayoutConstraintRef bottomSpacingConstraint_;
   std::weak_ptr<QavAlertView> shownAlert_;
   bool showsDimmingView_ = false;

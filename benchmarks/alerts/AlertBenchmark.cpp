@@ -49,7 +49,7 @@ class EmptyPage final : public UIViewController {
     setModalPresentationStyle(UIModalPresentationStyle::custom);
     setTransitioningDelegate(transition_);
   }
-  [[nodiscard]] std::shared_ptr<UIView> loadView() override {
+  [[nodiscard]] UIViewRef loadView() override {
     auto view = std::make_shared<UIView>();
     view->setBackgroundColor(UIColor::whiteColor());
     return view;

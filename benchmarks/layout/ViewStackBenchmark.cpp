@@ -61,8 +61,8 @@ class ViewCard final {
   }
 
  private:
-  void relate(const std::shared_ptr<UIView>& view, Attribute attribute,
-              const std::shared_ptr<UIView>& other, Attribute otherAttribute) {
+  void relate(const UIViewRef& view, Attribute attribute, const UIViewRef& other,
+              Attribute otherAttribute) {
     card_->addConstraint(std::make_shared<NSLayoutConstraint>(
         NSLayoutConstraint::Parts{.firstItem = view,
                                   .firstAttribute = attribute,
@@ -70,8 +70,8 @@ class ViewCard final {
                                   .secondAttribute = otherAttribute}));
   }
 
-  std::shared_ptr<UIView> card_ = std::make_shared<UIView>();
-  std::vector<std::shared_ptr<UIView>> rows_;
+  UIViewRef card_ = std::make_shared<UIView>();
+  std::vector<UIViewRef> rows_;
 };
 
 void buildViews(benchmark::State& state) {

@@ -35,7 +35,7 @@ std::shared_ptr<Transaction>& currentTransaction() {
 
 class Playing final : public UIViewLayerAnimation {
  public:
-  Playing(const std::shared_ptr<UIView>& view, std::shared_ptr<CAKeyframeAnimation> animation,
+  Playing(const UIViewRef& view, std::shared_ptr<CAKeyframeAnimation> animation,
           std::string_view key)
       : view_(view),
         animation_(std::move(animation)),
@@ -61,7 +61,7 @@ class Playing final : public UIViewLayerAnimation {
 
  private:
   void show(const NSValue& value) {
-    const std::shared_ptr<UIView> view = view_.lock();
+    const UIViewRef view = view_.lock();
     if (!view) return;
     UIViewKeyframeValues values = view->keyframeValues();
     if (property_ == "opacity") {
@@ -78,7 +78,7 @@ class Playing final : public UIViewLayerAnimation {
   }
 
   void finish() {
-    const std::shared_ptr<UIView> view = view_.lock();
+    const UIViewRef view = view_.lock();
     // Keeps this alive, should the view let go of it here.
     const std::shared_ptr<UIViewLayerAnimation> self = view ? view->layerAnimation(key_) : nullptr;
     if (self.get() == this && animation_->isRemovedOnCompletion()) {
@@ -108,7 +108,7 @@ class Playing final : public UIViewLayerAnimation {
 
 }  // namespace
 
-void addAnimation(const std::shared_ptr<UIView>& view, const CAKeyframeAnimation& animation,
+void addAnimation(const UIViewRef& view, const CAKeyframeAnimation& animation,
                   std::string_view key) {
   const auto playing = std::make_shared<Playing>(view, animation.copy(), key);
   view->setLayerAnimation(key, playing);

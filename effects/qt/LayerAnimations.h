@@ -19,7 +19,7 @@ namespace kindora {
 ///
 /// The animation's delegate hears of its end exactly once: at the end, or unfinished when the
 /// animation is replaced or removed, or the view goes.
-void addAnimation(const std::shared_ptr<UIView>& view, const CAKeyframeAnimation& animation,
+void addAnimation(const UIViewRef& view, const CAKeyframeAnimation& animation,
                   std::string_view key);
 
 /// Runs the closure, then the completion, once, as soon as no animation plays any more that the

@@ -107,7 +107,7 @@ void showTextFields(const AlertStage& stage) {
 }
 
 // A picture with a row of bars beside it, as wide as an alert.
-std::shared_ptr<UIView> makeChart() {
+UIViewRef makeChart() {
   constexpr double kHeight = 84;
   constexpr double kBarWidth = 20;
   constexpr std::array kBars{0.35, 0.6, 0.45, 0.8, 1.0};

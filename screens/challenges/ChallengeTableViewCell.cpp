@@ -23,7 +23,7 @@ std::shared_ptr<ChallengeTableViewCell> ChallengeTableViewCell::fromPrototype() 
   return cell;
 }
 
-std::shared_ptr<UIView> ChallengeTableViewCell::pictureFrame() const {
+UIViewRef ChallengeTableViewCell::pictureFrame() const {
   return connected(profileImageView)->superview();
 }
 

@@ -34,7 +34,7 @@ class ChallengeTableViewCell : public kindora::UITableViewCell {
   void setHighlighted(bool highlighted, bool animated) override;
 
  private:
-  [[nodiscard]] std::shared_ptr<UIView> pictureFrame() const;
+  [[nodiscard]] UIViewRef pictureFrame() const;
 
   UIImageRef profileImage_;
 };

@@ -116,7 +116,7 @@ void CreateChallengeTableViewController::tableViewDidSelectRowAtIndexPath(IndexP
 
 void CreateChallengeTableViewController::pickPhoto() { showPicker(connected(challengeImageView)); }
 
-void CreateChallengeTableViewController::showPicker(const std::shared_ptr<UIView>& anchor) {
+void CreateChallengeTableViewController::showPicker(const UIViewRef& anchor) {
   const UIPopoverAnchor place{anchor, anchor->bounds(), UIPopoverArrowDirection::down};
   const auto sheet = makeViewController<UIAlertController>(std::nullopt, std::nullopt,
                                                            UIAlertControllerStyle::actionSheet);

@@ -44,7 +44,7 @@ class CreateChallengeTableViewController : public kindora::UIStaticTableViewCont
   /// The photo row was pressed.
   void pickPhoto();
   /// Asks where the photo is to come from.
-  void showPicker(const std::shared_ptr<UIView>& anchor);
+  void showPicker(const UIViewRef& anchor);
   void imagePickerController(UIImagePickerController& picker,
                              const UIImagePickerInfo& didFinishPickingMediaWithInfo) override;
   void imagePickerControllerDidCancel(UIImagePickerController& picker) override;

@@ -29,7 +29,7 @@ class InProgressChallengeDetailViewController : public kindora::UIViewController
   std::weak_ptr<UIImageView> senderImageView;
   std::weak_ptr<UILabel> senderLabel;
   /// The medal, while it flies.
-  std::shared_ptr<UIView> medalAnimationView;
+  UIViewRef medalAnimationView;
   /// Set before the screen is shown; the screen stops without it.
   ChallengeRef challenge;
 

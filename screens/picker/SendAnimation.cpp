@@ -25,7 +25,7 @@ constexpr double kWindUp = 36;  // points down, before it flies up
 SendAnimation::SendAnimation(std::function<void()> completion)
     : completion_(std::move(completion)) {}
 
-void SendAnimation::run(const std::shared_ptr<UIView>& over, const UIImageRef& picture,
+void SendAnimation::run(const UIViewRef& over, const UIImageRef& picture,
                         std::function<void()> completion) {
   const std::shared_ptr<SendAnimation> animation(new SendAnimation(std::move(completion)));
   animation->build(*over, picture);

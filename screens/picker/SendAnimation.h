@@ -17,7 +17,7 @@ namespace kindora {
 class SendAnimation final : public std::enable_shared_from_this<SendAnimation> {
  public:
   /// Plays over the view, then calls the completion.
-  static void run(const std::shared_ptr<UIView>& over, const UIImageRef& picture,
+  static void run(const UIViewRef& over, const UIImageRef& picture,
                   std::function<void()> completion);
 
  private:
@@ -31,11 +31,11 @@ class SendAnimation final : public std::enable_shared_from_this<SendAnimation> {
   void flyAway();
   void end();
 
-  std::shared_ptr<UIView> overlay_;
-  std::shared_ptr<UIView> stage_;  // in the overlay's middle
-  std::shared_ptr<UIView> card_;
-  std::shared_ptr<UIView> container_;
-  std::shared_ptr<UIView> picture_;
+  UIViewRef overlay_;
+  UIViewRef stage_;  // in the overlay's middle
+  UIViewRef card_;
+  UIViewRef container_;
+  UIViewRef picture_;
   std::function<void()> completion_;
   Subscription overlayChanged_;
 };

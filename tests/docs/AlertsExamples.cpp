@@ -15,7 +15,7 @@
 namespace kindora {
 namespace {
 
-std::shared_ptr<UIView> placedIn(const std::shared_ptr<UIView>& superview) {
+UIViewRef placedIn(const UIViewRef& superview) {
   const auto view = std::make_shared<UIView>();
   view->setTranslatesAutoresizingMaskIntoConstraints(false);
   superview->addSubview(view);

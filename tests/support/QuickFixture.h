@@ -29,7 +29,7 @@ inline UIImageRef plainPicture(std::size_t width, std::size_t height, Rgba8 colo
 class Owner final : public QObject, public OutletOwner {
  public:
   Owner() { root->setName("view"); }
-  [[nodiscard]] std::shared_ptr<UIView> outlet(std::string_view name) override {
+  [[nodiscard]] UIViewRef outlet(std::string_view name) override {
     return root->viewWithName(name);
   }
   /// Makes an outlet inside the root view.
@@ -39,7 +39,7 @@ class Owner final : public QObject, public OutletOwner {
     return connectOutlet(outlet, name, *root);
   }
 
-  const std::shared_ptr<UIView> root = std::make_shared<UIView>();
+  const UIViewRef root = std::make_shared<UIView>();
 };
 
 /// A white window of 100 x 100 pixels, of which tests look at the pixels.

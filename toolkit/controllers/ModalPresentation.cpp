@@ -23,7 +23,7 @@ class ModalPresentation::Context final : public UIViewControllerContextTransitio
         dismisses_(owner.dismissing_),
         presentedFrame_(owner.controller_->frameOfPresentedViewInContainerView()) {}
 
-  std::shared_ptr<UIView> containerView() const override { return container_; }
+  UIViewRef containerView() const override { return container_; }
   UIViewController* viewControllerForKey(Key key) const override {
     return (key == Key::to) != dismisses_ ? presented_ : presenting_;
   }
@@ -37,7 +37,7 @@ class ModalPresentation::Context final : public UIViewControllerContextTransitio
 
  private:
   std::weak_ptr<ModalPresentation> owner_;
-  std::shared_ptr<UIView> container_;
+  UIViewRef container_;
   QPointer<UIViewController> presenting_;
   QPointer<UIViewController> presented_;
   bool dismisses_;
@@ -125,7 +125,7 @@ void ModalPresentation::containerChanged() {
   containerFrame_ = controller_->containerView()->frame();
   if (containerFrame_ == before) return;
   controller_->containerViewWillLayoutSubviews();
-  const std::shared_ptr<UIView> view = presented_->view();
+  const UIViewRef view = presented_->view();
   if (view->superview() == controller_->containerView()) {
     // By as much as the container, so that room left at an edge stays.
     const CGRect frame = view->frame();

@@ -7,8 +7,8 @@
 #include <memory>
 #include <vector>
 
-#include "toolkit/controllers/PresentationPlace.h"
 #include "platform/Subscription.h"
+#include "toolkit/controllers/PresentationPlace.h"
 #include "toolkit/controllers/UIPresentationController.h"
 #include "toolkit/controllers/UIViewAnimation.h"
 #include "toolkit/controllers/UIViewControllerAnimatedTransitioning.h"

@@ -16,7 +16,7 @@ UIViewController* UIPresentationController::presentedViewController() const { re
 
 UIViewController* UIPresentationController::presentingViewController() const { return presenting_; }
 
-std::shared_ptr<UIView> UIPresentationController::presentedView() const {
+UIViewRef UIPresentationController::presentedView() const {
   return presented_ ? presented_->view() : nullptr;
 }
 

@@ -25,8 +25,8 @@ class UIPresentationController {
   [[nodiscard]] UIViewController* presentingViewController() const;
   /// What holds all views of the presentation, as large as the window. Null before the presentation
   /// begins.
-  [[nodiscard]] const std::shared_ptr<UIView>& containerView() const { return containerView_; }
-  [[nodiscard]] std::shared_ptr<UIView> presentedView() const;
+  [[nodiscard]] const UIViewRef& containerView() const { return containerView_; }
+  [[nodiscard]] UIViewRef presentedView() const;
 
   virtual void presentationTransitionWillBegin() {}
   /// Not completed: the transition was given up, and nothing is presented any more.
@@ -45,7 +45,7 @@ class UIPresentationController {
 
   QPointer<UIViewController> presented_;
   QPointer<UIViewController> presenting_;
-  std::shared_ptr<UIView> containerView_;
+  UIViewRef containerView_;
 };
 
 }  // namespace kindora

@@ -8,9 +8,7 @@ namespace kindora {
 
 UIReusableCell::UIReusableCell() { QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership); }
 
-std::shared_ptr<UIView> UIReusableCell::outlet(std::string_view name) {
-  return contentView_->viewWithName(name);
-}
+UIViewRef UIReusableCell::outlet(std::string_view name) { return contentView_->viewWithName(name); }
 
 void UIReusableCell::setHighlighted(bool highlighted, bool animated) {
   if (isHighlighted() == highlighted) return;

@@ -21,7 +21,7 @@ class UIReusableCell : public QObject, public OutletOwner, public ReusableCell {
   UIReusableCell();
 
   [[nodiscard]] UIView& contentView() { return *contentView_; }
-  [[nodiscard]] std::shared_ptr<UIView> outlet(std::string_view name) override;
+  [[nodiscard]] UIViewRef outlet(std::string_view name) override;
 
   Q_INVOKABLE void setHighlighted(bool highlighted, bool animated) override;
 
@@ -29,7 +29,7 @@ class UIReusableCell : public QObject, public OutletOwner, public ReusableCell {
   void lookChanged();
 
  private:
-  std::shared_ptr<UIView> contentView_ = std::make_shared<UIView>();
+  UIViewRef contentView_ = std::make_shared<UIView>();
 };
 
 }  // namespace kindora

@@ -46,8 +46,6 @@ void UITabBar::addTab() {
   connectOutlet(tab, "tab" + std::to_string(controls), *view_);
 }
 
-std::shared_ptr<UIView> UITabBar::outlet(std::string_view name) {
-  return view_->viewWithName(name);
-}
+UIViewRef UITabBar::outlet(std::string_view name) { return view_->viewWithName(name); }
 
 }  // namespace kindora

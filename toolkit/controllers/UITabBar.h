@@ -63,13 +63,13 @@ class UITabBar : public QObject, public OutletOwner {
   /// Adds the control of one more tab, to the right of the others.
   void addTab();
 
-  [[nodiscard]] std::shared_ptr<UIView> outlet(std::string_view name) override;
+  [[nodiscard]] UIViewRef outlet(std::string_view name) override;
 
  signals:
   void userInteractionEnabledChanged();
 
  private:
-  std::shared_ptr<UIView> view_ = std::make_shared<UIView>();
+  UIViewRef view_ = std::make_shared<UIView>();
 };
 
 }  // namespace kindora

@@ -31,7 +31,7 @@ UITableViewHeaderFooterView::UITableViewHeaderFooterView() {
   connectOutlet(textLabel, "textLabel", *contentView_);
 }
 
-std::shared_ptr<UIView> UITableViewHeaderFooterView::outlet(std::string_view name) {
+UIViewRef UITableViewHeaderFooterView::outlet(std::string_view name) {
   return contentView_->viewWithName(name);
 }
 

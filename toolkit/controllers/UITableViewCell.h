@@ -43,10 +43,10 @@ class UITableViewHeaderFooterView : public QObject, public OutletOwner {
  public:
   UITableViewHeaderFooterView();
   std::weak_ptr<UILabel> textLabel;
-  [[nodiscard]] std::shared_ptr<UIView> outlet(std::string_view name) override;
+  [[nodiscard]] UIViewRef outlet(std::string_view name) override;
 
  private:
-  std::shared_ptr<UIView> contentView_ = std::make_shared<UIView>();
+  UIViewRef contentView_ = std::make_shared<UIView>();
 };
 
 }  // namespace kindora

@@ -101,10 +101,10 @@ void animateWithDuration(const UIViewAnimationTiming& timing,
   timeline->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
-void transitionFromView(const std::shared_ptr<UIView>& from, const std::shared_ptr<UIView>& to,
-                        double duration, std::function<void()> completion) {
+void transitionFromView(const UIViewRef& from, const UIViewRef& to, double duration,
+                        std::function<void()> completion) {
   to->setCurl(0);
-  if (const std::shared_ptr<UIView> container = from->superview()) {
+  if (const UIViewRef container = from->superview()) {
     container->insertSubviewAbove(to, from.get());
   }
   animateWithDuration(

@@ -29,8 +29,8 @@ void animateWithDuration(const UIViewAnimationTiming& timing,
 
 /// Lays a view over another like a page that curls down, and takes the other out of their superview
 /// at the end.
-void transitionFromView(const std::shared_ptr<UIView>& from, const std::shared_ptr<UIView>& to,
-                        double duration, std::function<void()> completion = {});
+void transitionFromView(const UIViewRef& from, const UIViewRef& to, double duration,
+                        std::function<void()> completion = {});
 
 /// A number on its way from 0 to 1 (eased), for what is no view. Stops when the handle goes.
 class ProgressAnimation {

@@ -17,8 +17,6 @@ UIViewController::UIViewController()
 
 UIViewController::~UIViewController() = default;
 
-std::shared_ptr<UIView> UIViewController::outlet(std::string_view name) {
-  return view()->viewWithName(name);
-}
+UIViewRef UIViewController::outlet(std::string_view name) { return view()->viewWithName(name); }
 
 }  // namespace kindora

@@ -56,7 +56,7 @@ class UIViewController : public kindora::UIResponder,
   ~UIViewController() override;
 
   /// Among the views inside the root view.
-  [[nodiscard]] std::shared_ptr<UIView> outlet(std::string_view name) override;
+  [[nodiscard]] UIViewRef outlet(std::string_view name) override;
 
   /// The closure, which does nothing once this controller has gone.
   template <typename Closure>

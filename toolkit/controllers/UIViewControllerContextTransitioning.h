@@ -17,7 +17,7 @@ class UIViewControllerContextTransitioning {
  public:
   virtual ~UIViewControllerContextTransitioning() = default;
   /// What holds all views that take part. The animator puts the arriving view into it.
-  [[nodiscard]] virtual std::shared_ptr<UIView> containerView() const = 0;
+  [[nodiscard]] virtual UIViewRef containerView() const = 0;
   /// The controller that goes out of the foreground, or the one that comes into it.
   [[nodiscard]] virtual UIViewController* viewControllerForKey(
       UITransitionContextViewControllerKey key) const = 0;

@@ -9,7 +9,7 @@
 
 namespace kindora {
 
-const std::shared_ptr<UIView>& ViewControllerLife::view() {
+const UIViewRef& ViewControllerLife::view() {
   loadViewIfNeeded();
   return view_;
 }
@@ -23,7 +23,7 @@ void ViewControllerLife::loadViewIfNeeded() {
   viewDidLoad();
 }
 
-std::shared_ptr<UIView> ViewControllerLife::loadView() {
+UIViewRef ViewControllerLife::loadView() {
   auto view = std::make_shared<UIView>();
   view->setName("view");
   return view;

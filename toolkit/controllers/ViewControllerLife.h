@@ -5,10 +5,10 @@
 #include <memory>
 
 #include "platform/Subscription.h"
+#include "toolkit/view/UIViewRef.h"
 
 namespace kindora {
 
-class UIView;
 class UIViewController;
 struct ViewHandle;
 
@@ -20,12 +20,12 @@ class ViewControllerLife {
   ViewControllerLife& operator=(const ViewControllerLife&) = delete;
 
   /// The root view; loads it on first use.
-  [[nodiscard]] const std::shared_ptr<UIView>& view();
+  [[nodiscard]] const UIViewRef& view();
   [[nodiscard]] bool isViewLoaded() const { return view_ != nullptr; }
   void loadViewIfNeeded();
   /// Makes the root view. One without a name is drawn as its record and the records inside it say,
   /// and needs no page.
-  [[nodiscard]] virtual std::shared_ptr<UIView> loadView();
+  [[nodiscard]] virtual UIViewRef loadView();
   /// The same as view, for QML.
   [[nodiscard]] ViewHandle rootView();
 
@@ -56,7 +56,7 @@ class ViewControllerLife {
   enum class Appearance { disappeared, appearing, appeared, disappearing };
 
   UIViewController& self_;
-  std::shared_ptr<UIView> view_;
+  UIViewRef view_;
   Subscription layouts_;
   Appearance appearance_ = Appearance::disappeared;
   bool animatedAppearance_ = false;

@@ -16,7 +16,7 @@ struct ViewHandle {
   QML_VALUE_TYPE(viewHandle)
 
  public:
-  std::shared_ptr<UIView> view;
+  UIViewRef view;
   friend bool operator==(const ViewHandle&, const ViewHandle&) = default;
 };
 

@@ -45,7 +45,7 @@ QString faceOf(const UIView& view) {
 
 }  // namespace
 
-CodeViewItem::CodeViewItem(std::shared_ptr<UIView> view, QQuickItem* parent)
+CodeViewItem::CodeViewItem(UIViewRef view, QQuickItem* parent)
     : QQuickItem(parent), view_(std::move(view)) {
   place();
   makeFace();
@@ -197,7 +197,7 @@ void CodeViewItem::drawShadow() {
 // A view that fills one which clips has that one's corners.
 double CodeViewItem::visibleRadius() const {
   const double own = view_->presentation().cornerRadius;
-  const std::shared_ptr<UIView> parent = view_->superview();
+  const UIViewRef parent = view_->superview();
   const bool cut = parent && parent->clipsToBounds() &&
                    view_->presentation().frame == CGRect{{0, 0}, parent->presentation().frame.size};
   return cut ? std::max(own, parent->presentation().cornerRadius) : own;

@@ -26,10 +26,10 @@ class CodeViewItem final : public QQuickItem {
   Q_OBJECT
 
  public:
-  CodeViewItem(std::shared_ptr<UIView> view, QQuickItem* parent);
+  CodeViewItem(UIViewRef view, QQuickItem* parent);
   ~CodeViewItem() override;
 
-  [[nodiscard]] const std::shared_ptr<UIView>& view() const { return view_; }
+  [[nodiscard]] const UIViewRef& view() const { return view_; }
   /// Follows the view no more.
   void rest();
 
@@ -68,7 +68,7 @@ class CodeViewItem final : public QQuickItem {
   [[nodiscard]] bool handsInputOn() const;
   [[nodiscard]] QQuickItem& contentItem();
 
-  std::shared_ptr<UIView> view_;
+  UIViewRef view_;
   ShadowItem* shadow_ = nullptr;
   GroundItem* ground_ = nullptr;
   GroundItem* border_ = nullptr;  // above a picture

@@ -13,7 +13,7 @@ namespace {
 // From whatever stands on whole pixels by itself: the topmost view, or what is scrolled.
 CGPoint originAtRest(const UIView& view) {
   const CGPoint own = view.frame().origin;
-  const std::shared_ptr<UIView> parent = view.superview();
+  const UIViewRef parent = view.superview();
   if (!parent || dynamic_cast<const UIScrollView*>(parent.get()) != nullptr) return own;
   const CGPoint base = originAtRest(*parent);
   return {base.x + own.x, base.y + own.y};

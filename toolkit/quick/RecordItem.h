@@ -41,7 +41,7 @@ class RecordItem : public QQuickItem, private UIViewRenderer {
   void leave();
   void place();
 
-  std::shared_ptr<UIView> view_;
+  UIViewRef view_;
   std::unique_ptr<CodeViewItem> drawn_;
 };
 

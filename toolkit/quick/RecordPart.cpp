@@ -36,7 +36,7 @@ QQmlComponent& componentOf(QQmlEngine& engine, const QString& type) {
 
 }  // namespace
 
-std::unique_ptr<ViewItem> makeRecordPart(const QString& type, const std::shared_ptr<UIView>& view,
+std::unique_ptr<ViewItem> makeRecordPart(const QString& type, const UIViewRef& view,
                                          QQuickItem& parent) {
   QQmlComponent& component = componentOf(engineOf(parent), type);
   QObject* made = component.createWithInitialProperties(

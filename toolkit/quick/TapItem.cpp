@@ -13,13 +13,13 @@ bool TapItem::isTappable() const {
 void TapItem::tap() {
   if (!isTappable()) return;
   // The view, or its recogniser, may go while it is told.
-  const std::shared_ptr<UIView> tapped = view();
+  const UIViewRef tapped = view();
   const auto recognizer = tapped->tapGestureRecognizer();
   if (recognizer->action) recognizer->action(*tapped);
 }
 
 void TapItem::press(bool pressed) {
-  const std::shared_ptr<UIView> touched = view();
+  const UIViewRef touched = view();
   const auto recognizer = touched ? touched->tapGestureRecognizer() : nullptr;
   if (recognizer && recognizer->pressedChanged) recognizer->pressedChanged(*touched, pressed);
 }

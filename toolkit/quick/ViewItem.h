@@ -97,7 +97,7 @@ class ViewItem : public QQuickItem, private UIViewRenderer {
   void viewChanged();
 
  protected:
-  [[nodiscard]] const std::shared_ptr<UIView>& view() const { return view_; }
+  [[nodiscard]] const UIViewRef& view() const { return view_; }
   /// The view if it is an image view, or the one inside it if it is a button; else null.
   [[nodiscard]] const UIImageView* imageView() const;
   void componentComplete() override;
@@ -112,8 +112,8 @@ class ViewItem : public QQuickItem, private UIViewRenderer {
 
   QObject* owner_ = nullptr;
   QString outlet_;
-  std::shared_ptr<UIView> record_;
-  std::shared_ptr<UIView> view_;
+  UIViewRef record_;
+  UIViewRef view_;
   Subscription subscription_;
   KeyframeTransform keyframeTransform_;
 };

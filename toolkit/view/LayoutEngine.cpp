@@ -52,7 +52,7 @@ void LayoutEngine::takeOver(Changes changes) {
 
 void LayoutEngine::placeViews() {
   // Telling a view its frame may well change the tree, so the frames are read before.
-  std::vector<std::pair<std::shared_ptr<UIView>, CGRect>> frames;
+  std::vector<std::pair<UIViewRef, CGRect>> frames;
   for (const auto& [key, entry] : entries_) {
     if (!entry.constraintBased) continue;
     const auto view = entry.view.lock();

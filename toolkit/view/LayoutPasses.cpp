@@ -22,7 +22,7 @@ bool LayoutPasses::schedule() { return !std::exchange(isScheduled_, true) && !is
 
 void LayoutPasses::run(const std::function<void()>& layOutMarkedViews) {
   if (isRunning_) return;
-  const std::shared_ptr<UIView> alive = root_.weak_from_this().lock();
+  const UIViewRef alive = root_.weak_from_this().lock();
   isRunning_ = true;
   if (!engine_) engine_ = std::make_unique<LayoutEngine>(root_);
   for (int round = 0; round < kMostRounds; ++round) {

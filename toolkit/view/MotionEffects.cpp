@@ -20,7 +20,7 @@ MotionEffects::~MotionEffects() {
   if (motion_) motion_->setTiltHandler({});
 }
 
-void MotionEffects::show(const std::shared_ptr<UIView>& view) {
+void MotionEffects::show(const UIViewRef& view) {
   const auto isIt = [&view](const auto& each) { return each.lock() == view; };
   if (std::ranges::any_of(views_, isIt)) return;
   views_.push_back(view);
@@ -33,7 +33,7 @@ void MotionEffects::show(const std::shared_ptr<UIView>& view) {
   }
 }
 
-void MotionEffects::hide(const std::shared_ptr<UIView>& view) {
+void MotionEffects::hide(const UIViewRef& view) {
   const auto isIt = [&view](const auto& each) { return each.expired() || each.lock() == view; };
   const bool followed = std::ranges::any_of(views_, isIt);
   std::erase_if(views_, isIt);

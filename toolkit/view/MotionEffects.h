@@ -25,9 +25,9 @@ class MotionEffects final {
   MotionEffects& operator=(const MotionEffects&) = delete;
 
   /// The view came onto the screen and is to follow the tilt. Does nothing when it does already.
-  void show(const std::shared_ptr<UIView>& view);
+  void show(const UIViewRef& view);
   /// The view left the screen; it shows no tilt any more.
-  void hide(const std::shared_ptr<UIView>& view);
+  void hide(const UIViewRef& view);
 
  private:
   void tilt(double horizontal, double vertical);

@@ -55,7 +55,7 @@ const char* signOf(NSLayoutRelation relation) {
   return " ? ";
 }
 
-std::string nameOf(const std::shared_ptr<UIView>& view) {
+std::string nameOf(const UIViewRef& view) {
   if (!view) return "(gone)";
   if (!view->name().empty()) return view->name();
   return view->accessibilityLabel().value_or("view");

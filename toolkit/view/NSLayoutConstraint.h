@@ -12,9 +12,9 @@
 #include <memory>
 #include <string>
 
-namespace kindora {
+#include "toolkit/view/UIViewRef.h"
 
-class UIView;
+namespace kindora {
 
 enum class NSLayoutAttribute {
   notAnAttribute = 0,
@@ -53,10 +53,10 @@ class NSLayoutConstraint final {
   NSLayoutConstraint() : NSLayoutConstraint(Parts{}) {}
   explicit NSLayoutConstraint(Parts parts);
 
-  [[nodiscard]] std::shared_ptr<UIView> firstItem() const { return parts_.firstItem.lock(); }
+  [[nodiscard]] UIViewRef firstItem() const { return parts_.firstItem.lock(); }
   [[nodiscard]] NSLayoutAttribute firstAttribute() const { return parts_.firstAttribute; }
   [[nodiscard]] NSLayoutRelation relation() const { return parts_.relation; }
-  [[nodiscard]] std::shared_ptr<UIView> secondItem() const { return parts_.secondItem.lock(); }
+  [[nodiscard]] UIViewRef secondItem() const { return parts_.secondItem.lock(); }
   [[nodiscard]] NSLayoutAttribute secondAttribute() const { return parts_.secondAttribute; }
   [[nodiscard]] double multiplier() const { return parts_.multiplier; }
   [[nodiscard]] double constant() const { return parts_.constant; }
@@ -65,7 +65,7 @@ class NSLayoutConstraint final {
   void setConstant(double constant);
 
   /// The view that holds it; null while none does.
-  [[nodiscard]] std::shared_ptr<UIView> owner() const { return owner_.lock(); }
+  [[nodiscard]] UIViewRef owner() const { return owner_.lock(); }
   /// Later ones have higher numbers.
   [[nodiscard]] std::uint64_t serial() const { return serial_; }
   /// As in "a.left = b.right + 8", with the views' names where they have one.

@@ -15,7 +15,7 @@ class OutletOwner {
  public:
   virtual ~OutletOwner() = default;
   /// The view of that name; null when there is none.
-  [[nodiscard]] virtual std::shared_ptr<UIView> outlet(std::string_view name) = 0;
+  [[nodiscard]] virtual UIViewRef outlet(std::string_view name) = 0;
 };
 
 /// The view of an outlet about to be used. Stops when the outlet was not connected.

@@ -15,9 +15,9 @@ UIView::~UIView() = default;
 
 // --- Tree ---
 
-void UIView::addSubview(const std::shared_ptr<UIView>& view) { insertSubviewAbove(view, nullptr); }
+void UIView::addSubview(const UIViewRef& view) { insertSubviewAbove(view, nullptr); }
 
-void UIView::insertSubviewAbove(const std::shared_ptr<UIView>& view, const UIView* sibling) {
+void UIView::insertSubviewAbove(const UIViewRef& view, const UIView* sibling) {
   // Within one superview only the order changes: constraints stay.
   if (view->superview().get() == this) {
     std::erase(subviews_, view);
@@ -26,9 +26,8 @@ void UIView::insertSubviewAbove(const std::shared_ptr<UIView>& view, const UIVie
   }
   view->superview_ = weak_from_this();
   view->removed_ = false;
-  const auto below = sibling == nullptr
-                         ? subviews_.end()
-                         : std::ranges::find(subviews_, sibling, &std::shared_ptr<UIView>::get);
+  const auto below =
+      sibling == nullptr ? subviews_.end() : std::ranges::find(subviews_, sibling, &UIViewRef::get);
   subviews_.insert(below == subviews_.end() ? below : below + 1, view);
   setNeedsLayout();
   structureChanged();
@@ -37,9 +36,9 @@ void UIView::insertSubviewAbove(const std::shared_ptr<UIView>& view, const UIVie
 }
 
 void UIView::removeFromSuperview() {
-  const std::shared_ptr<UIView> parent = superview_.lock();
+  const UIViewRef parent = superview_.lock();
   if (!parent) return;
-  const std::shared_ptr<UIView> self = shared_from_this();
+  const UIViewRef self = shared_from_this();
   parent->removeConstraintsOn(*this);
   superview_.reset();
   removed_ = true;
@@ -52,7 +51,7 @@ void UIView::removeFromSuperview() {
   parent->changed();
 }
 
-std::shared_ptr<UIView> UIView::viewWithName(std::string_view name) {
+UIViewRef UIView::viewWithName(std::string_view name) {
   if (name_ == name) return shared_from_this();
   for (const auto& view : subviews_) {
     if (auto found = view->viewWithName(name)) return found;
@@ -62,7 +61,7 @@ std::shared_ptr<UIView> UIView::viewWithName(std::string_view name) {
 
 bool UIView::contains(const UIView& other) const {
   if (&other == this) return true;
-  const std::shared_ptr<UIView> up = other.superview();
+  const UIViewRef up = other.superview();
   return up && contains(*up);
 }
 
@@ -80,7 +79,7 @@ bool UIView::endEditing(bool force) {
 
 void UIView::tintDidChange() {
   changed();
-  const std::vector<std::shared_ptr<UIView>> views = subviews_;
+  const std::vector<UIViewRef> views = subviews_;
   for (const auto& view : views) view->tintDidChange();
 }
 
@@ -120,7 +119,7 @@ CGPoint UIView::originInWindow() const {
   const std::optional<CGPoint> drawn =
       renderer_ != nullptr ? renderer_->originInWindow() : std::nullopt;
   if (drawn) return *drawn;
-  const std::shared_ptr<UIView> parent = superview();
+  const UIViewRef parent = superview();
   const CGPoint base = parent ? parent->originInWindow() : CGPoint{};
   return {base.x + frame().origin.x, base.y + frame().origin.y};
 }

@@ -12,6 +12,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/Geometry.h"
@@ -58,17 +59,17 @@ class UIView : public std::enable_shared_from_this<UIView>,
 
   // --- Tree ---
 
-  [[nodiscard]] std::shared_ptr<UIView> superview() const { return superview_.lock(); }
+  [[nodiscard]] UIViewRef superview() const { return superview_.lock(); }
   /// Lowest first.
-  [[nodiscard]] const std::vector<std::shared_ptr<UIView>>& subviews() const { return subviews_; }
-  void addSubview(const std::shared_ptr<UIView>& view);
+  [[nodiscard]] const std::vector<UIViewRef>& subviews() const { return subviews_; }
+  void addSubview(const UIViewRef& view);
   /// Directly above a subview that is there, else on top.
-  void insertSubviewAbove(const std::shared_ptr<UIView>& view, const UIView* sibling);
+  void insertSubviewAbove(const UIViewRef& view, const UIView* sibling);
   void removeFromSuperview();
   /// True once it was taken out of its superview and not put anywhere since. A root view never is.
   [[nodiscard]] bool isRemoved() const { return removed_; }
   /// This view or one inside it that bears the name; null when there is none.
-  [[nodiscard]] std::shared_ptr<UIView> viewWithName(std::string_view name);
+  [[nodiscard]] UIViewRef viewWithName(std::string_view name);
   /// Whether the other is this view or lies inside it.
   [[nodiscard]] bool contains(const UIView& other) const;
   /// The topmost view above this one, or itself.
@@ -158,7 +159,7 @@ class UIView : public std::enable_shared_from_this<UIView>,
   ObserverList<> changes_;
 
   std::weak_ptr<UIView> superview_;
-  std::vector<std::shared_ptr<UIView>> subviews_;
+  std::vector<UIViewRef> subviews_;
   bool removed_ = false;
   bool fillsSuperview_ = false;
   UIViewRenderer* renderer_ = nullptr;

@@ -8,7 +8,7 @@ namespace kindora {
 
 std::shared_ptr<UIVisualEffectView> UIVisualEffectView::withBlur(UIBlurEffectStyle style) {
   std::shared_ptr<UIVisualEffectView> view(new UIVisualEffectView(style));
-  const std::shared_ptr<UIView>& content = view->contentView_;
+  const UIViewRef& content = view->contentView_;
   content->setTranslatesAutoresizingMaskIntoConstraints(false);
   view->addSubview(content);
   for (const NSLayoutAttribute edge : {NSLayoutAttribute::top, NSLayoutAttribute::right,

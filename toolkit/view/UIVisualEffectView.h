@@ -18,13 +18,13 @@ class UIVisualEffectView final : public UIView {
 
   [[nodiscard]] UIBlurEffectStyle style() const { return style_; }
   /// As large as the view, by constraints.
-  [[nodiscard]] const std::shared_ptr<UIView>& contentView() const { return contentView_; }
+  [[nodiscard]] const UIViewRef& contentView() const { return contentView_; }
 
  private:
   explicit UIVisualEffectView(UIBlurEffectStyle style) : style_(style) {}
 
   UIBlurEffectStyle style_;
-  std::shared_ptr<UIView> contentView_ = std::make_shared<UIView>();
+  UIViewRef contentView_ = std::make_shared<UIView>();
 };
 
 }  // namespace kindora

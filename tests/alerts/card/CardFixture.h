@@ -81,7 +81,7 @@ class CardFixture {
   }
 
   const FakeViewServices fakes = installFakeViewServices();
-  const std::shared_ptr<UIView> window = std::make_shared<UIView>();
+  const UIViewRef window = std::make_shared<UIView>();
   const std::shared_ptr<Delegate> delegate = std::make_shared<Delegate>();
   std::shared_ptr<QavAlertControllerView> card;
   std::vector<QavAlertActionRef> actions;

@@ -39,7 +39,7 @@ class QavAlertControllerScrollViewTest : public testing::Test {
   }
 
   const FakeViewServices fakes = installFakeViewServices();
-  const std::shared_ptr<UIView> window = std::make_shared<UIView>();
+  const UIViewRef window = std::make_shared<UIView>();
   const std::shared_ptr<QavAlertControllerVisualStyle> style =
       std::make_shared<QavAlertControllerDefaultVisualStyle>();
   const std::shared_ptr<QavAlertControllerScrollView> view =

@@ -49,11 +49,11 @@ class QavAlertViewContentViewTest : public testing::Test {
   }
 
   // Where a view's edges are in the content, from top to bottom.
-  static double top(const std::shared_ptr<UIView>& view) { return view->frame().origin.y; }
-  static double height(const std::shared_ptr<UIView>& view) { return view->frame().size.height; }
+  static double top(const UIViewRef& view) { return view->frame().origin.y; }
+  static double height(const UIViewRef& view) { return view->frame().size.height; }
 
   FakeViewServices services = installFakeViewServices();
-  std::shared_ptr<UIView> container = std::make_shared<UIView>();
+  UIViewRef container = std::make_shared<UIView>();
   std::shared_ptr<QavAlertViewContentView> content =
       QavAlertViewContentView::initWithTitle("Title", "Message");
 };

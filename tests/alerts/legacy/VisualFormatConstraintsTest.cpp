@@ -32,9 +32,9 @@ class VisualFormatConstraints : public testing::Test {
     return error != nullptr ? *error : VisualFormatError{0, "nothing at all"};
   }
 
-  std::shared_ptr<UIView> outside = std::make_shared<UIView>();
-  std::shared_ptr<UIView> a = std::make_shared<UIView>();
-  std::shared_ptr<UIView> b = std::make_shared<UIView>();
+  UIViewRef outside = std::make_shared<UIView>();
+  UIViewRef a = std::make_shared<UIView>();
+  UIViewRef b = std::make_shared<UIView>();
 };
 
 TEST_F(VisualFormatConstraints, NameTheViewsTheSuperviewAndThePriority) {

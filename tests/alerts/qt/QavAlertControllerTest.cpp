@@ -223,7 +223,7 @@ TEST_F(QavAlertControllerTest, HearsNoKeyboardOnceItHasGone) {
   controller->dismissWithCompletion();
   pass();
   const std::weak_ptr<QavAlertController> gone = controller;
-  const std::shared_ptr<UIView> view = controller->view();
+  const UIViewRef view = controller->view();
   const CGRect frame = view->frame();
   const auto keyboardTo = [](double y) {
     NotificationCenter::defaultCenter().post(

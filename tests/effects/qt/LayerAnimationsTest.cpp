@@ -70,7 +70,7 @@ class LayerAnimationsTest : public ::testing::Test {
 
   ManualTime time{std::make_shared<ManualQueue>()};
   const std::shared_ptr<Ear> ear = std::make_shared<Ear>();
-  std::shared_ptr<UIView> view = std::make_shared<UIView>();
+  UIViewRef view = std::make_shared<UIView>();
 };
 
 // --- On what it acts ---

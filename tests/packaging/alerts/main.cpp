@@ -14,7 +14,7 @@ using namespace kindora;
 
 namespace {
 
-std::shared_ptr<UIView> placedIn(const std::shared_ptr<UIView>& superview) {
+UIViewRef placedIn(const UIViewRef& superview) {
   auto view = std::make_shared<UIView>();
   view->setTranslatesAutoresizingMaskIntoConstraints(false);
   superview->addSubview(view);

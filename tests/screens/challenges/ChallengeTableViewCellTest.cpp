@@ -25,7 +25,7 @@ UIImageRef shownPicture(const ChallengeTableViewCell& cell) {
   return cell.profileImageView.lock()->image();
 }
 
-std::shared_ptr<UIView> frameOf(const ChallengeTableViewCell& cell) {
+UIViewRef frameOf(const ChallengeTableViewCell& cell) {
   return cell.profileImageView.lock()->superview();
 }
 

@@ -81,7 +81,7 @@ class InProgressCeremonyTest : public AppFixture {
     choose(title);
   }
 
-  static const std::shared_ptr<UIView>& medal() { return screen().medalAnimationView; }
+  static const UIViewRef& medal() { return screen().medalAnimationView; }
   static CGPoint medalCentre() { return centerOf(medal()->presentation().frame); }
   // The view on top of the page, once the stamp is there.
   static const UIImageView* stamp() {

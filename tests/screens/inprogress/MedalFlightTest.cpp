@@ -37,7 +37,7 @@ class MedalFlightTabTest : public ::testing::Test {
   [[nodiscard]] CGRect frame(int index) const { return frameForTabInTabBar(*bar, index); }
 
   const FakeServices fakes = installFakeServices();
-  const std::shared_ptr<UIView> bar = std::make_shared<UIView>();
+  const UIViewRef bar = std::make_shared<UIView>();
 };
 
 TEST_F(MedalFlightTabTest, IsTheFrameOfTheControlOfThatIndex) {

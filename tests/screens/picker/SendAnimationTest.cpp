@@ -58,7 +58,7 @@ class SendAnimationTest : public ::testing::Test {
 
   const FakeServices fakes = installFakeServices();
   ManualTime time{fakes.mainQueue};
-  const std::shared_ptr<UIView> window = std::make_shared<UIView>();
+  const UIViewRef window = std::make_shared<UIView>();
   UIImageRef picture = UIImage::imageWithRaster(Raster(2, 2));
   int completed = 0;
 

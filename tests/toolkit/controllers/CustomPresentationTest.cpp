@@ -38,7 +38,7 @@ class VeilController final : public UIPresentationController {
   }
   void containerViewWillLayoutSubviews() override { veil->setFrame(containerView()->frame()); }
 
-  const std::shared_ptr<UIView> veil = std::make_shared<UIView>();
+  const UIViewRef veil = std::make_shared<UIView>();
 
  private:
   void fade(double alpha) {
@@ -105,7 +105,7 @@ class FadingDelegate final : public UIViewControllerTransitioningDelegate {
 class CodeController final : public RecordingController {
  public:
   using RecordingController::RecordingController;
-  std::shared_ptr<UIView> loadView() override { return std::make_shared<UIView>(); }
+  UIViewRef loadView() override { return std::make_shared<UIView>(); }
   bool coversPresenter() const override { return UIViewController::coversPresenter(); }
   void viewDidAppear(bool animated) override {
     RecordingController::viewDidAppear(animated);
@@ -127,7 +127,7 @@ class CustomPresentationTest : public ToolkitFixture {
   std::function<void()> noted(const std::string& what) {
     return [this, what] { note(what); };
   }
-  [[nodiscard]] std::shared_ptr<UIView> container() { return p->presentationContainer().view; }
+  [[nodiscard]] UIViewRef container() { return p->presentationContainer().view; }
   [[nodiscard]] double veil() { return delegate->controller->veil->presentation().alpha; }
   [[nodiscard]] double shown() { return p->view()->presentation().alpha; }
 

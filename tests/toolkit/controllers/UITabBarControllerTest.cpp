@@ -225,7 +225,7 @@ class CoveredUITabBarControllerTest : public UITabBarControllerTest {
   }
 
   const std::shared_ptr<RecordingController> c = screen("c");
-  const std::shared_ptr<UIView> cover = std::make_shared<UIView>();
+  const UIViewRef cover = std::make_shared<UIView>();
 };
 
 TEST_F(CoveredUITabBarControllerTest, NoTabIsPressed) {

@@ -28,7 +28,7 @@ class UIViewAnimationTest : public ::testing::Test {
   }
 
   ManualTime time{std::make_shared<ManualQueue>()};
-  const std::shared_ptr<UIView> view = std::make_shared<UIView>();
+  const UIViewRef view = std::make_shared<UIView>();
   int completed = 0;
 };
 
@@ -212,11 +212,11 @@ class UIViewTransitionTest : public ::testing::Test {
   }
 
   ManualTime time{std::make_shared<ManualQueue>()};
-  const std::shared_ptr<UIView> container = std::make_shared<UIView>();
-  const std::shared_ptr<UIView> below = std::make_shared<UIView>();
-  const std::shared_ptr<UIView> from = std::make_shared<UIView>();
-  const std::shared_ptr<UIView> above = std::make_shared<UIView>();
-  const std::shared_ptr<UIView> to = std::make_shared<UIView>();
+  const UIViewRef container = std::make_shared<UIView>();
+  const UIViewRef below = std::make_shared<UIView>();
+  const UIViewRef from = std::make_shared<UIView>();
+  const UIViewRef above = std::make_shared<UIView>();
+  const UIViewRef to = std::make_shared<UIView>();
   int completed = 0;
 };
 

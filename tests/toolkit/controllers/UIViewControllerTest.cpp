@@ -158,7 +158,7 @@ TEST_F(UIViewControllerTest, AnUnconnectedOutletStopsWhenItIsUsed) {
 
 class CodeController final : public UIViewController {
  public:
-  std::shared_ptr<UIView> loadView() override { return std::make_shared<UIView>(); }
+  UIViewRef loadView() override { return std::make_shared<UIView>(); }
   void viewDidLayoutSubviews() override { ++layouts; }
   void didMoveToParentViewController(UIViewController* parent) override {
     parents.push_back(parent);

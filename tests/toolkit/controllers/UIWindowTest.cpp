@@ -109,7 +109,7 @@ TEST_F(UIWindowTest, LevelsHaveThePhonesValues) {
 
 TEST_F(UIWindowTest, ARootViewMadeInCodeIsAsLargeAsTheWindow) {
   class CodeController final : public UIViewController {
-    std::shared_ptr<UIView> loadView() override { return std::make_shared<UIView>(); }
+    UIViewRef loadView() override { return std::make_shared<UIView>(); }
   };
   window.reportSize(320, 480);
   const auto root = makeViewController<CodeController>();

@@ -58,7 +58,7 @@ class Screen final : public UIViewController {
  public:
   explicit Screen(QUrl page = {}) : page_(std::move(page)) {}
 
-  std::shared_ptr<UIView> loadView() override {
+  UIViewRef loadView() override {
     if (!page_.isEmpty()) return UIViewController::loadView();
     auto view = std::make_shared<UIView>();
     view->setBackgroundColor(kGreenColor);

@@ -39,7 +39,7 @@ class ClippedTest : public RecordFixture {
     panel->setCornerRadius(20);
     panel->setClipsToBounds(true);
   }
-  const std::shared_ptr<UIView> panel = addGround({{50, 50}, {100, 100}}, UIColor::clearColor());
+  const UIViewRef panel = addGround({{50, 50}, {100, 100}}, UIColor::clearColor());
 };
 
 TEST_F(ClippedTest, AGroundInACornerIsCutByIt) {
@@ -115,9 +115,7 @@ TEST_F(CodeViewItemTest, ABorderLiesAboveAPicture) {
 
 // --- Whole pixels ---
 
-QRectF drawnOf(const std::shared_ptr<UIView>& view, double ratio) {
-  return drawnRect(*view, ratio);
-}
+QRectF drawnOf(const UIViewRef& view, double ratio) { return drawnRect(*view, ratio); }
 
 TEST_F(CodeViewItemTest, StandsOnWholePixelsAndKeepsItsNumbers) {
   const auto outer = addGround({{10.3, 0}, {100, 100}}, UIColor::clearColor());

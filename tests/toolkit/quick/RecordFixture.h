@@ -31,13 +31,12 @@ class RecordFixture : public QuickFixture {
 
   template <typename View>
   std::shared_ptr<View> add(std::shared_ptr<View> view, CGRect frame,
-                            const std::shared_ptr<UIView>& parent = nullptr) {
+                            const UIViewRef& parent = nullptr) {
     view->setFrame(frame);
     (parent ? parent : root)->addSubview(view);
     return view;
   }
-  std::shared_ptr<UIView> addGround(CGRect frame, const UIColor& color,
-                                    const std::shared_ptr<UIView>& parent = nullptr) {
+  UIViewRef addGround(CGRect frame, const UIColor& color, const UIViewRef& parent = nullptr) {
     const auto view = add(std::make_shared<UIView>(), frame, parent);
     view->setBackgroundColor(color);
     return view;
@@ -52,7 +51,7 @@ class RecordFixture : public QuickFixture {
 
   const FakeServices fakes = installFakeServices();
   QQmlEngine engine;
-  const std::shared_ptr<UIView> root = std::make_shared<UIView>();
+  const UIViewRef root = std::make_shared<UIView>();
   const std::unique_ptr<RecordItem> item = place<RecordItem>({0, 0, 200, 200});
 
  private:

@@ -23,7 +23,7 @@ class ScrollViewItemTest : public RecordFixture {
     addGround({{0, 400}, {200, 100}}, UIColor::redColor(), scroll);
     flick = item->findChild<ScrollViewItem*>()->childItems().first();
   }
-  std::shared_ptr<UIView> addButton(CGRect frame) {
+  UIViewRef addButton(CGRect frame) {
     const auto button = addGround(frame, UIColor::whiteColor(), scroll);
     auto recognizer = std::make_shared<UITapGestureRecognizer>();
     recognizer->action = [this](UIView&) { ++taps; };

@@ -32,7 +32,7 @@ class SubviewsItemTest : public QuickFixture {
     view->setBackgroundColor(color);
     return view;
   }
-  std::shared_ptr<UIView> add(CGRect frame, const UIColor& color = kRedColor) {
+  UIViewRef add(CGRect frame, const UIColor& color = kRedColor) {
     auto view = make(frame, color);
     owner.root->addSubview(view);
     return view;

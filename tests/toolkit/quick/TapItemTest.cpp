@@ -30,7 +30,7 @@ class TapItemTest : public RecordFixture {
   }
   using Events = std::vector<std::string>;
 
-  const std::shared_ptr<UIView> button = addGround({{50, 50}, {100, 40}}, UIColor::whiteColor());
+  const UIViewRef button = addGround({{50, 50}, {100, 40}}, UIColor::whiteColor());
   const std::shared_ptr<UILabel> label = std::make_shared<UILabel>();
   const std::shared_ptr<UITapGestureRecognizer> recognizer =
       std::make_shared<UITapGestureRecognizer>();

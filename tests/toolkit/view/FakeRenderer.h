@@ -28,7 +28,7 @@ class FakeRenderer final : public UIViewRenderer {
   int scheduled = 0;
 
  private:
-  std::shared_ptr<UIView> view_;
+  UIViewRef view_;
   std::optional<CGPoint> origin_;
 };
 

@@ -153,8 +153,7 @@ class Tree final {
             .multiplier = *rc::gen::element(1.0, 0.5)};
   }
 
-  static NSLayoutConstraintRef install(const std::shared_ptr<UIView>& owner,
-                                       NSLayoutConstraint::Parts parts) {
+  static NSLayoutConstraintRef install(const UIViewRef& owner, NSLayoutConstraint::Parts parts) {
     auto constraint = std::make_shared<NSLayoutConstraint>(std::move(parts));
     owner->addConstraint(constraint);
     return constraint;
@@ -291,7 +290,7 @@ RC_GTEST_PROP(LayoutEngineProperty, AnyChangesLeadToTheFramesOfATreeThatIsBuiltA
 RC_GTEST_PROP(LayoutEngineProperty, ManyEqualWishesComeToAnEnd, ()) {
   const auto root = std::make_shared<UIView>();
   root->setFrame({{0, 0}, {100, 100}});
-  std::vector<std::shared_ptr<UIView>> views;
+  std::vector<UIViewRef> views;
   const std::size_t count = *rc::gen::inRange<std::size_t>(2, 8);
   for (std::size_t i = 0; i < count; ++i) {
     views.push_back(std::make_shared<UIView>());

@@ -18,14 +18,14 @@ class LayoutEngineTest : public LayoutFixture, public ::testing::Test {
  protected:
   ~LayoutEngineTest() override { LayoutEngine::leftOut() = {}; }
 
-  static NSLayoutConstraintRef size(const std::shared_ptr<UIView>& view, Attribute attribute,
-                                    double points, Relation relation = Relation::equal) {
+  static NSLayoutConstraintRef size(const UIViewRef& view, Attribute attribute, double points,
+                                    Relation relation = Relation::equal) {
     return hold(
         view,
         {.firstItem = view, .firstAttribute = attribute, .relation = relation, .constant = points});
   }
-  NSLayoutConstraintRef same(const std::shared_ptr<UIView>& view, Attribute attribute,
-                             const std::shared_ptr<UIView>& other, double constant = 0) {
+  NSLayoutConstraintRef same(const UIViewRef& view, Attribute attribute, const UIViewRef& other,
+                             double constant = 0) {
     return hold(root, {.firstItem = view,
                        .firstAttribute = attribute,
                        .secondItem = other,

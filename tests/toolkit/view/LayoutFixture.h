@@ -13,26 +13,24 @@ namespace kindora {
 /// A view with a given frame and the means to fill it with views that constraints place.
 class LayoutFixture {
  protected:
-  static std::shared_ptr<UIView> placed(const std::shared_ptr<UIView>& superview,
-                                        std::shared_ptr<UIView> view = std::make_shared<UIView>()) {
+  static UIViewRef placed(const UIViewRef& superview, UIViewRef view = std::make_shared<UIView>()) {
     view->setTranslatesAutoresizingMaskIntoConstraints(false);
     superview->addSubview(view);
     return view;
   }
-  static NSLayoutConstraintRef hold(const std::shared_ptr<UIView>& owner,
-                                    NSLayoutConstraint::Parts parts) {
+  static NSLayoutConstraintRef hold(const UIViewRef& owner, NSLayoutConstraint::Parts parts) {
     auto constraint = std::make_shared<NSLayoutConstraint>(std::move(parts));
     owner->addConstraint(constraint);
     return constraint;
   }
-  static std::shared_ptr<UIView> framed(CGRect frame) {
+  static UIViewRef framed(CGRect frame) {
     auto view = std::make_shared<UIView>();
     view->setFrame(frame);
     return view;
   }
 
   const FakeViewServices fakes = installFakeViewServices();
-  const std::shared_ptr<UIView> root = framed({{0, 0}, {320, 480}});
+  const UIViewRef root = framed({{0, 0}, {320, 480}});
 };
 
 }  // namespace kindora

@@ -13,7 +13,7 @@ namespace {
 
 class MotionEffectsTest : public ::testing::Test {
  protected:
-  static std::shared_ptr<UIView> make() {
+  static UIViewRef make() {
     auto view = std::make_shared<UIView>();
     view->setFrame({{100, 100}, {10, 10}});
     view->addMotionEffect(

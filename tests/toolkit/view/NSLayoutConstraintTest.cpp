@@ -20,8 +20,8 @@ class NSLayoutConstraintTest : public ::testing::Test {
     a->setName("a");
     b->setName("b");
   }
-  const std::shared_ptr<UIView> a = std::make_shared<UIView>();
-  const std::shared_ptr<UIView> b = std::make_shared<UIView>();
+  const UIViewRef a = std::make_shared<UIView>();
+  const UIViewRef b = std::make_shared<UIView>();
 };
 
 TEST_F(NSLayoutConstraintTest, NumbersAreThoseOfTheEdgesAndSizesOnThePhone) {

@@ -16,8 +16,8 @@ class UIViewAnimationBlockTest : public ::testing::Test {
  protected:
   [[nodiscard]] double shownAlpha() const { return view->presentation().alpha; }
 
-  const std::shared_ptr<UIView> view = std::make_shared<UIView>();
-  const std::shared_ptr<UIView> other = std::make_shared<UIView>();
+  const UIViewRef view = std::make_shared<UIView>();
+  const UIViewRef other = std::make_shared<UIView>();
 };
 
 TEST_F(UIViewAnimationBlockTest, ChangesTakeEffectButDoNotShow) {

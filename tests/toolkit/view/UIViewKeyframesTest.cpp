@@ -21,7 +21,7 @@ class UIViewKeyframesTest : public ::testing::Test {
     changes = 0;
   }
 
-  const std::shared_ptr<UIView> view = std::make_shared<UIView>();
+  const UIViewRef view = std::make_shared<UIView>();
   int changes = 0;
   const Subscription subscription = view->observe([this] { ++changes; });
 };
@@ -133,7 +133,7 @@ class UIViewLayerAnimationTest : public ::testing::Test {
   }
 
   int gone = 0;
-  std::shared_ptr<UIView> view = std::make_shared<UIView>();
+  UIViewRef view = std::make_shared<UIView>();
 };
 
 TEST_F(UIViewLayerAnimationTest, IsKeptUnderItsKey) {

@@ -14,15 +14,15 @@
 namespace kindora {
 namespace {
 
-using Views = std::vector<std::shared_ptr<UIView>>;
+using Views = std::vector<UIViewRef>;
 
 // A view of 100 x 80 points at (10, 20), and another to put inside.
 class UIViewPlaceTest : public ::testing::Test {
  protected:
   UIViewPlaceTest() { view->setFrame({{10, 20}, {100, 80}}); }
 
-  const std::shared_ptr<UIView> view = std::make_shared<UIView>();
-  const std::shared_ptr<UIView> inner = std::make_shared<UIView>();
+  const UIViewRef view = std::make_shared<UIView>();
+  const UIViewRef inner = std::make_shared<UIView>();
 };
 
 // --- Frames ---
@@ -237,8 +237,8 @@ class UIViewCoverTest : public ::testing::Test {
     view->addSubview(cover);
   }
 
-  const std::shared_ptr<UIView> view = std::make_shared<UIView>();
-  const std::shared_ptr<UIView> cover = std::make_shared<UIView>();
+  const UIViewRef view = std::make_shared<UIView>();
+  const UIViewRef cover = std::make_shared<UIView>();
 };
 
 TEST_F(UIViewCoverTest, AViewMadeInCodeThatFillsTakesAllInput) {

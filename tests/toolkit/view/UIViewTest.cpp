@@ -12,7 +12,7 @@
 namespace kindora {
 namespace {
 
-std::shared_ptr<UIView> named(const char* name) {
+UIViewRef named(const char* name) {
   auto view = std::make_shared<UIView>();
   view->setName(name);
   return view;
@@ -20,7 +20,7 @@ std::shared_ptr<UIView> named(const char* name) {
 
 class UIViewTest : public ::testing::Test {
  protected:
-  const std::shared_ptr<UIView> view = named("view");
+  const UIViewRef view = named("view");
   int changes = 0;
   Subscription subscription = view->observe([this] { ++changes; });
 };
@@ -289,7 +289,7 @@ class UIViewLayoutTest : public ::testing::Test {
   static std::shared_ptr<NSLayoutConstraint> constraint() {
     return std::make_shared<NSLayoutConstraint>();
   }
-  const std::shared_ptr<UIView> view = named("view");
+  const UIViewRef view = named("view");
 };
 
 TEST_F(UIViewLayoutTest, TheFirstLayoutIsTheStart) {

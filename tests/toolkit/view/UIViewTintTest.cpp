@@ -16,8 +16,8 @@ constexpr UIColor kRed{1, 0, 0, 0.5};
 class UIViewTintTest : public ::testing::Test {
  protected:
   UIViewTintTest() { outer->addSubview(inner); }
-  const std::shared_ptr<UIView> outer = std::make_shared<UIView>();
-  const std::shared_ptr<UIView> inner = std::make_shared<UIView>();
+  const UIViewRef outer = std::make_shared<UIView>();
+  const UIViewRef inner = std::make_shared<UIView>();
 };
 
 TEST(UIViewTint, ModesHaveThePhonesValues) {
