@@ -31,7 +31,7 @@ FLOORS = (
     "toolkit/controllers",
     "toolkit/quick",
     "toolkit/hosts",
-    "toolkit/photos",
+    "photos",
     "model",
     "phoneformat",
     "effects/keyframes",

@@ -25,7 +25,7 @@ if [[ ${#files[@]} -eq 0 ]]; then
   mapfile -t files < <(
     comm -12 \
       <(git ls-files -- {alerts,app,effects,gallery,layout,main,model,phoneformat}'/*.cpp' \
-        {platform,screens,toolkit}'/*.cpp' |
+        {photos,platform,screens,toolkit}'/*.cpp' |
         sort) \
       <(sed -n "s|^ *\"file\": \"$PWD/\(.*\)\",\{0,1\}\$|\1|p" "$build/compile_commands.json" | sort -u)
   )

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "model/Challenge.h"
+#include "photos/UIImagePickerController.h"
 #include "toolkit/controllers/UIAlertController.h"
 #include "toolkit/controllers/UIStaticTableViewController.h"
-#include "toolkit/photos/UIImagePickerController.h"
 #include "toolkit/view/UIImageView.h"
 #include "toolkit/view/UITextField.h"
 

@@ -111,7 +111,7 @@ TEST_F(QavActionsCollectionViewTest, TellsCellsAndTheirPlacesApart) {
   show(2);
   const auto cell = view->cellForItemAtIndexPath({0, 1});
   EXPECT_EQ(view->indexPathForCell(*cell), (IndexPath{0, 1}));
-  EXPECT_EQ(view->indexPathForCell(*view), std::nullopt);
+  EXPECT_EQ(view->indexPathForCell(static_cast<const UIView&>(*view)), std::nullopt);
   // What decorates a cell is none.
   EXPECT_EQ(view->indexPathForCell(*view->subviews().front()), std::nullopt);
   EXPECT_EQ(view->cellForItemAtIndexPath({0, 2}), nullptr);

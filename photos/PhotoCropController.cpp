@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include "toolkit/photos/PhotoCropController.h"
+#include "photos/PhotoCropController.h"
 
 #include <utility>
 
@@ -13,12 +13,12 @@ PhotoCropController::PhotoCropController(UIImageRef image)
   setTitle(QStringLiteral("Move and Scale"));
 }
 
-QUrl PhotoCropController::page() const {
-  return pageUrl(u"Kindora.Toolkit.Photos", u"PhotoCropPage");
-}
+QUrl PhotoCropController::page() const { return pageUrl(u"Kindora.Photos", u"PhotoCropPage"); }
 
 // Its buttons stand on the page, so that the bar's place is the way back.
-void PhotoCropController::viewDidLoad() { UIViewController::viewDidLoad(); }
+void PhotoCropController::viewDidLoad() {
+  UIViewController::viewDidLoad();  // NOLINT(bugprone-parent-virtual-call)
+}
 
 QSizeF PhotoCropController::pictureSize() const {
   const CGSize size = image_->pixelSize();

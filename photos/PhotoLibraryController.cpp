@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include "toolkit/photos/PhotoLibraryController.h"
+#include "photos/PhotoLibraryController.h"
 
+#include "photos/PhotoFolderController.h"
 #include "platform/services/Services.h"
 #include "toolkit/controllers/PageUrl.h"
-#include "toolkit/photos/PhotoFolderController.h"
 
 namespace kindora {
 
 QUrl PhotoLibraryController::page() const {
-  return pageUrl(u"Kindora.Toolkit.Photos", u"PhotoLibraryPage");
+  return pageUrl(u"Kindora.Photos", u"PhotoLibraryPage");
 }
 
 void PhotoLibraryController::viewDidLoad() {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import Kindora.Toolkit.Hosts
-import Kindora.Toolkit.Photos
+import Kindora.Photos
 
 // The picture under a square, to be moved by a finger or the arrow keys and zoomed by two fingers,
 // the wheel or the keys + and -.

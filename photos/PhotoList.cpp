@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include "toolkit/photos/PhotoList.h"
+#include "photos/PhotoList.h"
 
 #include "platform/services/Services.h"
 #include "toolkit/quick/ImageHandle.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include "toolkit/photos/PhotoPageController.h"
+#include "photos/PhotoPageController.h"
 
 #include <utility>
 

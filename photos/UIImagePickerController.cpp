@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include "toolkit/photos/UIImagePickerController.h"
+#include "photos/UIImagePickerController.h"
 
 #include <utility>
 
-#include "toolkit/photos/CameraController.h"
-#include "toolkit/photos/PhotoCropController.h"
-#include "toolkit/photos/PhotoLibraryController.h"
+#include "photos/CameraController.h"
+#include "photos/PhotoCropController.h"
+#include "photos/PhotoLibraryController.h"
 
 namespace kindora {
 namespace {

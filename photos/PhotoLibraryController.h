@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "toolkit/photos/PhotoList.h"
-#include "toolkit/photos/PhotoPageController.h"
+#include "photos/PhotoList.h"
+#include "photos/PhotoPageController.h"
 
 namespace kindora {
 

@@ -3,7 +3,7 @@
 import QtQuick
 import QtQuick.Templates as T
 import Kindora.Toolkit.Hosts
-import Kindora.Toolkit.Photos
+import Kindora.Photos
 
 // The camera with its release, or the word that there is none.
 Rectangle {

@@ -3,7 +3,7 @@
 import QtQuick
 import QtQuick.Templates as T
 import Kindora.Toolkit.Hosts
-import Kindora.Toolkit.Photos
+import Kindora.Photos
 
 // A folder's folders and pictures, one a row.
 Rectangle {

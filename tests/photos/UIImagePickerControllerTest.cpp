@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include "toolkit/photos/UIImagePickerController.h"
+#include "photos/UIImagePickerController.h"
 
+#include "photos/CameraController.h"
+#include "photos/PhotoCropController.h"
+#include "photos/PhotoFolderController.h"
+#include "photos/PhotoLibraryController.h"
 #include "platform/fakes/FakeServices.h"
 #include "tests/toolkit/controllers/ToolkitFixture.h"
 #include "toolkit/controllers/UIAlertController.h"
-#include "toolkit/photos/CameraController.h"
-#include "toolkit/photos/PhotoCropController.h"
-#include "toolkit/photos/PhotoFolderController.h"
-#include "toolkit/photos/PhotoLibraryController.h"
 #include "toolkit/quick/ImageHandle.h"
 
 namespace kindora {

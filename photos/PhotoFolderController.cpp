@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include "toolkit/photos/PhotoFolderController.h"
+#include "photos/PhotoFolderController.h"
 
 #include <utility>
 
@@ -14,9 +14,7 @@ PhotoFolderController::PhotoFolderController(std::string path) : path_(std::move
                          : QString::fromStdString(path_.substr(path_.rfind('/') + 1)));
 }
 
-QUrl PhotoFolderController::page() const {
-  return pageUrl(u"Kindora.Toolkit.Photos", u"PhotoFolderPage");
-}
+QUrl PhotoFolderController::page() const { return pageUrl(u"Kindora.Photos", u"PhotoFolderPage"); }
 
 void PhotoFolderController::viewDidLoad() {
   PhotoPageController::viewDidLoad();

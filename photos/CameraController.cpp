@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include "toolkit/photos/CameraController.h"
+#include "photos/CameraController.h"
 
 #include "platform/services/Services.h"
 #include "toolkit/controllers/PageUrl.h"
@@ -11,7 +11,7 @@ CameraController::CameraController() { setTitle(QStringLiteral("Camera")); }
 
 CameraController::~CameraController() = default;
 
-QUrl CameraController::page() const { return pageUrl(u"Kindora.Toolkit.Photos", u"CameraPage"); }
+QUrl CameraController::page() const { return pageUrl(u"Kindora.Photos", u"CameraPage"); }
 
 void CameraController::viewDidLoad() {
   PhotoPageController::viewDidLoad();

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "toolkit/photos/UIImagePickerController.h"
+#include "photos/UIImagePickerController.h"
 
 namespace kindora {
 

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "toolkit/photos/PhotoList.h"
-#include "toolkit/photos/PhotoPageController.h"
+#include "photos/PhotoList.h"
+#include "photos/PhotoPageController.h"
 
 namespace kindora {
 

@@ -6,8 +6,8 @@
 #include <QRectF>
 #include <QSizeF>
 
+#include "photos/PhotoPageController.h"
 #include "platform/SquareCrop.h"
-#include "toolkit/photos/PhotoPageController.h"
 #include "toolkit/quick/ImageHandle.h"
 
 namespace kindora {

@@ -3,7 +3,7 @@
 import QtQuick
 import QtQuick.Templates as T
 import Kindora.Toolkit.Hosts
-import Kindora.Toolkit.Photos
+import Kindora.Photos
 
 // The user's pictures as a grid, newest first, and the way to those that lie elsewhere.
 Rectangle {

@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include <memory>
 
-#include "toolkit/photos/PhotoPageController.h"
+#include "photos/PhotoPageController.h"
 
 namespace kindora {
 

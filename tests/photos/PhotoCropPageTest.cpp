@@ -6,9 +6,9 @@
 #include <QTest>
 #include <memory>
 
+#include "photos/PhotoCropController.h"
 #include "platform/fakes/FakeServices.h"
 #include "tests/support/QuickFixture.h"
-#include "toolkit/photos/PhotoCropController.h"
 
 namespace kindora {
 namespace {
