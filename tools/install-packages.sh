@@ -37,7 +37,7 @@ test_packages=(
   libgtest-dev libgmock-dev librapidcheck-dev qml6-module-qttest
   qt6-qpa-plugins libqt6svg6 fonts-lato
   # Checks.
-  git clang-format clang-tidy cmake-format shellcheck desktop-file-utils
+  git clang clang-format clang-tidy cmake-format shellcheck desktop-file-utils
   # The end-to-end tests: a private display and bus, the accessibility tree, pointer and keys.
   xvfb libgl1-mesa-dri dbus-daemon at-spi2-core
   python3 python3-gi gir1.2-atspi-2.0 python3-xlib

@@ -31,8 +31,8 @@ std::shared_ptr<QavAlertView> alertViewWithContent(const QavAlertContent& conten
   const std::vector<QavAlertActionRef>& actions = content.actions;
   const std::optional<std::string> cancelTitle =
       actions.empty() ? std::nullopt : std::optional(buttonTitle(*actions.front()));
-  const auto alertView = QavAlertView::initWithTitle(content.title, content.message,
-                                                     std::move(delegate), cancelTitle, {});
+  auto alertView = QavAlertView::initWithTitle(content.title, content.message, std::move(delegate),
+                                               cancelTitle, {});
   for (std::size_t i = 1; i < actions.size(); ++i) {
     alertView->addButtonWithTitle(buttonTitle(*actions[i]));
   }

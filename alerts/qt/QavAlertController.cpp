@@ -43,7 +43,7 @@ QavAlertController::~QavAlertController() = default;
 QavAlertControllerRef QavAlertController::alertControllerWithTitle(
     const std::optional<std::string>& title, const std::optional<std::string>& message,
     QavAlertControllerStyle preferredStyle) {
-  const auto controller = makeViewController<QavAlertController>(preferredStyle);
+  auto controller = makeViewController<QavAlertController>(preferredStyle);
   controller->initWithTitle(title, message);
   return controller;
 }
@@ -52,7 +52,7 @@ QavAlertControllerRef QavAlertController::alertControllerWithAttributedTitle(
     const std::optional<NSAttributedString>& attributedTitle,
     const std::optional<NSAttributedString>& attributedMessage,
     QavAlertControllerStyle preferredStyle) {
-  const auto controller = makeViewController<QavAlertController>(preferredStyle);
+  auto controller = makeViewController<QavAlertController>(preferredStyle);
   controller->initWithAttributedTitle(attributedTitle, attributedMessage);
   return controller;
 }
@@ -184,7 +184,7 @@ QavAlertControllerRef QavAlertController::showAlertControllerWithTitle(
 QavAlertControllerRef QavAlertController::showAlertControllerWithTitle(
     const std::optional<std::string>& title, const std::optional<std::string>& message,
     const std::optional<std::string>& actionTitle, const UIViewRef& subview) {
-  const auto controller = alertControllerWithTitle(title, message, QavAlertControllerStyle::alert);
+  auto controller = alertControllerWithTitle(title, message, QavAlertControllerStyle::alert);
   controller->addAction(QavAlertAction::actionWithTitle(actionTitle, QavAlertActionStyle::cancel));
   if (subview) controller->contentView()->addSubview(subview);
   controller->presentWithCompletion();
@@ -257,11 +257,12 @@ bool QavAlertController::goBack() {
 
 void QavAlertController::alertControllerViewDidPerformAction(
     QavAlertControllerView& /*alertView*/, const QavAlertActionRef& didPerformAction) {
-  const QavAlertActionRef action = didPerformAction;
-  if (!action->isEnabled() || isAnswered_) return;
+  if (!didPerformAction->isEnabled() || isAnswered_) return;
+  // Held: what is asked may drop it from the alert.
+  QavAlertActionRef action = didPerformAction;
   if (shouldDismissBlock && !shouldDismissBlock(*action)) return;
   isAnswered_ = presentingViewController() != nullptr;
-  dismissWithCompletion([self = shared_from_this(), action] {
+  dismissWithCompletion([self = shared_from_this(), action = std::move(action)] {
     if (action->handler()) action->handler()(*action);
   });
 }

@@ -92,7 +92,7 @@ QImage ScratchImageViewItem::tileImage(std::size_t column, std::size_t row) cons
       const double inside = coverage(static_cast<double>(left + x) + 0.5,
                                      static_cast<double>(top + y) + 0.5, width, height, radius);
       const auto scaled = [inside](std::uint8_t value) {
-        return static_cast<std::uint8_t>(value * inside + 0.5);
+        return static_cast<std::uint8_t>(std::lround(value * inside));
       };
       line[x] = {scaled(line[x].red), scaled(line[x].green), scaled(line[x].blue),
                  scaled(line[x].alpha)};

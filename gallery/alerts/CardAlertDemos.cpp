@@ -111,7 +111,7 @@ UIViewRef makeChart() {
   constexpr double kHeight = 84;
   constexpr double kBarWidth = 20;
   constexpr std::array kBars{0.35, 0.6, 0.45, 0.8, 1.0};
-  const auto chart = std::make_shared<UIView>();
+  auto chart = std::make_shared<UIView>();
   chart->setFrame({{0, 0}, {270, kHeight + 16}});
   chart->setAccessibility(UIAccessibilityRole::staticText, "Kind deeds from Monday to Friday");
   const auto picture = std::make_shared<UIImageView>();

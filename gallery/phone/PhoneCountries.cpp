@@ -71,7 +71,7 @@ std::string internationalPhoneNumber(LuPhoneFormat& phoneFormat, std::string_vie
   candidates.push_back(std::string("+").append(callingCode).append(dialled));
   // What begins like a prefix need not be one.
   for (const std::string& candidate : candidates) {
-    const std::string laidOut = phoneFormat.format(candidate);
+    std::string laidOut = phoneFormat.format(candidate);
     if (phoneFormat.isPhoneNumberValid(laidOut)) return laidOut;
   }
   return {};

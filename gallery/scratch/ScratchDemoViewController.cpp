@@ -82,7 +82,7 @@ QByteArray ScratchDemoViewController::marks() const {
   if (!matrix) return {};
   const JxMatrix::Max max = matrix->max();
   QByteArray marks;
-  marks.reserve(static_cast<qsizetype>(max.x * max.y));
+  marks.reserve(static_cast<qsizetype>(max.x) * static_cast<qsizetype>(max.y));
   // The grid counts its lines from below.
   for (std::size_t line = max.y; line-- > 0;) {
     for (std::size_t column = 0; column < max.x; ++column) {

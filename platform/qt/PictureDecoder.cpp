@@ -15,7 +15,8 @@ namespace kindora {
 namespace {
 
 // Megabytes for one decoded picture of the most pixels, at 8 bytes each (16 bits a channel).
-constexpr int kAllocationLimit = static_cast<int>(kMaximumPicturePixels * 8 / (1024 * 1024));
+constexpr int kAllocationLimit =
+    static_cast<int>(kMaximumPicturePixels * 8 / (qint64{1024} * 1024));
 constexpr qint64 kMagicLength = 8;
 
 std::span<const std::byte> bytesOf(const uchar* data, qint64 size) {

@@ -32,9 +32,9 @@ QImage shadow(double width, double height, double radius, double blur, double ra
       const double distance = distanceToRoundedRect(x, y, width / 2, height / 2, corner);
       const double t = std::clamp((blur - distance) / (2 * blur), 0.0, 1.0);
       const double alpha = t * t * (3 - 2 * t);  // smooth from full inside to none outside
-      uchar* pixel = line + px * 4;
+      uchar* pixel = line + std::ptrdiff_t{4} * px;
       pixel[0] = pixel[1] = pixel[2] = 0;
-      pixel[3] = static_cast<uchar>(alpha * 255 + 0.5);
+      pixel[3] = static_cast<uchar>(std::lround(alpha * 255));
     }
   }
   return image;
