@@ -1,15 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <memory>
 
 #include "alerts/card/QavAlertControllerDefaultVisualStyle.h"
 #include "alerts/helpers/QavAutoLayout.h"
 #include "alerts/qt/ConstraintLayout.h"
 #include "alerts/qt/ItemView.h"
 #include "alerts/qt/QavAlertController.h"
-#include "tests/support/QuickFixture.h"
+#include "tests/docs/QmlExample.h"
 
 namespace kindora {
 namespace {
@@ -21,31 +18,15 @@ constexpr auto kItems = R"(
     Rectangle { id: text; objectName: "text" }
 )";
 
-class AlertsQtExamples : public QuickFixture {
+class AlertsQtExamples : public QmlExample {
  protected:
-  AlertsQtExamples() {
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    QObject::connect(&engine, &QQmlEngine::warnings, [](const QList<QQmlError>& warnings) {
-      for (const QQmlError& warning : warnings) ADD_FAILURE() << warning.toString().toStdString();
-    });
-  }
-
   // A window's content with the example in it.
   void load(const QByteArray& content) {
-    QQmlComponent component(&engine);
-    component.setData(
+    show(
         "import QtQuick\nimport QtQuick.Templates\nimport Kindora.Alerts\n"
         "ConstraintLayout {\n id: root\n width: 100; height: 80\n property string outcome\n" +
-            content + "}",
-        QUrl());
-    root.reset(qobject_cast<QQuickItem*>(component.create()));
-    ASSERT_TRUE(root) << component.errorString().toStdString();
-    root->setParentItem(window.contentItem());
-    static_cast<void>(drawn());
+        content + "}");
   }
-
-  QQmlEngine engine;
-  std::unique_ptr<QQuickItem> root;
 };
 
 TEST_F(AlertsQtExamples, AnAlertOfTheHeader) {

@@ -1,44 +1,25 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-#include <QQmlComponent>
 #include <QQmlContext>
-#include <QQmlEngine>
 #include <QQmlPropertyMap>
-#include <memory>
 
 #include "effects/scratch/JxScratchImageView.h"
 #include "effects/springy/BelSpringyCollectionViewFlowLayout.h"
-#include "tests/support/QuickFixture.h"
+#include "tests/docs/QmlExample.h"
 #include "toolkit/controllers/CollectionView.h"
 
 namespace kindora {
 namespace {
 
-class EffectsQtExamples : public QuickFixture {
+class EffectsQtExamples : public QmlExample {
  protected:
-  EffectsQtExamples() {
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    QObject::connect(&engine, &QQmlEngine::warnings, [](const QList<QQmlError>& warnings) {
-      for (const QQmlError& warning : warnings) ADD_FAILURE() << warning.toString().toStdString();
-    });
-  }
-
   void load(QObject& game, const QByteArray& example) {
     engine.rootContext()->setContextProperty(QStringLiteral("game"), &game);
-    QQmlComponent component(&engine);
-    component.setData(
+    show(
         "import QtQuick\nimport Kindora.Effects\nimport Kindora.Toolkit.Hosts\n"
         "import Kindora.Toolkit.Quick\nItem {\n width: 100; height: 100\n" +
-            example + "}",
-        QUrl());
-    root.reset(qobject_cast<QQuickItem*>(component.create()));
-    ASSERT_TRUE(root) << component.errorString().toStdString();
-    root->setParentItem(window.contentItem());
-    static_cast<void>(drawn());
+        example + "}");
   }
-
-  QQmlEngine engine;
-  std::unique_ptr<QQuickItem> root;
 };
 
 #include "examples/docs/effects.md.3"
