@@ -6,7 +6,7 @@
 #
 # Lints every QML module of a built tree. Any remark fails, those too that the linter calls mere
 # information, and so does a tracked QML file that no module lists: it would be neither linted nor
-# compiled.
+# compiled. Files that are loaded by name lie beside those that name them, which the linter cannot see.
 set -euo pipefail
 [[ $# -eq 1 ]] || {
   echo "usage: $0 BUILD-FOLDER" >&2
@@ -32,6 +32,12 @@ for file in "${files[@]}"; do
     echo "$file: belongs to no QML module"
     failed=1
   fi
+  while IFS= read -r named; do
+    if [[ ! -f $(dirname -- "$file")/$named ]]; then
+      echo "$file: names $named, which does not lie beside it"
+      failed=1
+    fi
+  done < <(grep -oP '"\K[A-Za-z]+\.qml(?=")' -- "$file" || true)
 done
 if [[ ${#files[@]} -eq 0 ]]; then
   echo "error: no QML file is tracked here" >&2
