@@ -7,6 +7,7 @@
 #include "platform/Geometry.h"
 #include "platform/NotificationCenter.h"
 #include "platform/ObserverList.h"
+#include "platform/Subscription.h"
 #include "platform/fakes/FakeHttp.h"
 #include "platform/fakes/ManualQueue.h"
 
@@ -15,17 +16,17 @@ namespace {
 
 class PlatformExamples : public ::testing::Test {
  protected:
-  void take(const CGSize& size) { heard = size; }
+  void take(const CGSize& size) { taken_ = size; }
 
-  CGSize heard;
-  NotificationCenter::Subscription subscription_;
+  CGSize taken_;
+  Subscription subscription_;
 };
 
 TEST_F(PlatformExamples, AnObserverHearsOfAPost) {
   NotificationCenter center;
   const CGSize size{3, 4};
 #include "examples/platform/NotificationCenter.h.1"
-  EXPECT_EQ(heard, size);
+  EXPECT_EQ(taken_, size);
 }
 
 TEST_F(PlatformExamples, AnObserverIsToldAValue) {
