@@ -210,6 +210,22 @@ void use(const PhoneFormatData& data, const CallingCodeInfo& plan) {
   static_cast<void>(formatter.isPhoneNumberValid("02012345678"));
 }
 
+// Under a sanitizer each use takes so long that one bit of each byte has to do, another one from
+// byte to byte, and one length in seven.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kSampled = true;
+#else
+constexpr bool kSampled = false;
+#endif
+
+void flipBits(PhoneFormatData& data, std::size_t at, const CallingCodeInfo& plan) {
+  for (std::size_t bit = kSampled ? at % 8 : 0; bit < 8; bit += kSampled ? 8 : 1) {
+    data[at] ^= std::byte{1} << bit;
+    use(data, plan);
+    data[at] ^= std::byte{1} << bit;
+  }
+}
+
 // Each block as a file of its own, one zone of the world a test, so that each is soon done.
 class ShippedFileDamage : public ::testing::TestWithParam<char> {
  protected:
@@ -224,19 +240,13 @@ class ShippedFileDamage : public ::testing::TestWithParam<char> {
 
 TEST_P(ShippedFileDamage, AnyBitFlipDoesNoHarm) {
   forEachBlock([](PhoneFormatData data, const CallingCodeInfo& plan) {
-    for (std::byte& byte : data) {
-      for (int bit = 0; bit < 8; ++bit) {
-        byte ^= std::byte{1} << bit;
-        use(data, plan);
-        byte ^= std::byte{1} << bit;
-      }
-    }
+    for (std::size_t i = 0; i < data.size(); ++i) flipBits(data, i, plan);
   });
 }
 
 TEST_P(ShippedFileDamage, AnyTruncationDoesNoHarm) {
   forEachBlock([](const PhoneFormatData& data, const CallingCodeInfo& plan) {
-    for (std::size_t size = 0; size < data.size(); ++size) {
+    for (std::size_t size = 0; size < data.size(); size += kSampled ? 7 : 1) {
       use(PhoneFormatData(data.begin(), data.begin() + static_cast<std::ptrdiff_t>(size)), plan);
     }
   });
@@ -249,13 +259,7 @@ TEST(ShippedFile, AnyBitFlipOfItsHeaderDoesNoHarm) {
   CallingCodeInfo plan;
   plan.countries = {"gb"};
   plan.callingCode = "44";
-  for (std::size_t i = 0; i < 4 + 12 * kRegions; ++i) {
-    for (int bit = 0; bit < 8; ++bit) {
-      data[i] ^= std::byte{1} << bit;
-      use(data, plan);
-      data[i] ^= std::byte{1} << bit;
-    }
-  }
+  for (std::size_t i = 0; i < 4 + 12 * kRegions; ++i) flipBits(data, i, plan);
 }
 
 }  // namespace
