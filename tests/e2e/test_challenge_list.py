@@ -88,7 +88,7 @@ class ChallengeList(ChallengeTest):
         for _ in range(12):
             if row.has("focused"):
                 break
-            self.app.key("Tab")
+            self.pass_tab()
         self.assertTrue(row.has("focused"))
         self.app.key("Delete")
         self.app.wait_for('Reject "Compliment Challenge"?', role="alert")

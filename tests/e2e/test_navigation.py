@@ -58,7 +58,7 @@ class Navigation(ChallengeTest):
         for _ in range(12):
             if row.has("focused"):
                 break
-            self.app.key("Tab")
+            self.pass_tab()
         self.app.key("Return")
         self.app.wait_for("Josh the Whale sent you this challenge.")
 
