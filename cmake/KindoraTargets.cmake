@@ -12,6 +12,9 @@ option(KINDORA_WERROR "Make warnings errors; for this project's own developers" 
 option(KINDORA_COMPILE_QML "Compile QML files ahead of time, as what ships has them" ON)
 option(KINDORA_PRECOMPILE_HEADERS "Parse the headers of libraries once instead of in each source"
        ON)
+option(KINDORA_JOIN_SOURCES
+       "Compile the sources of a target a few at a time, for builds from nothing" OFF)
+set(CMAKE_UNITY_BUILD ${KINDORA_JOIN_SOURCES})
 set(KINDORA_SANITIZE
     ""
     CACHE STRING "Sanitizers to build with, for instance address,undefined")
@@ -75,6 +78,44 @@ function(kindora_library NAME)
   kindora_precompile(kindora_${NAME} ${LEVEL})
 endfunction()
 
+# kindora_join(TARGET file...)
+# Lets the sources among the files be compiled eight at a time where sources are to be joined.
+function(kindora_join TARGET)
+  if(NOT KINDORA_JOIN_SOURCES)
+    return()
+  endif()
+  set_target_properties(${TARGET} PROPERTIES UNITY_BUILD_MODE GROUP)
+  set(sources ${ARGN})
+  list(FILTER sources INCLUDE REGEX "\\.cpp$")
+  set(index 0)
+  foreach(source IN LISTS sources)
+    math(EXPR group "${index} / 8")
+    set_source_files_properties(${source} PROPERTIES UNITY_GROUP own_${group})
+    math(EXPR index "${index} + 1")
+  endforeach()
+endfunction()
+
+# kindora_excuse_generated(TARGET file.qml...)
+# The warnings of what Qt writes for a module are not ours to mend, and its speed is the engine's.
+function(kindora_excuse_generated TARGET)
+  set(excused ${CMAKE_CURRENT_BINARY_DIR}/${TARGET}_qmltyperegistrations.cpp)
+  foreach(file IN LISTS ARGN)
+    get_filename_component(base ${file} NAME_WE)
+    set(compiled ${CMAKE_CURRENT_BINARY_DIR}/.rcc/qmlcache/${TARGET}_${base}_qml.cpp)
+    if(KINDORA_JOIN_SOURCES)
+      set_source_files_properties(${compiled} PROPERTIES UNITY_GROUP qml)
+    else()
+      list(APPEND excused ${compiled})
+    endif()
+  endforeach()
+  if(KINDORA_JOIN_SOURCES)
+    set(joined ${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/${TARGET}.dir/Unity)
+    list(APPEND excused ${joined}/unity_qml_cxx.cxx)
+  endif()
+  set_source_files_properties(${excused} PROPERTIES COMPILE_OPTIONS
+                                                    "-w;$<$<NOT:$<CONFIG:Debug>>:-O1>")
+endfunction()
+
 # kindora_qml_module(NAME URI uri [SOURCES file...] [QML file...] [IMPORTS uri...]
 #                    [LINKS target...])
 # Makes kindora_NAME with the alias Kindora::NAME, a static library that is a QML module too.
@@ -99,7 +140,10 @@ function(kindora_qml_module NAME)
     kindora_${NAME}
     PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
     PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
-  target_link_libraries(kindora_${NAME} PUBLIC ${ARG_LINKS})
+  target_link_libraries(
+    kindora_${NAME}
+    PUBLIC ${ARG_LINKS}
+    PRIVATE $<BUILD_INTERFACE:kindora_options>)
   # How strict they are is up to those who use an installed module.
   target_compile_definitions(kindora_${NAME} PUBLIC $<BUILD_INTERFACE:QT_NO_CAST_FROM_ASCII>)
   qt_add_qml_module(
@@ -123,11 +167,6 @@ function(kindora_qml_module NAME)
   set_target_properties(kindora_${NAME} PROPERTIES KINDORA_LEVEL ${LEVEL})
   kindora_precompile(kindora_${NAME} ${LEVEL})
   kindora_precompile(kindora_${NAME}plugin qml)
-  # Our own sources obey the strict flags; generated ones are not ours to mend.
-  get_target_property(STRICT kindora_options INTERFACE_COMPILE_OPTIONS)
-  foreach(FILE IN LISTS ARG_SOURCES)
-    if(FILE MATCHES "\\.cpp$")
-      set_source_files_properties(${FILE} PROPERTIES COMPILE_OPTIONS "${STRICT}")
-    endif()
-  endforeach()
+  kindora_join(kindora_${NAME} ${ARG_SOURCES})
+  kindora_excuse_generated(kindora_${NAME} ${ARG_QML})
 endfunction()

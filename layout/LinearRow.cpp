@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "layout/Tolerances.h"
+
 namespace kindora::layout {
 namespace {
-
-constexpr double kTiny = 1e-9;
 
 constexpr auto kBefore = [](const Cell& cell, Symbol symbol) { return cell.symbol < symbol; };
 

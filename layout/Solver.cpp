@@ -6,10 +6,10 @@
 #include <cmath>
 #include <utility>
 
+#include "layout/Tolerances.h"
+
 namespace kindora::layout {
 namespace {
-
-constexpr double kTolerance = 1e-8;
 
 double signOf(Relation relation) { return relation == Relation::lessThanOrEqual ? -1 : 1; }
 

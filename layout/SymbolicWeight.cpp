@@ -5,12 +5,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "layout/Tolerances.h"
+
 namespace kindora::layout {
-namespace {
-
-constexpr double kTiny = 1e-9;
-
-}  // namespace
 
 void SymbolicWeight::add(double strength, double amount) {
   const auto place = std::find_if(parts_.begin(), parts_.end(),

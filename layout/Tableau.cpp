@@ -6,13 +6,9 @@
 #include <cmath>
 #include <limits>
 
+#include "layout/Tolerances.h"
+
 namespace kindora::layout {
-namespace {
-
-constexpr double kTolerance = 1e-8;  // by which a basic variable may miss its bound
-constexpr double kTiny = 1e-9;       // what counts as no coefficient
-
-}  // namespace
 
 Tableau::Column& Tableau::column(Symbol symbol) {
   return columns_[static_cast<std::size_t>(symbol)];

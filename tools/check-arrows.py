@@ -179,18 +179,27 @@ class Tree:
 Record = collections.namedtuple("Record", "object target source read")
 
 
+def sources_of(stem, read):
+    """The sources that the object of that name was made from: its own, or those joined in it."""
+    if re.fullmatch(r"unity_\w+\.cxx", stem):
+        return [file for file in read if file.endswith(".cpp")]
+    return [file for file in read if os.path.basename(file) == stem][:1]
+
+
 def records(log, tree):
-    """What the log, as `ninja -t deps` prints it, tells of objects made from tracked sources."""
+    """What the log, as `ninja -t deps` prints it, tells of objects made from tracked sources; a record
+    for each source.
+    """
     for block in re.split(r"\n(?=\S)", log):
         heading, *names = block.rstrip("\n").split("\n")
         made = re.match(r"(.*CMakeFiles/([^/]+)\.dir/.*): #deps \d+, .*\(VALID\)$", heading)
         if not made:
             continue
-        read = [tree.path(name[4:]) for name in names if name.startswith("    ")]
-        stem = os.path.basename(made[1]).removesuffix(".o")
-        source = next((file for file in read if file and os.path.basename(file) == stem), None)
-        if source and not os.path.isabs(source):
-            yield Record(made[1], made[2], source, [file for file in read if file])
+        paths = [tree.path(name[4:]) for name in names if name.startswith("    ")]
+        read = [file for file in paths if file]
+        for source in sources_of(os.path.basename(made[1]).removesuffix(".o"), read):
+            if not os.path.isabs(source):
+                yield Record(made[1], made[2], source, read)
 
 
 def qt_module(path):
@@ -361,7 +370,7 @@ def main(arguments):
         errors["no object was made from a source of the project"] = None
     print(*errors, sep="\n", end="\n" if errors else "")
     if not errors:
-        print(f"{len(known)} objects of {len(targets.folder)} targets know only what they declare.")
+        print(f"{len(known)} sources of {len(targets.folder)} targets know only what they declare.")
     return 1 if errors else 0
 
 

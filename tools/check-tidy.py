@@ -44,13 +44,22 @@ def flags_of(command):
     return flags
 
 
+def sources_of(compiled):
+    """What is compiled with that file: itself, or the sources that the build has joined in it."""
+    if not re.fullmatch(r"unity_\w+\.cxx", os.path.basename(compiled)):
+        return [compiled]
+    with open(compiled, encoding="utf-8") as file:
+        return re.findall(r'^#include "(.+)"$', file.read(), re.MULTILINE)
+
+
 def commands(build):
     """By path from the top folder, in the order of the paths: the flags of each shipped source."""
     tracked = subprocess.run(
         ["git", "ls-files", "-z", "--", *(folder + "/*.cpp" for folder in SHIPPED)],
         cwd=TOP, check=True, capture_output=True, text=True).stdout.split("\0")
     with open(os.path.join(build, "compile_commands.json"), encoding="utf-8") as file:
-        read = {os.path.relpath(each["file"], TOP): each for each in json.load(file)}
+        read = {os.path.relpath(path, TOP): each for each in json.load(file)
+                for path in sources_of(each["file"])}
     return {path: flags_of(read[path]) for path in sorted(tracked) if path in read}
 
 

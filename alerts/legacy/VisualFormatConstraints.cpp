@@ -7,8 +7,6 @@
 namespace kindora {
 namespace {
 
-using Constraints = std::vector<NSLayoutConstraintRef>;
-
 UIViewRef viewNamed(const std::string& name, const VisualFormatViews& views) {
   const auto found = views.find(name);
   return found != views.end() ? found->second : nullptr;
@@ -29,11 +27,11 @@ std::string missing(const std::string& name) {
 
 }  // namespace
 
-std::variant<Constraints, VisualFormatError> constraintsWithVisualFormat(
+std::variant<std::vector<NSLayoutConstraintRef>, VisualFormatError> constraintsWithVisualFormat(
     std::string_view format, const VisualFormatMetrics& metrics, const VisualFormatViews& views) {
   auto read = parseVisualFormat(format, metrics);
   if (auto* error = std::get_if<VisualFormatError>(&read)) return std::move(*error);
-  Constraints constraints;
+  std::vector<NSLayoutConstraintRef> constraints;
   for (const VisualFormatConstraint& described : std::get<0>(read)) {
     const std::string& second = described.secondItem.value_or(described.firstItem);
     const auto firstItem = itemNamed(described.firstItem, second, views);

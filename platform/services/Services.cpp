@@ -10,7 +10,7 @@ namespace kindora {
 namespace {
 
 // Never destroyed, so that a reply which arrives while the program ends still finds its services.
-Services& slot() {
+Services& serviceSlot() {
   static Services& installed = *new Services;
   return installed;
 }
@@ -22,12 +22,12 @@ void installServices(Services installed) {
       !installed.text || !installed.console || !installed.photos) {
     fatalError("a service is missing");
   }
-  slot() = std::move(installed);
+  serviceSlot() = std::move(installed);
 }
 
 const Services& services() {
-  if (!slot().mainQueue) fatalError("no services installed");
-  return slot();
+  if (!serviceSlot().mainQueue) fatalError("no services installed");
+  return serviceSlot();
 }
 
 }  // namespace kindora

@@ -9,7 +9,7 @@
 namespace kindora {
 namespace {
 
-ViewServices& slot() {
+ViewServices& viewSlot() {
   static ViewServices& installed = *new ViewServices;  // outlives every view
   return installed;
 }
@@ -20,14 +20,14 @@ void installViewServices(ViewServices installed) {
   if (!installed.text || !installed.mainScreen || !installed.motion) {
     fatalError("a view service is missing");
   }
-  slot() = std::move(installed);
+  viewSlot() = std::move(installed);
 }
 
-bool hasViewServices() { return slot().text != nullptr; }
+bool hasViewServices() { return viewSlot().text != nullptr; }
 
 const ViewServices& viewServices() {
   if (!hasViewServices()) fatalError("no view services installed");
-  return slot();
+  return viewSlot();
 }
 
 }  // namespace kindora

@@ -240,6 +240,24 @@ class ArrowsTest(unittest.TestCase):
         tree = arrows.Tree(self.tiny.top, self.tiny.build)
         self.assertEqual(list(arrows.records(log, tree)), [])
 
+    def test_sees_each_source_of_a_joined_object(self):
+        self.tiny.include("layout", "model/A.h")
+        self.tiny.write("layout/B.cpp", "")
+        log = (
+            "layout/CMakeFiles/kindora_layout.dir/Unity/unity_0_cxx.cxx.o: #deps 4, deps mtime 1 (VALID)"
+            "\n    layout/CMakeFiles/kindora_layout.dir/Unity/unity_0_cxx.cxx"
+            "\n    ../layout/B.cpp\n    ../layout/A.cpp\n    ../model/A.h\n"
+        )
+        tree = arrows.Tree(self.tiny.top, self.tiny.build)
+        records = list(arrows.records(log, tree))
+        self.assertEqual([record.source for record in records], ["layout/B.cpp", "layout/A.cpp"])
+        targets = arrows.Targets(self.tiny.targets())
+        for record in records:
+            self.assertEqual(
+                set(arrows.read_errors(record, targets, tree)),
+                {"layout/A.cpp: includes model/A.h, but layout does not link kindora_model"},
+            )
+
     def test_refuses_a_target_that_nothing_describes(self):
         del self.tiny.links["gallery"]
         self.assert_refused("gallery/A.cpp: kindora_gallery does not stand in targets.json")
@@ -288,7 +306,7 @@ class BuiltTreeTest(unittest.TestCase):
         self.tiny.include("model", "platform/A.h")
         self.compile()
         self.assertEqual(
-            self.check(), (0, "2 objects of 2 targets know only what they declare.\n")
+            self.check(), (0, "2 sources of 2 targets know only what they declare.\n")
         )
 
     def test_refuses_what_the_compiler_read(self):

@@ -15,7 +15,7 @@
 namespace kindora::layout {
 namespace {
 
-constexpr double kClose = 1e-6;
+constexpr double kSame = 1e-6;
 
 struct Held {
   ConstraintId id;
@@ -79,7 +79,7 @@ struct System {
     for (const Held& one : held) {
       const double violation = one.dense.violation(found);
       if (one.dense.strength >= kRequired) {
-        RC_ASSERT(violation < kClose);
+        RC_ASSERT(violation < kSame);
       } else {
         sums[one.dense.strength] += violation;
       }
@@ -87,7 +87,7 @@ struct System {
     const auto least = leastViolations(dense(), variables.size());
     RC_ASSERT(least.has_value());
     RC_ASSERT(least->size() == sums.size());
-    for (const auto& [strength, sum] : *least) RC_ASSERT(std::abs(sums[strength] - sum) < kClose);
+    for (const auto& [strength, sum] : *least) RC_ASSERT(std::abs(sums[strength] - sum) < kSame);
   }
 };
 
@@ -154,7 +154,7 @@ RC_GTEST_PROP(SolverProperty, ARefusedConstraintLeavesAllValues, ()) {
   RC_PRE(!system.add(dense));
   const std::vector<double> after = system.values();
   for (std::size_t i = 0; i < before.size(); ++i) {
-    RC_ASSERT(std::abs(after[i] - before[i]) < kClose);
+    RC_ASSERT(std::abs(after[i] - before[i]) < kSame);
   }
   system.check();
 }
@@ -203,7 +203,7 @@ RC_GTEST_PROP(SolverProperty, OrderDoesNotDecideAUniqueSolution, ()) {
   }
   const std::vector<double> expected = inOrder.values();
   const std::vector<double> found = shuffled.values();
-  for (std::size_t i = 0; i < count; ++i) RC_ASSERT(std::abs(expected[i] - found[i]) < kClose);
+  for (std::size_t i = 0; i < count; ++i) RC_ASSERT(std::abs(expected[i] - found[i]) < kSame);
 }
 
 RC_GTEST_PROP(SolverProperty, RemovingAVariableRemovesWhatMentionsIt, ()) {

@@ -8,15 +8,12 @@
 #include <utility>
 #include <vector>
 
+#include "tests/platform/Filled.h"
+
 namespace kindora {
 namespace {
 
 constexpr UIColor kShade = UIColor::blackColor().colorWithAlphaComponent(0.25);
-
-Raster filled(std::size_t width, std::size_t height, Rgba8 color) {
-  const std::vector<Rgba8> pixels(width * height, color);
-  return {width, height, pixels};
-}
 
 void expectEveryPixel(const UIImageRef& image, Rgba8 color) {
   const std::vector<Rgba8> pixels = image->raster().pixels();

@@ -11,16 +11,13 @@
 #include <utility>
 #include <vector>
 
+#include "tests/platform/Filled.h"
+
 namespace kindora {
 namespace {
 
 constexpr Rgba8 kWhite{255, 255, 255, 255};
 constexpr Rgba8 kRed{255, 0, 0, 255};
-
-Raster filled(std::size_t width, std::size_t height, Rgba8 color) {
-  const std::vector<Rgba8> pixels(width * height, color);
-  return {width, height, pixels};
-}
 
 // A grey whose value is its place from left to right, 10 a pixel.
 Raster ramp(std::size_t width, std::size_t height) {

@@ -10,6 +10,7 @@
 #include <QQuickWindow>
 #include <vector>
 
+#include "platform/UIColor.h"
 #include "platform/UIImage.h"
 #include "toolkit/view/OutletOwner.h"
 
@@ -18,6 +19,8 @@ namespace kindora {
 inline constexpr Rgba8 kRed{255, 0, 0, 255};
 inline constexpr Rgba8 kGreen{0, 255, 0, 255};
 inline constexpr Rgba8 kBlue{0, 0, 255, 255};
+inline constexpr UIColor kRedColor{1, 0, 0, 1};
+inline const QColor kRedPixel(255, 0, 0);
 
 /// A picture of one colour.
 inline UIImageRef plainPicture(std::size_t width, std::size_t height, Rgba8 color) {

@@ -53,7 +53,7 @@ std::function<double(double)> pace(const UIViewAnimationTiming& timing) {
 }
 
 // Delay and way in one animation, so that both are measured by the same clock.
-class Timeline : public QAbstractAnimation {
+class Timeline final : public QAbstractAnimation {
  public:
   Timeline(const UIViewAnimationTiming& timing, std::function<void(double)> step)
       : delay_(milliseconds(timing.delay)),
@@ -115,15 +115,10 @@ void transitionFromView(const UIViewRef& from, const UIViewRef& to, double durat
       });
 }
 
-class ProgressAnimation::Clock final : public Timeline {
- public:
-  using Timeline::Timeline;
-};
-
 ProgressAnimation::ProgressAnimation(const UIViewAnimationTiming& timing,
                                      std::function<void(double)> step,
                                      std::function<void()> completion)
-    : clock_(new Clock(lasting(timing), std::move(step))) {
+    : clock_(new Timeline(lasting(timing), std::move(step))) {
   QObject::connect(clock_, &QAbstractAnimation::finished, clock_,
                    [completion = std::move(completion)] {
                      if (completion) completion();

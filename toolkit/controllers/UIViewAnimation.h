@@ -10,6 +10,8 @@
 #include "toolkit/view/SpringTiming.h"
 #include "toolkit/view/UIView.h"
 
+class QAbstractAnimation;
+
 namespace kindora {
 
 enum class UIViewAnimationCurve { easeInOut, easeIn, easeOut, linear };
@@ -45,8 +47,7 @@ class ProgressAnimation {
   ~ProgressAnimation();
 
  private:
-  class Clock;
-  Clock* clock_ = nullptr;
+  QAbstractAnimation* clock_ = nullptr;
 };
 
 }  // namespace kindora

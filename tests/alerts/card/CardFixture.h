@@ -17,6 +17,9 @@
 
 namespace kindora {
 
+inline constexpr auto kHorizontal = QavAlertActionLayout::horizontal;
+inline constexpr auto kVertical = QavAlertActionLayout::vertical;
+
 /// A card in a window of 320 x 480 points. A line of the title takes 21.25 points and 28
 /// characters, one of the message 16.25 points and 36 characters.
 class CardFixture {

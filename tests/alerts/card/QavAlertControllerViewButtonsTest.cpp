@@ -15,9 +15,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr auto kHorizontal = QavAlertActionLayout::horizontal;
-constexpr auto kVertical = QavAlertActionLayout::vertical;
-
 class QavAlertControllerViewButtons : public CardFixture, public testing::Test {
  protected:
   [[nodiscard]] bool isSideBySide() const {

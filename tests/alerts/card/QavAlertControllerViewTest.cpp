@@ -171,8 +171,6 @@ TEST_P(QavAlertControllerViewArea, TakesTheHeightOfItsRows) {
 }
 
 constexpr auto kAutomatic = QavAlertActionLayout::automatic;
-constexpr auto kHorizontal = QavAlertActionLayout::horizontal;
-constexpr auto kVertical = QavAlertActionLayout::vertical;
 INSTANTIATE_TEST_SUITE_P(Layouts, QavAlertControllerViewArea,
                          testing::Values(AreaCase{"AutomaticNone", kAutomatic, 0, 0},
                                          AreaCase{"AutomaticOne", kAutomatic, 1, 44},

@@ -12,7 +12,7 @@
 namespace kindora {
 namespace {
 
-const VisualFormatMetrics kMetrics{{"space", 12}, {"high", 750}};
+const VisualFormatMetrics kSpaceAndHigh{{"space", 12}, {"high", 750}};
 
 // A piece of text and what it stands for.
 struct Written {
@@ -126,7 +126,7 @@ Written randomFormat() {
 
 RC_GTEST_PROP(VisualFormatProperty, WhatIsWrittenIsRead, ()) {
   const Written format = randomFormat();
-  const auto read = parseVisualFormat(format.text, kMetrics);
+  const auto read = parseVisualFormat(format.text, kSpaceAndHigh);
   RC_LOG(format.text);
   RC_ASSERT(read.index() == 0U);
   RC_ASSERT(std::get<0>(read) == format.constraints);
@@ -137,7 +137,7 @@ RC_GTEST_PROP(VisualFormatProperty, ChangedCharacterIsReadOrRefusedAtAPlaceInThe
   const auto at = *rc::gen::inRange<std::size_t>(0, text.size());
   text[at] = *rc::gen::oneOf(rc::gen::elementOf(std::string("VH:|-[]()<>=@,.0a")),
                              rc::gen::arbitrary<char>());
-  const auto read = parseVisualFormat(text, kMetrics);
+  const auto read = parseVisualFormat(text, kSpaceAndHigh);
   const auto* error = std::get_if<VisualFormatError>(&read);
   if (error == nullptr) return;
   RC_ASSERT(error->position <= text.size());
@@ -147,7 +147,7 @@ RC_GTEST_PROP(VisualFormatProperty, ChangedCharacterIsReadOrRefusedAtAPlaceInThe
 RC_GTEST_PROP(VisualFormatProperty, WhatStandsBeforeTheErrorIsNotToBlame, ()) {
   const std::string text = randomFormat().text;
   const auto length = *rc::gen::inRange<std::size_t>(0, text.size());
-  const auto read = parseVisualFormat(std::string_view(text).substr(0, length), kMetrics);
+  const auto read = parseVisualFormat(std::string_view(text).substr(0, length), kSpaceAndHigh);
   const auto* error = std::get_if<VisualFormatError>(&read);
   if (error == nullptr) return;
   // A format that was right but ends too early is wrong at its end, or at a name, a number or a

@@ -11,11 +11,10 @@
 #include "effects/keyframes/TovCustomAnimation.h"
 #include "effects/keyframes/TovSpringAnimation.h"
 #include "platform/UIColor.h"
+#include "tests/effects/keyframes/Values.h"
 
 namespace kindora {
 namespace {
-
-NSValue number(double value) { return NSValue::numberWithDouble(value); }
 
 // Frames 0, 10 and 40 over two seconds.
 CAKeyframeAnimation& threeFrames(CAKeyframeAnimation& animation) {

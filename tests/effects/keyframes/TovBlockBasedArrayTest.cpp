@@ -11,11 +11,10 @@
 #include <type_traits>
 
 #include "effects/keyframes/TovSpringAnimation.h"
+#include "tests/effects/keyframes/Values.h"
 
 namespace kindora {
 namespace {
-
-NSValue number(double value) { return NSValue::numberWithDouble(value); }
 
 NSValue squared(std::size_t index) { return number(static_cast<double>(index * index)); }
 

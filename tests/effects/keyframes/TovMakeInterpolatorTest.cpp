@@ -10,17 +10,12 @@
 #include <cmath>
 
 #include "platform/UIColor.h"
+#include "tests/effects/keyframes/Values.h"
 
 namespace kindora {
 namespace {
 
 using Matrix = std::array<double, 16>;
-
-NSValue number(double value) { return NSValue::numberWithDouble(value); }
-
-NSValue color(const UIColor& value) {
-  return NSValue::valueWithObject(std::make_shared<const UIColor>(value));
-}
 
 CATransform3D countedFrom(double first) {
   Matrix matrix;

@@ -11,17 +11,12 @@
 #include <limits>
 
 #include "platform/UIColor.h"
+#include "tests/effects/keyframes/Values.h"
 
 namespace kindora {
 namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-
-NSValue number(double value) { return NSValue::numberWithDouble(value); }
-
-NSValue color(const UIColor& value) {
-  return NSValue::valueWithObject(std::make_shared<const UIColor>(value));
-}
 
 // From 0 to 1, so that values are progress.
 class TovSpringAnimationProgress : public testing::Test {

@@ -6,15 +6,10 @@
 #include <gtest/gtest.h>
 
 #include "platform/UIColor.h"
+#include "tests/effects/keyframes/Values.h"
 
 namespace kindora {
 namespace {
-
-NSValue number(double value) { return NSValue::numberWithDouble(value); }
-
-NSValue color(const UIColor& value) {
-  return NSValue::valueWithObject(std::make_shared<const UIColor>(value));
-}
 
 double twice(double fraction) { return 2 * fraction; }
 

@@ -14,7 +14,7 @@ namespace kindora {
 namespace {
 
 // Keeps what it is told.
-class Ear final : public JxScratchImageViewDelegate {
+class ProgressEar final : public JxScratchImageViewDelegate {
  public:
   std::vector<double> heard;
   void jxScratchImageView(JxScratchImageView& /*view*/, double progress) override {
@@ -51,7 +51,7 @@ class ScratchImageViewItemTest : public QuickFixture {
 
   using QuickFixture::place;
   Owner owner;
-  const std::shared_ptr<Ear> ear = std::make_shared<Ear>();
+  const std::shared_ptr<ProgressEar> ear = std::make_shared<ProgressEar>();
   const std::shared_ptr<JxScratchImageView> cover = owner.make<JxScratchImageView>("cover");
   const std::unique_ptr<ScratchImageViewItem> item =
       QuickFixture::place<ScratchImageViewItem>({10, 10, 80, 80});

@@ -13,8 +13,6 @@
 namespace kindora {
 namespace {
 
-constexpr Rgba8 kClear{};
-
 BitmapContext coveredContext(std::size_t width, std::size_t height) {
   BitmapContext context({.width = width, .height = height, .bytesPerRow = width * 4},
                         ColorSpace::deviceRGB());

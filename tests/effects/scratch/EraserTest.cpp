@@ -19,7 +19,6 @@ namespace kindora {
 namespace {
 
 constexpr Rgba8 kWhite{255, 255, 255, 255};
-constexpr Rgba8 kClear{};
 
 // The area that a straight edge leaves of a square of side 1. The edge runs at the distance
 // `inside` from the square's centre, which is negative when the centre is cut off, and has the

@@ -14,8 +14,6 @@
 namespace kindora {
 namespace {
 
-constexpr Rgba8 kClear{};
-
 TEST(JxScratchImageViewTouch, BeganErasesADiscUnderTheFinger) {
   const auto view = scratchView(cover(300, 200), 50);
   view->touchesBegan({began({150, 60})});

@@ -10,16 +10,17 @@
 #include <vector>
 
 #include "effects/scratch/JxScratchImageView.h"
+#include "tests/platform/Filled.h"
 
 namespace kindora {
 
 using Cells = std::vector<std::pair<std::size_t, std::size_t>>;
 
 inline constexpr Rgba8 kCoverColor{200, 150, 100, 255};
+inline constexpr Rgba8 kClear{};
 
 inline Raster plainRaster(std::size_t width, std::size_t height, Rgba8 color = kCoverColor) {
-  const std::vector<Rgba8> pixels(width * height, color);
-  return {width, height, pixels};
+  return filled(width, height, color);
 }
 
 /// A cover of width x height pixels.

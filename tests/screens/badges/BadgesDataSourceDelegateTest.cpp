@@ -12,18 +12,13 @@
 #include "model/ChallengeData.h"
 #include "platform/fakes/FakeServices.h"
 #include "screens/badges/BadgeCollectionViewCell.h"
+#include "tests/screens/badges/Badge.h"
 
 namespace kindora {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-ChallengeRef badge(const std::string& title) {
-  auto challenge = std::make_shared<Challenge>();
-  challenge->title = title;
-  return challenge;
-}
 
 // A grid of two badges, a and b.
 class BadgesDataSourceDelegateTest : public ::testing::Test {

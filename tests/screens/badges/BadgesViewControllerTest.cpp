@@ -10,6 +10,7 @@
 
 #include "screens/badges/BadgeCollectionViewCell.h"
 #include "screens/badges/BadgeInfoViewController.h"
+#include "tests/screens/badges/Badge.h"
 #include "tests/screens/badges/ComeBack.h"
 #include "tests/support/app/AppFixture.h"
 
@@ -19,12 +20,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using Titles = std::vector<std::string>;
-
-ChallengeRef badge(const std::string& title) {
-  auto challenge = std::make_shared<Challenge>();
-  challenge->title = title;
-  return challenge;
-}
 
 // The grid on a page of 320 x 480 points.
 class BadgesViewControllerTest : public AppFixture {

@@ -108,11 +108,11 @@ TEST_F(UIWindowTest, LevelsHaveThePhonesValues) {
 // --- Size ---
 
 TEST_F(UIWindowTest, ARootViewMadeInCodeIsAsLargeAsTheWindow) {
-  class CodeController final : public UIViewController {
+  class BareController final : public UIViewController {
     UIViewRef loadView() override { return std::make_shared<UIView>(); }
   };
   window.reportSize(320, 480);
-  const auto root = makeViewController<CodeController>();
+  const auto root = makeViewController<BareController>();
   show(root);
   EXPECT_EQ(root->view()->frame(), (CGRect{{0, 0}, {320, 480}}));
   window.reportSize(480, 320);

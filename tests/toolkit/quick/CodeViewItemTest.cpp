@@ -15,7 +15,6 @@ namespace kindora {
 namespace {
 
 const QColor kWhitePixel(255, 255, 255);
-const QColor kRedPixel(255, 0, 0);
 const QColor kBluePixel(0, 0, 255);
 constexpr UIColor kBlueColor{0, 0, 1, 1};
 

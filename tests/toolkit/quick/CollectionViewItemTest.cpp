@@ -82,8 +82,6 @@ class CollectionViewItemTest : public QuickFixture {
   std::unique_ptr<Completed> item;
 };
 
-const QColor kRedPixel(255, 0, 0);
-
 TEST_F(CollectionViewItemTest, DrawsCellsWhereTheyAre) {
   const QImage image = drawn();
   EXPECT_EQ(image.pixelColor(20, 20), kRedPixel);

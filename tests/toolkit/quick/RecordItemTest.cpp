@@ -10,9 +10,6 @@
 namespace kindora {
 namespace {
 
-constexpr UIColor kRedColor{1, 0, 0, 1};
-const QColor kRedPixel(255, 0, 0);
-
 class RecordItemTest : public QuickFixture {
  protected:
   RecordItemTest() { root->setBackgroundColor(kRedColor); }

@@ -13,8 +13,6 @@
 namespace kindora {
 namespace {
 
-const QColor kRedPixel(255, 0, 0);
-
 // A scroll view over the whole window, with 600 points of content: red from 400 to 500.
 class ScrollViewItemTest : public RecordFixture {
  protected:

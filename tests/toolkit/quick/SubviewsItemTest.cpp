@@ -14,7 +14,6 @@
 namespace kindora {
 namespace {
 
-constexpr UIColor kRedColor{1, 0, 0, 1};
 constexpr UIColor kBlueColor{0, 0, 1, 1};
 
 // The page's view, drawn over the whole window, into which views are put by code.
@@ -48,7 +47,6 @@ class SubviewsItemTest : public QuickFixture {
   const std::unique_ptr<SubviewsItem> item = place<SubviewsItem>({0, 0, 100, 100});
 };
 
-const QColor kRedPixel(255, 0, 0);
 const QColor kBluePixel(0, 0, 255);
 
 // --- Places ---

@@ -7,7 +7,7 @@
 namespace kindora {
 namespace {
 
-class Delegate final : public UITextViewDelegate {
+class TextViewDelegate final : public UITextViewDelegate {
  public:
   void textViewDidChange(UITextView& view) override { last = view.text(); }
   std::string last;
@@ -15,7 +15,7 @@ class Delegate final : public UITextViewDelegate {
 
 TEST(UITextView, TellsItsDelegateOfTheUsersEdits) {
   const auto view = std::make_shared<UITextView>();
-  const auto delegate = std::make_shared<Delegate>();
+  const auto delegate = std::make_shared<TextViewDelegate>();
   view->setDelegate(delegate);
   view->setText("Hello");
   EXPECT_EQ(delegate->last, "");
@@ -25,7 +25,7 @@ TEST(UITextView, TellsItsDelegateOfTheUsersEdits) {
 
 TEST(UITextView, ADelegateThatHasGoneIsNotTold) {
   const auto view = std::make_shared<UITextView>();
-  view->setDelegate(std::make_shared<Delegate>());
+  view->setDelegate(std::make_shared<TextViewDelegate>());
   EXPECT_TRUE(view->replaceRange({0, 0}, "a"));
   EXPECT_EQ(view->text(), "a");
 }

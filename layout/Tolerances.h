@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+namespace kindora::layout {
+
+// By how much a value may miss what a constraint asks of it and still meet it.
+inline constexpr double kTolerance = 1e-8;
+
+// A coefficient, or an amount of weight, that rounding left where none is meant.
+inline constexpr double kTiny = 1e-9;
+
+}  // namespace kindora::layout
