@@ -14,7 +14,7 @@ class NoEnvironment final : public PhoneFormatEnvironment {
 };
 
 // Never destroyed, so that a formatter can be made while the program ends.
-std::shared_ptr<PhoneFormatEnvironment>& slot() {
+std::shared_ptr<PhoneFormatEnvironment>& environmentSlot() {
   static auto& installed =
       *new std::shared_ptr<PhoneFormatEnvironment>(std::make_shared<NoEnvironment>());
   return installed;
@@ -23,9 +23,9 @@ std::shared_ptr<PhoneFormatEnvironment>& slot() {
 }  // namespace
 
 void installPhoneFormatEnvironment(std::shared_ptr<PhoneFormatEnvironment> environment) {
-  slot() = environment ? std::move(environment) : std::make_shared<NoEnvironment>();
+  environmentSlot() = environment ? std::move(environment) : std::make_shared<NoEnvironment>();
 }
 
-PhoneFormatEnvironment& phoneFormatEnvironment() { return *slot(); }
+PhoneFormatEnvironment& phoneFormatEnvironment() { return *environmentSlot(); }
 
 }  // namespace kindora

@@ -7,17 +7,17 @@
 namespace kindora {
 namespace {
 
-QavLocalizer& slot() {
+QavLocalizer& localizerSlot() {
   static QavLocalizer& installed = *new QavLocalizer;
   return installed;
 }
 
 }  // namespace
 
-void installAlertLocalizer(QavLocalizer localizer) { slot() = std::move(localizer); }
+void installAlertLocalizer(QavLocalizer localizer) { localizerSlot() = std::move(localizer); }
 
 std::string qav_localizedString(std::string_view english) {
-  return slot() ? slot()(english) : std::string(english);
+  return localizerSlot() ? localizerSlot()(english) : std::string(english);
 }
 
 }  // namespace kindora

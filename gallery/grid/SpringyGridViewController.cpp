@@ -11,8 +11,8 @@ namespace kindora {
 namespace {
 
 constexpr std::string_view kColorCell = "colorCell";
-constexpr double kSpacing = 8;  // points, between cells
-constexpr double kMargin = 16;  // points, around them
+constexpr double kSpacing = 8;      // points, between cells
+constexpr double kCellMargin = 16;  // points, around them
 constexpr double kLeastSide = 80;
 constexpr double kLeastPerRow = 3;
 constexpr int kCellsPerRound = 120;  // of the colours
@@ -53,7 +53,7 @@ void SpringyGridViewController::collectionViewDidSelectItemAtIndexPath(IndexPath
 
 CGSize SpringyGridViewController::collectionViewLayoutSizeForItemAtIndexPath(
     const UICollectionView& view, IndexPath /*path*/) {
-  const double width = view.bounds().size.width - 2 * kMargin;
+  const double width = view.bounds().size.width - 2 * kCellMargin;
   const double perRow =
       std::max(kLeastPerRow, std::floor((width + kSpacing) / (kLeastSide + kSpacing)));
   const double side = std::max(1.0, std::floor((width + kSpacing) / perRow - kSpacing));
@@ -77,7 +77,7 @@ double SpringyGridViewController::collectionViewLayoutMinimumLineSpacingForSecti
 
 UIEdgeInsets SpringyGridViewController::collectionViewLayoutInsetForSectionAtIndex(
     const UICollectionView& /*view*/, int /*section*/) {
-  return {kMargin, kMargin, kMargin, kMargin};
+  return {kCellMargin, kCellMargin, kCellMargin, kCellMargin};
 }
 
 }  // namespace kindora

@@ -42,7 +42,8 @@ void HttpTask::start(QNetworkAccessManager& manager, const HttpRequest& request,
                      std::chrono::milliseconds timeout, HttpSession::Completion completion) {
   const QUrl url(QString::fromStdString(request.url.absoluteString()), QUrl::StrictMode);
   // Qt would also read files and resources for addresses of other schemes.
-  if (url.host().isEmpty() || (url.scheme() != "http" && url.scheme() != "https")) {
+  if (url.host().isEmpty() ||
+      (url.scheme() != QLatin1String("http") && url.scheme() != QLatin1String("https"))) {
     completion(HttpError{"unsupported URL"});
     return;
   }

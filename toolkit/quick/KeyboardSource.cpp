@@ -10,7 +10,7 @@
 namespace kindora {
 namespace {
 
-constexpr double kDuration = 0.25;  // seconds; Qt does not tell how long the keyboard takes
+constexpr double kKeyboardDuration = 0.25;  // seconds; Qt does not tell how long the keyboard takes
 
 }  // namespace
 
@@ -43,7 +43,7 @@ CGRect KeyboardSource::endFrame() const {
 
 void KeyboardSource::post() {
   const bool up = !sceneRect_.isNull();
-  const KeyboardNotification notification{endFrame(), kDuration};
+  const KeyboardNotification notification{endFrame(), kKeyboardDuration};
   if (up == up_ && (!up || notification.endFrame == posted_)) return;
   const bool turns = up != up_;
   up_ = up;
