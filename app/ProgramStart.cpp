@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "app/AppPhoneFormatEnvironment.h"
+#include "app/Translations.h"
 #include "platform/qt/QtServices.h"
 #include "toolkit/quick/QtViewServices.h"
 
@@ -19,6 +20,7 @@ void startProgram(const ProgramIdentity& identity) {
   QGuiApplication::setApplicationDisplayName(identity.displayName);
   QGuiApplication::setDesktopFileName(identity.desktopFileName);
   QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/kindora/images/appIcon.svg")));
+  installTranslations(identity.name, QLocale(), translationFolders());
   installServices(makeQtServices());
   installViewServices(makeQtViewServices());
   installPhoneFormatEnvironment(std::make_shared<AppPhoneFormatEnvironment>());

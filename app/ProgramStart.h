@@ -24,8 +24,8 @@ struct ProgramIdentity {
 /// Keeps Qt from storing compiled shaders on the disk. Before the QGuiApplication is made.
 void leaveNothingBehind();
 
-/// Names the program, gives it the icon, and installs the services and the phone formats. Once, in
-/// a QGuiApplication, before anything else of the program is made.
+/// Names the program, gives it the icon and the user's language, and installs the services and the
+/// phone formats. Once, in a QGuiApplication, before anything else of the program is made.
 void startProgram(const ProgramIdentity& identity);
 
 /// Draws the windows that are visible with a QML file whose root is a PhoneWindow. False, with what

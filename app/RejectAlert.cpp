@@ -9,12 +9,18 @@ namespace kindora {
 std::shared_ptr<UIAlertController> rejectAlertForChallenge(const Challenge& challenge,
                                                            std::function<void()> onReject,
                                                            std::function<void()> onNeverMind) {
-  const std::string who = challenge.sender ? challenge.sender->name : "The sender";
+  const QString who = challenge.sender ? QString::fromStdString(challenge.sender->name)
+                                       : UIAlertController::tr("The sender");
   auto alert = makeViewController<UIAlertController>(
-      "Reject \"" + challenge.title.value_or("") + "\"?", who + " will be so disappointed.",
+      UIAlertController::tr("Reject \"%1\"?")
+          .arg(QString::fromStdString(challenge.title.value_or("")))
+          .toStdString(),
+      UIAlertController::tr("%1 will be so disappointed.").arg(who).toStdString(),
       UIAlertControllerStyle::alert);
-  alert->addAction({"Reject", UIAlertActionStyle::destructive, std::move(onReject)});
-  alert->addAction({"Never Mind", UIAlertActionStyle::cancel, std::move(onNeverMind)});
+  alert->addAction({UIAlertController::tr("Reject").toStdString(), UIAlertActionStyle::destructive,
+                    std::move(onReject)});
+  alert->addAction({UIAlertController::tr("Never Mind").toStdString(), UIAlertActionStyle::cancel,
+                    std::move(onNeverMind)});
   return alert;
 }
 

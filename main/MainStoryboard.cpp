@@ -116,8 +116,8 @@ const UIStoryboard& mainStoryboard() {
 
 std::shared_ptr<UITabBarController> makeRootTabBarController() {
   return makeViewController<UITabBarController>(std::vector<UIViewControllerRef>{
-      tab(kChallenges, QStringLiteral("Challenges"), QStringLiteral("tabChallenges")),
-      tab(kBadges, QStringLiteral("Badges"), QStringLiteral("tabBadges"))});
+      tab(kChallenges, UITabBarController::tr("Challenges"), QStringLiteral("tabChallenges")),
+      tab(kBadges, UITabBarController::tr("Badges"), QStringLiteral("tabBadges"))});
 }
 
 }  // namespace kindora

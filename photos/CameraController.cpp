@@ -7,7 +7,7 @@
 
 namespace kindora {
 
-CameraController::CameraController() { setTitle(QStringLiteral("Camera")); }
+CameraController::CameraController() { setTitle(tr("Camera")); }
 
 CameraController::~CameraController() = default;
 

@@ -10,7 +10,7 @@ namespace kindora {
 
 PhotoCropController::PhotoCropController(UIImageRef image)
     : image_(std::move(image)), crop_(image_->pixelSize(), 1) {
-  setTitle(QStringLiteral("Move and Scale"));
+  setTitle(tr("Move and Scale"));
 }
 
 QUrl PhotoCropController::page() const { return pageUrl(u"Kindora.Photos", u"PhotoCropPage"); }

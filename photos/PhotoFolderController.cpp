@@ -10,8 +10,7 @@
 namespace kindora {
 
 PhotoFolderController::PhotoFolderController(std::string path) : path_(std::move(path)) {
-  setTitle(path_.empty() ? QStringLiteral("Home")
-                         : QString::fromStdString(path_.substr(path_.rfind('/') + 1)));
+  setTitle(path_.empty() ? tr("Home") : QString::fromStdString(path_.substr(path_.rfind('/') + 1)));
 }
 
 QUrl PhotoFolderController::page() const { return pageUrl(u"Kindora.Photos", u"PhotoFolderPage"); }

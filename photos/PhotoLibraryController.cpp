@@ -14,7 +14,7 @@ QUrl PhotoLibraryController::page() const {
 
 void PhotoLibraryController::viewDidLoad() {
   PhotoPageController::viewDidLoad();
-  setTitle(QStringLiteral("Photos"));
+  setTitle(tr("Photos"));
   services().photos->choosePhoto([this, alive = weak_from_this()](const PhotoChoice& choice) {
     if (const auto self = alive.lock()) chosenElsewhere(choice);
   });

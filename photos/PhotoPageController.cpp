@@ -12,8 +12,8 @@ namespace kindora {
 
 void PhotoPageController::viewDidLoad() {
   UIViewController::viewDidLoad();
-  navigationItem()->setRightBarButtonItem(std::make_shared<UIBarButtonItem>(
-      QStringLiteral("Cancel"), QString(), [this] { picker().cancel(); }));
+  navigationItem()->setRightBarButtonItem(
+      std::make_shared<UIBarButtonItem>(tr("Cancel"), QString(), [this] { picker().cancel(); }));
 }
 
 bool PhotoPageController::goBack() {
@@ -49,10 +49,10 @@ void PhotoPageController::photoRead(const UIImageRef& image, const Completion& u
     return;
   }
   const auto alert = makeViewController<UIAlertController>(
-      "This picture cannot be opened.",
-      "Please choose a JPEG or PNG picture of at most 64 megapixels.",
+      tr("This picture cannot be opened.").toStdString(),
+      tr("Please choose a JPEG or PNG picture of at most 64 megapixels.").toStdString(),
       UIAlertControllerStyle::alert);
-  alert->addAction({"OK", UIAlertActionStyle::cancel, unreadable});
+  alert->addAction({tr("OK").toStdString(), UIAlertActionStyle::cancel, unreadable});
   presentViewController(alert, true);
 }
 

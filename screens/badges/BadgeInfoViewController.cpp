@@ -14,12 +14,19 @@ namespace kindora {
 std::string badgeInfoText(const Challenge& challenge) {
   if (challenge.passedOn) {
     const std::int64_t number = challenge.numSincePassedOn;
-    if (number == 0) return "You've passed this on!";
-    return std::to_string(number) + (number == 1 ? " person has" : " people have") +
-           " completed this challenge since you passed it on!";
+    if (number == 0) return BadgeInfoViewController::tr("You've passed this on!").toStdString();
+    return (number == 1 ? BadgeInfoViewController::tr(
+                              "%1 person has completed this challenge since you passed it on!")
+                        : BadgeInfoViewController::tr(
+                              "%1 people have completed this challenge since you passed it on!"))
+        .arg(number)
+        .toStdString();
   }
-  return challenge.created ? "You created this challenge!\nNow Kindora to a friend!"
-                           : "You've completed this challenge!\nNow Kindora to a friend!";
+  return (challenge.created
+              ? BadgeInfoViewController::tr("You created this challenge!\nNow Kindora to a friend!")
+              : BadgeInfoViewController::tr(
+                    "You've completed this challenge!\nNow Kindora to a friend!"))
+      .toStdString();
 }
 
 void BadgeInfoViewController::connectOutlets() {

@@ -24,7 +24,7 @@ BadgesViewController::BadgesViewController()
 
 void BadgesViewController::connectOutlets() {
   connectOutlet(emptyLabel, "emptyLabel", *view())
-      ->setText("No badges yet.\nComplete or create a challenge to earn one!");
+      ->setText(tr("No badges yet.\nComplete or create a challenge to earn one!").toStdString());
 }
 
 void BadgesViewController::viewDidLoad() {

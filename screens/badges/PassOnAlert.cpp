@@ -10,8 +10,10 @@ std::shared_ptr<UIAlertController> passOnAlert(const std::string& title, const s
                                                const ChallengeRef& challenge,
                                                const std::function<void()>& leave) {
   auto alert = makeViewController<UIAlertController>(title, message, UIAlertControllerStyle::alert);
-  alert->addAction({"Later", UIAlertActionStyle::cancel, leave});
-  alert->addAction({"Kindora!", UIAlertActionStyle::normal, [challenge, leave] {
+  alert->addAction(
+      {UIAlertController::tr("Later").toStdString(), UIAlertActionStyle::cancel, leave});
+  alert->addAction({UIAlertController::tr("Kindora!").toStdString(), UIAlertActionStyle::normal,
+                    [challenge, leave] {
                       passOnFromBadges(challenge);
                       leave();
                     }});

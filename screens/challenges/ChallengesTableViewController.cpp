@@ -106,9 +106,9 @@ int ChallengesTableViewController::tableViewNumberOfRowsInSection(int section) {
 std::string ChallengesTableViewController::tableViewTitleForHeaderInSection(int section) {
   switch (section) {
     case NEW_CHALLENGE_INDEX:
-      return "New Challenges";
+      return tr("New Challenges").toStdString();
     case IN_PROGRESS_INDEX:
-      return "In Progress";
+      return tr("In Progress").toStdString();
     default:
       fatalError("invalid section");
   }
@@ -128,7 +128,8 @@ UITableViewCellRef ChallengesTableViewController::tableViewCellForRowAtIndexPath
   if (getDataForSection(path.section).empty()) {
     UITableViewCellRef cell = tableView()->dequeueReusableCell(kPlaceholderCell);
     connected(static_cast<PlaceholderTableViewCell&>(*cell).messageLabel)
-        ->setText(isNew ? "No New Challenges" : "No Challenges in Progress");
+        ->setText(
+            (isNew ? tr("No New Challenges") : tr("No Challenges in Progress")).toStdString());
     return cell;
   }
   const Challenge& challenge = *challengeAt(path);
@@ -142,7 +143,10 @@ UITableViewCellRef ChallengesTableViewController::tableViewCellForRowAtIndexPath
   } else {
     cell.setProfileImage(challenge.challengeImage);
     cell.setMainText(challenge.title);
-    cell.setSmallText(sender != nullptr ? std::optional("From: " + sender->name) : std::nullopt);
+    cell.setSmallText(
+        sender != nullptr
+            ? std::optional(tr("From: %1").arg(QString::fromStdString(sender->name)).toStdString())
+            : std::nullopt);
   }
   return dequeued;
 }
@@ -182,7 +186,7 @@ std::string
 ChallengesTableViewController::tableViewTitleForDeleteConfirmationButtonForRowAtIndexPath(
     IndexPath path) {
   static_cast<void>(getDataForSection(path.section));
-  return "Reject";
+  return tr("Reject").toStdString();
 }
 
 void ChallengesTableViewController::tableViewCommitEditingStyleForRowAtIndexPath(
@@ -204,10 +208,11 @@ void ChallengesTableViewController::motionEnded(UIEventSubtype motion) {
   if (motion != UIEventSubtype::motionShake) return;
   const ChallengeRef revealed = ChallengeData::sharedInstance().revealHiddenChallenge();
   if (!revealed) return;
-  const std::string who = revealed->sender ? revealed->sender->name : "Someone";
+  const QString who =
+      revealed->sender ? QString::fromStdString(revealed->sender->name) : tr("Someone");
   presentViewController(
-      makeViewController<UIAlertController>("New challenge from " + who + "!", std::nullopt,
-                                            UIAlertControllerStyle::alert),
+      makeViewController<UIAlertController>(tr("New challenge from %1!").arg(who).toStdString(),
+                                            std::nullopt, UIAlertControllerStyle::alert),
       true);
   runAfterDelay(kAnnouncementSeconds, *services().mainQueue,
                 guarded([this] { dismissViewController(true); }));

@@ -21,26 +21,28 @@ constexpr double kWellCornerRadius = 25;  // points
 }  // namespace
 
 CreateChallengeTableViewController::CreateChallengeTableViewController()
-    : UIStaticTableViewController({"Title", "Description", "Photo"}) {}
+    : UIStaticTableViewController({tr("Title").toStdString(), tr("Description").toStdString(),
+                                   tr("Photo").toStdString()}) {}
 
 void CreateChallengeTableViewController::connectOutlets() {
-  setTitle(QStringLiteral("Create Challenge"));
+  setTitle(tr("Create Challenge"));
   navigationItem()->setLeftBarButtonItem(
-      std::make_shared<UIBarButtonItem>(QStringLiteral("Cancel"), QString(), [this] { cancel(); }));
-  navigationItem()->setRightBarButtonItem(std::make_shared<UIBarButtonItem>(
-      QStringLiteral("Create"), QString(), [this] { createChallenge(); }));
+      std::make_shared<UIBarButtonItem>(tr("Cancel"), QString(), [this] { cancel(); }));
+  navigationItem()->setRightBarButtonItem(
+      std::make_shared<UIBarButtonItem>(tr("Create"), QString(), [this] { createChallenge(); }));
   UIView& root = *view();
   const auto field = [&](std::weak_ptr<UITextField>& outlet, std::string_view name,
-                         std::string_view placeholder, UIReturnKeyType returnKey) {
+                         const QString& placeholder, UIReturnKeyType returnKey) {
     const auto made = connectOutlet(outlet, name, root);
-    made->setPlaceholder(placeholder);
+    made->setPlaceholder(placeholder.toStdString());
     made->setReturnKeyType(returnKey);
     made->setDelegate(
         std::static_pointer_cast<CreateChallengeTableViewController>(shared_from_this()));
     made->editingChanged = [this](UITextField& edited) { textFieldDidChange(edited); };
   };
-  field(challengeTitleField, "challengeTitleField", "Make someone smile", UIReturnKeyType::next);
-  field(challengeDescriptionField, "challengeDescriptionField", "What is there to do?",
+  field(challengeTitleField, "challengeTitleField", tr("Make someone smile"),
+        UIReturnKeyType::next);
+  field(challengeDescriptionField, "challengeDescriptionField", tr("What is there to do?"),
         UIReturnKeyType::done);
   connectOutlet(challengeImageView, "challengeImageView", root)
       ->setContentMode(UIViewContentMode::center);
@@ -122,13 +124,13 @@ void CreateChallengeTableViewController::showPicker(const UIViewRef& anchor) {
                                                            UIAlertControllerStyle::actionSheet);
   sheet->setPopoverAnchor(place);
   // The sheet has gone when a handler runs.
-  const auto source = [&](const char* title, UIImagePickerControllerSourceType type) {
-    sheet->addAction({title, UIAlertActionStyle::normal,
+  const auto source = [&](const QString& title, UIImagePickerControllerSourceType type) {
+    sheet->addAction({title.toStdString(), UIAlertActionStyle::normal,
                       guarded([this, type, place] { presentPicker(type, place); })});
   };
-  source("Take Photo", UIImagePickerControllerSourceType::camera);
-  source("Choose Existing", UIImagePickerControllerSourceType::photoLibrary);
-  sheet->addAction({"Cancel", UIAlertActionStyle::cancel,
+  source(tr("Take Photo"), UIImagePickerControllerSourceType::camera);
+  source(tr("Choose Existing"), UIImagePickerControllerSourceType::photoLibrary);
+  sheet->addAction({tr("Cancel").toStdString(), UIAlertActionStyle::cancel,
                     guarded([this] { tableView()->deselectRowAtIndexPath(kPhotoRow, true); })});
   presentViewController(sheet, true);
 }
@@ -185,11 +187,13 @@ void CreateChallengeTableViewController::createChallenge() {
   challenge->challengeImage = selectedImage;
   ChallengeData::sharedInstance().addCreatedChallenge(challenge);
 
-  presentViewController(passOnAlert("Challenge created!",
-                                    "You can find this challenge in the Badges tab. Would you like "
-                                    "to pass this challenge on now?",
-                                    challenge, guarded([this] { leave(); })),
-                        true);
+  presentViewController(
+      passOnAlert(tr("Challenge created!").toStdString(),
+                  tr("You can find this challenge in the Badges tab. Would you like "
+                     "to pass this challenge on now?")
+                      .toStdString(),
+                  challenge, guarded([this] { leave(); })),
+      true);
 }
 
 }  // namespace kindora

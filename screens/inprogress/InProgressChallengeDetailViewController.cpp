@@ -40,9 +40,9 @@ void InProgressChallengeDetailViewController::connectOutlets() {
   connectOutlet(challengeNameLabel, "challengeNameLabel", root);
   connectOutlet(challengeDescriptionLabel, "challengeDescriptionLabel", root);
   std::weak_ptr<UIButton> completeButton;
-  connectOutlet(completeButton, kCompleteButton, root)->setTitle("Complete");
+  connectOutlet(completeButton, kCompleteButton, root)->setTitle(tr("Complete").toStdString());
   navigationItem()->setRightBarButtonItem(std::make_shared<UIBarButtonItem>(
-      QStringLiteral("Delete"), QStringLiteral("bin"), [this] { deleteChallenge(); }));
+      tr("Delete"), QStringLiteral("bin"), [this] { deleteChallenge(); }));
 }
 
 void InProgressChallengeDetailViewController::viewDidLoad() {
@@ -54,8 +54,10 @@ void InProgressChallengeDetailViewController::viewDidLoad() {
   const User* sender = challenge->sender.get();
   connected(senderImageView)->setImage(sender != nullptr ? sender->picture : nullptr);
   connected(senderLabel)
-      ->setText(sender != nullptr ? sender->name + " sent you this challenge."
-                                  : "Someone sent you this challenge.");
+      ->setText((sender != nullptr
+                     ? tr("%1 sent you this challenge.").arg(QString::fromStdString(sender->name))
+                     : tr("Someone sent you this challenge."))
+                    .toStdString());
   setTitle(QString::fromStdString(challenge->title.value_or("")));
 }
 
@@ -190,8 +192,9 @@ void InProgressChallengeDetailViewController::dropStamp() {
 
 void InProgressChallengeDetailViewController::askToPassOn() {
   const auto alert =
-      passOnAlert("Congrats!", "Would you like to pass this challenge on to a friend?", challenge,
-                  guarded([this] { performSegueWithIdentifier(kUnwind); }));
+      passOnAlert(tr("Congrats!").toStdString(),
+                  tr("Would you like to pass this challenge on to a friend?").toStdString(),
+                  challenge, guarded([this] { performSegueWithIdentifier(kUnwind); }));
   runAfterDelay(kAlertDelay, *services().mainQueue,
                 guarded([this, alert] { presentViewController(alert, true); }));
 }

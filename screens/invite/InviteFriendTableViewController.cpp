@@ -20,13 +20,14 @@ constexpr double kAlertSeconds = 2;
 }  // namespace
 
 InviteFriendTableViewController::InviteFriendTableViewController()
-    : UIStaticTableViewController({"Name", "Phone Number", "Message"}),
+    : UIStaticTableViewController({tr("Name").toStdString(), tr("Phone Number").toStdString(),
+                                   tr("Message").toStdString()}),
       phoneFormat(LuPhoneFormat::init()) {}
 
 void InviteFriendTableViewController::connectOutlets() {
-  setTitle(QStringLiteral("Invite a Friend"));
-  navigationItem()->setRightBarButtonItem(std::make_shared<UIBarButtonItem>(
-      QStringLiteral("Send"), QString(), [this] { sendInvite(); }));
+  setTitle(tr("Invite a Friend"));
+  navigationItem()->setRightBarButtonItem(
+      std::make_shared<UIBarButtonItem>(tr("Send"), QString(), [this] { sendInvite(); }));
   UIView& root = *view();
   const auto self = std::static_pointer_cast<InviteFriendTableViewController>(shared_from_this());
   const auto field = [&](std::weak_ptr<UITextField>& outlet, std::string_view name,
@@ -122,10 +123,11 @@ void InviteFriendTableViewController::sendInvite() {
   view()->endEditing(true);
   const std::string name = connected(nameField)->text();
   if (name.empty()) return;
-  invitedFriend = std::make_shared<User>(
-      name + " (Invited)", services().bundle->imageNamed("placeholderImage"), std::nullopt);
+  invitedFriend =
+      std::make_shared<User>(tr("%1 (Invited)").arg(QString::fromStdString(name)).toStdString(),
+                             services().bundle->imageNamed("placeholderImage"), std::nullopt);
   Friends::sharedInstance().addFriend(invitedFriend);
-  presentPassingAlert(*this, "Invitation sent!", std::nullopt, kAlertSeconds,
+  presentPassingAlert(*this, tr("Invitation sent!").toStdString(), std::nullopt, kAlertSeconds,
                       [this] { performSegueWithIdentifier(kUnwindToKindora, shared_from_this()); });
 }
 

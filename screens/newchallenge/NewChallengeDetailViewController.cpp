@@ -24,7 +24,7 @@ constexpr double kAcceptedAlertSeconds = 2.5;
 }  // namespace
 
 void NewChallengeDetailViewController::connectOutlets() {
-  setTitle(QStringLiteral("New Challenge"));
+  setTitle(tr("New Challenge"));
   UIView& root = *view();
   connectOutlet(senderImageView, "senderImageView", root);
   connectOutlet(senderLabel, "senderLabel", root);
@@ -33,8 +33,8 @@ void NewChallengeDetailViewController::connectOutlets() {
   connectOutlet(challengeNameLabel, "challengeNameLabel", root)->setAlpha(0);
   connectOutlet(challengeDescriptionLabel, "challengeDescriptionLabel", root)->setAlpha(0);
   std::weak_ptr<UIButton> acceptButton;
-  connectOutlet(acceptButton, "acceptButton", root)->setTitle("Accept");
-  connectOutlet(rejectButton, "rejectButton", root)->setTitle("Reject");
+  connectOutlet(acceptButton, "acceptButton", root)->setTitle(tr("Accept").toStdString());
+  connectOutlet(rejectButton, "rejectButton", root)->setTitle(tr("Reject").toStdString());
   buttons = {acceptButton, rejectButton};
   for (const auto& button : buttons) {
     button.lock()->setAlpha(0);
@@ -70,7 +70,10 @@ void NewChallengeDetailViewController::viewDidLoad() {
   const User* sender = challenge->sender.get();
   connected(senderImageView)->setImage(sender != nullptr ? sender->picture : nullptr);
   connected(senderLabel)
-      ->setText(sender != nullptr ? sender->name + " challenged you!" : "Someone challenged you!");
+      ->setText((sender != nullptr
+                     ? tr("%1 challenged you!").arg(QString::fromStdString(sender->name))
+                     : tr("Someone challenged you!"))
+                    .toStdString());
   scratchView->setShadowOpacity(0.5);
   scratchView->setShadowOffset({0, 3});
 }
@@ -146,9 +149,10 @@ void NewChallengeDetailViewController::showButtons() {
 
 void NewChallengeDetailViewController::accepted() {
   ChallengeData::sharedInstance().acceptChallenge(challenge);
-  presentPassingAlert(*this, "Challenge accepted!",
-                      "This challenge is now in progress. Come back when you've completed it.",
-                      kAcceptedAlertSeconds, [this] { performSegueWithIdentifier(kUnwind); });
+  presentPassingAlert(
+      *this, tr("Challenge accepted!").toStdString(),
+      tr("This challenge is now in progress. Come back when you've completed it.").toStdString(),
+      kAcceptedAlertSeconds, [this] { performSegueWithIdentifier(kUnwind); });
 }
 
 void NewChallengeDetailViewController::rejected() {

@@ -19,7 +19,6 @@ namespace kindora {
 namespace {
 
 constexpr std::string_view kFriendCell = "friendCell";
-constexpr const char* kSelectFriends = "Select Friends";
 constexpr int kFriendsSection = 0;
 constexpr double kSearchBarHeight = 44;
 constexpr double kInviteFontSize = 22;
@@ -48,11 +47,11 @@ void KindoraTableViewController::viewDidLoad() {
   bar->setBackgroundColor(UIColor::whiteColor().colorWithAlphaComponent(0.95));
   tableView()->setTableHeaderView(bar);
 
-  setTitle(QString::fromLatin1(kSelectFriends));
+  setTitle(tr("Select Friends"));
   const std::string title = challenge ? challenge->title.value_or("") : "";
-  navigationItem()->setPrompt(QString::fromStdString("Passing on \"" + title + "\"..."));
-  navigationItem()->setRightBarButtonItem(std::make_shared<UIBarButtonItem>(
-      QStringLiteral("Send"), QString(), [this] { sendChallenge(); }));
+  navigationItem()->setPrompt(tr("Passing on \"%1\"...").arg(QString::fromStdString(title)));
+  navigationItem()->setRightBarButtonItem(
+      std::make_shared<UIBarButtonItem>(tr("Send"), QString(), [this] { sendChallenge(); }));
   sendButton().setEnabled(false);
   refreshData();
   tableView()->reloadData();
@@ -102,7 +101,7 @@ UITableViewCellRef KindoraTableViewController::tableViewCellForRowAtIndexPath(In
   auto cell = std::dynamic_pointer_cast<PlaceholderTableViewCell>(
       tableView()->dequeueReusableCell(kPlaceholderCell));
   const auto label = connected(cell->messageLabel);
-  label->setText("Invite a Friend...");
+  label->setText(tr("Invite a Friend...").toStdString());
   label->setFont(appFont(kInviteFontSize));
   label->setTextColor(appColor());
   cell->setSelectionStyle(UITableViewCellSelectionStyle::none);
@@ -144,11 +143,9 @@ void KindoraTableViewController::showCheckmark(const UserRef& user, bool chosen)
 
 void KindoraTableViewController::showNumberChosen() {
   const std::size_t number = chosenFriends.size();
-  setTitle(number == 0
-               ? QString::fromLatin1(kSelectFriends)
-               : QStringLiteral("%1 %2 Selected")
-                     .arg(number)
-                     .arg(number == 1 ? QStringLiteral("Friend") : QStringLiteral("Friends")));
+  setTitle(number == 0   ? tr("Select Friends")
+           : number == 1 ? tr("%1 Friend Selected").arg(number)
+                         : tr("%1 Friends Selected").arg(number));
   sendButton().setEnabled(number > 0);
 }
 
@@ -180,13 +177,15 @@ void KindoraTableViewController::animateSendChallenge() {
 }
 
 void KindoraTableViewController::alertSendChallenge() {
-  const std::string title =
-      challenge && challenge->title ? *challenge->title : std::string("this challenge");
+  const QString title = challenge && challenge->title ? QString::fromStdString(*challenge->title)
+                                                      : tr("this challenge");
   const std::size_t number = chosenFriends.size();
-  presentPassingAlert(*this,
-                      "Passed on \"" + title + "\" to " + std::to_string(number) +
-                          (number == 1 ? " friend" : " friends") + "!",
-                      std::nullopt, kAlertSeconds, [this] { didDismissAlert(); });
+  presentPassingAlert(
+      *this,
+      (number == 1 ? tr("Passed on \"%1\" to %2 friend!") : tr("Passed on \"%1\" to %2 friends!"))
+          .arg(title, QString::number(number))
+          .toStdString(),
+      std::nullopt, kAlertSeconds, [this] { didDismissAlert(); });
 }
 
 void KindoraTableViewController::didDismissAlert() {

@@ -9,7 +9,7 @@ namespace kindora {
 
 UIBarButtonItemRef createChallengeButton(UIViewController& screen) {
   return std::make_shared<UIBarButtonItem>(
-      QStringLiteral("Create Challenge"), QString::fromLatin1(kPlusImage),
+      UIBarButtonItem::tr("Create Challenge"), QString::fromLatin1(kPlusImage),
       [&screen] { screen.performSegueWithIdentifier(kCreateChallenge); });
 }
 
