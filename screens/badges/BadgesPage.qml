@@ -12,7 +12,8 @@ Rectangle {
 
     color: Qt.rgba(0.96, 0.96, 0.96, 1)
 
-    onWidthChanged: root.controller.viewWillLayoutSubviews()
+    // A loader that has a size gives it before the controller.
+    onWidthChanged: root.controller?.viewWillLayoutSubviews()
 
     CollectionGrid {
         objectName: "badgesGrid"

@@ -56,7 +56,7 @@ class Badges(ChallengeTest):
         for _ in range(12):
             if badge.has("focused"):
                 break
-            self.app.key("Tab")
+            self.pass_tab()
         self.app.key("Return")
         self.app.wait_for("Get a breath of fresh air!")
 

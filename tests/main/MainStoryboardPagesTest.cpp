@@ -55,9 +55,10 @@ class MainStoryboardPagesTest : public AppFixture, public ::testing::WithParamIn
     component.setData("import Kindora.Toolkit.Hosts\nPageLoader {}", {});
     loader.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
         {{QStringLiteral("controller"), QVariant::fromValue(controller.get())},
-         {QStringLiteral("parent"), QVariant::fromValue(window.contentItem())}})));
+         {QStringLiteral("parent"), QVariant::fromValue(window.contentItem())},
+         {QStringLiteral("width"), 390},
+         {QStringLiteral("height"), 750}})));
     EXPECT_NE(loader, nullptr) << component.errorString().toStdString();
-    loader->setSize({390, 750});
     time.advance(0.5);
   }
 
