@@ -13,7 +13,10 @@
 
 namespace kindora {
 
-void leaveNothingBehind() { QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache); }
+void leaveNothingBehind() {
+  QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
+  qputenv("QML_DISABLE_DISK_CACHE", "1");
+}
 
 void startProgram(const ProgramIdentity& identity) {
   QGuiApplication::setApplicationName(identity.name);

@@ -21,7 +21,7 @@ struct ProgramIdentity {
   QString desktopFileName = {};
 };
 
-/// Keeps Qt from storing compiled shaders on the disk. Before the QGuiApplication is made.
+/// Keeps Qt from storing compiled shaders and QML on the disk. Before the QGuiApplication is made.
 void leaveNothingBehind();
 
 /// Names the program, gives it the icon and the user's language, and installs the services and the

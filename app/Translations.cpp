@@ -10,9 +10,9 @@
 namespace kindora {
 
 QStringList translationFolders() {
-  return {QStringLiteral(":/kindora/translations"),
-          QCoreApplication::applicationDirPath() +
-              QStringLiteral("/../share/kindora/translations")};
+  return {
+      QStringLiteral(":/kindora/translations"),
+      QCoreApplication::applicationDirPath() + QStringLiteral("/../share/kindora/translations")};
 }
 
 bool installTranslations(const QString& name, const QLocale& locale, const QStringList& folders) {

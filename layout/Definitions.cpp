@@ -5,10 +5,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "layout/Tolerances.h"
+
 namespace kindora::layout {
 namespace {
 
-constexpr double kNearZero = 1e-8;     // what counts as no coefficient
 constexpr std::size_t kUsualUses = 3;  // of a variable
 
 }  // namespace

@@ -10,4 +10,7 @@ inline constexpr double kTolerance = 1e-8;
 // A coefficient, or an amount of weight, that rounding left where none is meant.
 inline constexpr double kTiny = 1e-9;
 
+// A sum of coefficients that cancel each other, but for rounding.
+inline constexpr double kNearZero = 1e-8;
+
 }  // namespace kindora::layout

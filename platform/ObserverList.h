@@ -31,7 +31,8 @@ class ObserverList final {
   }
 
   /// An observer may end subscriptions, its own too, and begin others, and may end the list: who
-  /// has ended is not called any more, who has begun is called the next time.
+  /// has ended is not called any more, who has begun is called the next time. What the arguments
+  /// refer to must outlive the call.
   void notify(Args... args) const {
     const auto observers = observers_;
     for (const auto& observer : observers) {

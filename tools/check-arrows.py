@@ -8,7 +8,7 @@
 What each object really included stands in the dependency log of a build by Ninja, what each target
 declares in BUILD-FOLDER/targets.json. A target reads the headers of its own folder and of the
 folders that it links, directly or through others, and links no floor above its own. What the files
-of a folder include themselves, their own targets link themselves; tests need not.
+of a folder include or import themselves, their own targets link themselves; tests need not.
 """
 
 import collections
@@ -61,9 +61,16 @@ THE_APP = "app"
 ONLY = {
     "platform": (),
     "layout": (),
+    "toolkit": ("platform", "layout"),
+    "photos": ("platform", "toolkit"),
     "model": ("platform",),
     "phoneformat": (),
+    "effects": ("platform", "toolkit"),
+    "alerts": ("platform", "toolkit", "effects/keyframes", "effects/qt"),
+    "gallery": ("platform", "toolkit", "phoneformat", "effects", "alerts", "app"),
 }
+# They stand in for a phone in tests.
+FAKES = ("platform/fakes",)
 
 # Modules of Qt that these may not link, not even through others. The longest name counts.
 NO_QT = re.compile(r"Qt6::")
@@ -176,6 +183,32 @@ class Tree:
             return re.findall(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]', file.read(), re.MULTILINE)
 
 
+    @functools.cache
+    def included_files(self, path):
+        """The files of the project in the include directives of one of them, from the top folder or
+        from the file's own.
+        """
+        found = []
+        for name in self.included(path):
+            for start in ("", os.path.dirname(path)):
+                file = os.path.normpath(os.path.join(start, name))
+                if os.path.isfile(os.path.join(self._top, file)):
+                    found.append(file)
+                    break
+        return found
+
+    @functools.cache
+    def imported(self, path):
+        """The modules of the project that a QML file imports."""
+        with open(os.path.join(self._top, path), encoding="utf-8") as file:
+            return re.findall(r"^\s*import\s+(Kindora(?:\.\w+)+)", file.read(), re.MULTILINE)
+
+    def files(self, folder, kinds=(".h", ".cpp")):
+        """The files of these kinds that lie in the folder itself."""
+        names = sorted(os.listdir(os.path.join(self._top, folder)))
+        return [f"{folder}/{name}" for name in names if name.endswith(kinds)]
+
+
 Record = collections.namedtuple("Record", "object target source read")
 
 
@@ -200,6 +233,12 @@ def records(log, tree):
         for source in sources_of(os.path.basename(made[1]).removesuffix(".o"), read):
             if not os.path.isabs(source):
                 yield Record(made[1], made[2], source, read)
+
+
+def module_folder(uri):
+    """Where a QML module of the project lies: Kindora.Toolkit.Hosts in toolkit/hosts."""
+    folder = uri.removeprefix("Kindora.").replace(".", "/").lower()
+    return folder + "/qt" if folder in ("alerts", "effects") else folder
 
 
 def qt_module(path):
@@ -233,6 +272,8 @@ def link_error(folder, linked):
     floor, above = longest(FLOORS, folder), longest(FLOORS, linked)
     if longest(BESIDE, linked):
         return "stands beside the house"
+    if longest(FAKES, linked) and not longest(FAKES, folder):
+        return "is for what stands beside the house"
     if above and FLOORS.index(above) > FLOORS.index(floor):
         return f"lies in {linked}, above it"
     room = longest(ONLY, folder)
@@ -286,13 +327,23 @@ def lacks_link(path, header, targets):
     return f"{path}: includes {header}, but {folder} does not link {wanted}"
 
 
-def written_errors(path, read, targets, tree):
-    """What is wrong with the include directives of a file of the project."""
-    folder = targets.owner(path)
-    linked = targets.linked_by(folder)
-    for name in tree.included(path):
-        if name in read and targets.owner(name) not in (None, *linked):
-            yield lacks_link(path, name, targets)
+def written_errors(targets, tree):
+    """What is wrong with the includes and imports that stand in the files of the house, whether an
+    object has read them or not.
+    """
+    for folder in sorted(targets.in_folder):
+        if longest(BESIDE, folder):
+            continue
+        linked = targets.linked_by(folder)
+        for path in tree.files(folder):
+            for name in tree.included_files(path):
+                if targets.owner(name) not in (None, *linked):
+                    yield lacks_link(path, name, targets)
+        through = {room for name in targets.in_folder[folder] for room in targets.folders(name)}
+        for path in tree.files(folder, (".qml",)):
+            for uri in tree.imported(path):
+                if module_folder(uri) not in through:
+                    yield f"{path}: imports {uri}, but {folder} does not link it"
 
 
 def header_error(record, header, folders, targets, tree):
@@ -325,8 +376,6 @@ def read_errors(record, targets, tree):
         wrong = header_error(record, header, folders, targets, tree)
         if wrong:
             yield wrong
-        elif targets.owner(header) == targets.folder[record.target] and not longest(BESIDE, header):
-            yield from written_errors(header, record.read, targets, tree)
     for module, headers in modules.items():
         if module and module not in closure and module + "Private" not in closure:
             names = {os.path.basename(header) for header in headers}
@@ -364,6 +413,7 @@ def main(arguments):
     tree = Tree(top, build)
     known = list(records(log, tree))
     errors = dict.fromkeys(declared_errors(targets))
+    errors.update(dict.fromkeys(written_errors(targets, tree)))
     for record in known:
         errors.update(dict.fromkeys(read_errors(record, targets, tree)))
     if not known:

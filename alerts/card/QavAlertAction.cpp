@@ -29,6 +29,7 @@ QavAlertActionRef QavAlertAction::copy() const { return actionWithTitle(title_, 
 void QavAlertAction::setEnabled(bool enabled) {
   if (enabled_ == enabled) return;
   enabled_ = enabled;
+  const QavAlertActionRef self = shared_from_this();  // an observer may let go of it
   observers_.notify(*this);
 }
 

@@ -28,7 +28,7 @@ enum class QavAlertActionStyle {
   destructive = 2,  ///< red
 };
 
-class QavAlertAction final {
+class QavAlertAction final : public std::enable_shared_from_this<QavAlertAction> {
  public:
   /// Told the action that was chosen; may be empty.
   using Handler = std::function<void(QavAlertAction& action)>;

@@ -53,7 +53,10 @@ class TranslationsTest : public testing::Test {
     file.write(compiledFile("kindora::UIAlertController", "Never Mind", translation));
   }
   [[nodiscard]] static QString shownForNeverMind() {
-    return rejectAlertForChallenge({}, [] {}, [] {})->actionTitles().last();
+    return rejectAlertForChallenge(
+               {}, [] {}, [] {})
+        ->actionTitles()
+        .last();
   }
 
   const QTemporaryDir folder;
@@ -75,8 +78,8 @@ TEST_F(TranslationsTest, ShowsTheTextsOfTheUsersLanguage) {
 TEST_F(TranslationsTest, LeavesTheFilesOfOthersAlone) {
   write(QStringLiteral("kindora_fr.qm"), QStringLiteral("Tant pis"));
   write(QStringLiteral("other_de.qm"), QStringLiteral("Egal"));
-  EXPECT_FALSE(installTranslations(QStringLiteral("kindora"), QLocale(QLocale::German),
-                                   {folder.path()}));
+  EXPECT_FALSE(
+      installTranslations(QStringLiteral("kindora"), QLocale(QLocale::German), {folder.path()}));
   EXPECT_EQ(shownForNeverMind(), QStringLiteral("Never Mind"));
 }
 
@@ -85,8 +88,8 @@ TEST_F(TranslationsTest, ADamagedFileIsNone) {
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
   file.write("no translations");
   file.close();
-  EXPECT_FALSE(installTranslations(QStringLiteral("kindora"), QLocale(QLocale::German),
-                                   {folder.path()}));
+  EXPECT_FALSE(
+      installTranslations(QStringLiteral("kindora"), QLocale(QLocale::German), {folder.path()}));
 }
 
 }  // namespace

@@ -91,6 +91,7 @@ class Tiny:
         targets = arrows.Targets(self.targets())
         tree = arrows.Tree(self.top, self.build)
         found = list(arrows.declared_errors(targets))
+        found += arrows.written_errors(targets, tree)
         for record in arrows.records(self.log(), tree):
             found += arrows.read_errors(record, targets, tree)
         return sorted(set(found))
@@ -215,6 +216,7 @@ class ArrowsTest(unittest.TestCase):
 
     def test_refuses_a_folder_without_a_floor(self):
         self.tiny.links["attic"] = []
+        os.makedirs(os.path.join(self.tiny.top, "attic"))
         self.assert_refused("attic/CMakeLists.txt: kindora_attic lies on no floor of the table")
 
     def test_refuses_the_app_in_tests_of_the_toolkit(self):
@@ -230,6 +232,35 @@ class ArrowsTest(unittest.TestCase):
         self.tiny.read["benchmarks"] = ["benchmarks/A.cpp"]
         self.tiny.include("benchmarks", "main/A.h")
         self.assert_refused("benchmarks/A.cpp: includes main/A.h, which only tests may")
+
+    def test_refuses_what_a_header_includes_that_only_others_read(self):
+        self.tiny.write("toolkit/view/Apart.h", '#pragma once\n#include "model/A.h"\n')
+        self.assert_refused(
+            "toolkit/view/Apart.h: includes model/A.h, but toolkit/view does not link kindora_model"
+        )
+
+    def test_refuses_an_include_by_way_of_the_folders(self):
+        self.tiny.write("toolkit/view/A.h", '#include "../../model/A.h"\n')
+        self.assert_refused(
+            "toolkit/view/A.h: includes model/A.h, but toolkit/view does not link kindora_model"
+        )
+
+    def test_refuses_an_import_of_what_is_not_linked(self):
+        self.tiny.write("toolkit/quick/A.qml", "import QtQuick\nimport Kindora.Gallery\nItem {}\n")
+        self.tiny.write("gallery/A.qml", "import Kindora.Gallery\n")
+        self.assert_refused(
+            "toolkit/quick/A.qml: imports Kindora.Gallery, but toolkit/quick does not link it"
+        )
+
+    def test_refuses_fakes_in_the_house(self):
+        self.tiny.links["platform/fakes"] = ["kindora_platform"]
+        self.tiny.links["model"].append("kindora_platform_fakes")
+        self.tiny.links["tests/main"].append("kindora_platform_fakes")
+        os.makedirs(os.path.join(self.tiny.top, "platform/fakes"))
+        self.assert_refused(
+            "model/CMakeLists.txt: kindora_model links kindora_platform_fakes, which is for what "
+            "stands beside the house"
+        )
 
     def test_leaves_generated_code_aside(self):
         generated = "build/platform/kindora_platform_autogen/moc_A.cpp"

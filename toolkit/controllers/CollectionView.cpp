@@ -47,6 +47,7 @@ void CollectionView::showCells() {
   const auto placed = layOut(CGRectInset(bounds(), -kMargin, -kMargin));
   shown_.clear();
   for (const auto& [cell, attributes] : placed) {
+    if (attributes->decorationKind()) continue;
     shown_[attributes->indexPath()] = {cell, attributes->frame()};
   }
   emit changed();

@@ -115,16 +115,19 @@ void ModalPresentation::makeContainer() {
   containerSubscription_ = container->observe([this] { containerChanged(); });
   if (window_) {
     windowConnection_ = QObject::connect(window_, &UIWindow::sizeChanged, [this] {
-      controller_->containerView()->setFrame(window_->bounds());
+      const UIViewRef resized = controller_->containerView();
+      resized->setFrame(window_->bounds());
     });
   }
 }
 
 void ModalPresentation::containerChanged() {
+  const auto self = shared_from_this();
   const CGRect before = containerFrame_;
   containerFrame_ = controller_->containerView()->frame();
   if (containerFrame_ == before) return;
   controller_->containerViewWillLayoutSubviews();
+  if (host_.above != self) return;
   const UIViewRef view = presented_->view();
   if (view->superview() == controller_->containerView()) {
     // By as much as the container, so that room left at an edge stays.

@@ -65,7 +65,7 @@ void UINavigationController::pushViewController(const UIViewControllerRef& contr
   controller->loadViewIfNeeded();
   setTopProgress(0);
   pages_.append(controller);
-  transition_ = std::make_unique<Transition>();
+  transition_ = std::make_shared<Transition>();
   change(leaving, animated);
 }
 
@@ -91,21 +91,25 @@ void UINavigationController::popToViewController(const UIViewController& control
   for (const auto& skipped : between) {
     pages_.remove(skipped);
     setParentOf(*skipped, nullptr);
+    disconnect(skipped->navigationItem(), nullptr, this, nullptr);
   }
-  transition_ = std::make_unique<Transition>();
+  transition_ = std::make_shared<Transition>();
   transition_->pops = true;
   change(leaving, animated);
 }
 
 void UINavigationController::change(const UIViewControllerRef& leaving, bool animated) {
-  transition_->leaving = leaving;
-  transition_->arriving = stack_.back();
+  const auto mine = transition_;
+  mine->leaving = leaving;
+  mine->arriving = stack_.back();
   emit stackChanged();
   emit canGoBackChanged();
   emit transitionChanged();
   if (isComingOrVisible()) {
     leaving->beginAppearanceTransition(false, animated);
-    stack_.back()->beginAppearanceTransition(true, animated);
+    if (transition_ == mine) mine->arriving->beginAppearanceTransition(true, animated);
+    // One of them may have changed the stack, and so ended this change.
+    if (transition_ != mine) return;
   }
   // Out of sight too, since the stack may come into sight while the change is under way.
   if (animated) {
@@ -162,7 +166,7 @@ bool UINavigationController::goBack() {
 
 bool UINavigationController::beginBackGesture() {
   if (!canGoBack()) return false;
-  transition_ = std::make_unique<Transition>();
+  transition_ = std::make_shared<Transition>();
   transition_->gesture = true;
   transition_->leaving = stack_.back();
   transition_->arriving = stack_[stack_.size() - 2];

@@ -94,7 +94,7 @@ class UINavigationController : public kindora::UIViewController {
   ControllerList pages_;
   UINavigationBar bar_;
   UIColor backgroundColor_ = UIColor::clearColor();
-  std::unique_ptr<Transition> transition_;
+  std::shared_ptr<Transition> transition_;
   double topProgress_ = 1;
 };
 

@@ -6,7 +6,7 @@
 
 namespace kindora {
 
-UIResponder::UIResponder(QObject* parent) : QObject(parent), Responder(ResponderEvents::motions) {}
+UIResponder::UIResponder() : Responder(ResponderEvents::motions) {}
 
 UIResponder::~UIResponder() { resignFirstResponder(); }
 

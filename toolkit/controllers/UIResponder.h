@@ -16,7 +16,7 @@ class UIResponder : public QObject, public Responder {
   Q_OBJECT
 
  public:
-  explicit UIResponder(QObject* parent = nullptr);
+  UIResponder();
   ~UIResponder() override;
 
   [[nodiscard]] virtual bool canBecomeFirstResponder() const { return false; }

@@ -20,8 +20,6 @@ Container* nearest(UIViewController* controller) {
 
 }  // namespace
 
-UIWindow* WindowRoot::ownWindow() const { return window_; }
-
 ViewControllerContainment::~ViewControllerContainment() {
   for (const auto& child : children_) setParentOf(*child, nullptr);
 }

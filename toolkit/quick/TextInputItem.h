@@ -34,7 +34,7 @@ class TextInputItem : public kindora::ViewItem {
   using ViewItem::ViewItem;
 
   [[nodiscard]] QString placeholder() const;
-  /// True while the view is the first responder.
+  /// True while the view has the keyboard.
   [[nodiscard]] bool isEditing() const;
   [[nodiscard]] int selectionStart() const;
   [[nodiscard]] int selectionEnd() const;

@@ -36,8 +36,8 @@ class LayoutEngine final {
   /// Gives the views that constraints place their frames.
   void placeViews();
 
-  /// Is told of each constraint that is left out; at first writes it to the console in a debug
-  /// build.
+  /// Is told of each constraint that is left out, by every engine of the program; set by tests. At
+  /// first writes it to the console in a debug build.
   static std::function<void(const NSLayoutConstraint&)>& leftOut();
 
  private:

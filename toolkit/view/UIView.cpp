@@ -73,11 +73,13 @@ UIView& UIView::topmostView() {
 
 bool UIView::endEditing(bool force) {
   bool ended = resignFirstResponder();
-  for (const auto& view : subviews_) ended = view->endEditing(force) && ended;
+  const std::vector<UIViewRef> views = subviews_;
+  for (const auto& view : views) ended = view->endEditing(force) && ended;
   return ended || force;
 }
 
 void UIView::tintDidChange() {
+  const UIViewRef self = weak_from_this().lock();  // an observer may let go of it
   changed();
   const std::vector<UIViewRef> views = subviews_;
   for (const auto& view : views) view->tintDidChange();
@@ -101,7 +103,8 @@ void UIView::frameDidChange(bool resized) {
 }
 
 void UIView::resizeSubviews() {
-  for (const auto& view : subviews_) {
+  const std::vector<UIViewRef> views = subviews_;
+  for (const auto& view : views) {
     if (view->fillsSuperview_) view->setFrame(bounds());
   }
 }

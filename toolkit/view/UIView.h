@@ -143,7 +143,9 @@ class UIView : public std::enable_shared_from_this<UIView>,
   virtual void layoutSubviews() {}
 
  private:
-  [[nodiscard]] std::shared_ptr<UIViewAnimatable> animated() final { return shared_from_this(); }
+  [[nodiscard]] std::shared_ptr<UIViewAnimatable> animated() final {
+    return weak_from_this().lock();
+  }
   void frameDidChange(bool resized) final;
   [[nodiscard]] std::shared_ptr<const UIViewTint> tintAbove() const final { return superview(); }
   void tintDidChange() final;

@@ -23,8 +23,9 @@ void UIViewAnimatable::change(Change change) {
 
 void UIViewAnimatable::setState(const UIViewState& state) {
   if (state_ == state && presentation_ == state) return;
-  UIViewAnimationBlock* block = UIViewAnimationBlock::current();
-  if (block != nullptr) block->willChange(animated());
+  const std::shared_ptr<UIViewAnimatable> self = animated();  // an observer may let go of it
+  UIViewAnimationBlock* block = self ? UIViewAnimationBlock::current() : nullptr;
+  if (block != nullptr) block->willChange(self);
   const bool moved = state_.frame != state.frame;
   const bool resized = state_.frame.size != state.frame.size;
   state_ = state;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/view/UIViewAnimationBlock.h"
 
+#include <utility>
+
 #include "platform/FatalError.h"
 #include "toolkit/view/UIViewAnimatable.h"
 
@@ -28,7 +30,10 @@ UIViewAnimationBlock::UIViewAnimationBlock(const std::function<void()>& animatio
 UIViewAnimationBlock* UIViewAnimationBlock::current() { return running; }
 
 void UIViewAnimationBlock::willChange(const std::shared_ptr<UIViewAnimatable>& view) {
-  tracks_.try_emplace(view.get(), Track{view, view->presentation(), {}, 0});
+  Track track{view, view->presentation(), {}, 0};
+  const auto [known, isNew] = tracks_.try_emplace(view.get(), track);
+  // Another view may have gone from this address meanwhile.
+  if (!isNew && known->second.view.expired()) known->second = std::move(track);
 }
 
 void UIViewAnimationBlock::show(double fraction) const {

@@ -137,5 +137,15 @@ TEST_F(QavAlertActionEnabled, ASubscriptionMayOutliveTheAction) {
   EXPECT_EQ(other, nullptr);
 }
 
+TEST_F(QavAlertActionEnabled, AnObserverMayLetGoOfTheAction) {
+  auto passing = QavAlertAction::actionWithTitle("Go", QavAlertActionStyle::standard);
+  QavAlertAction& seenAction = *passing;
+  const auto first = seenAction.observeEnabled([&](QavAlertAction&) { passing.reset(); });
+  const auto second =
+      seenAction.observeEnabled([&](QavAlertAction& told) { seen.push_back(told.isEnabled()); });
+  seenAction.setEnabled(false);
+  EXPECT_THAT(seen, ElementsAre(false));
+}
+
 }  // namespace
 }  // namespace kindora

@@ -214,6 +214,8 @@ void use(const PhoneFormatData& data, const CallingCodeInfo& plan) {
 // byte to byte, and one length in seven.
 #if defined(__SANITIZE_ADDRESS__)
 constexpr bool kSampled = true;
+#elif defined(__has_feature)
+constexpr bool kSampled = __has_feature(address_sanitizer);
 #else
 constexpr bool kSampled = false;
 #endif

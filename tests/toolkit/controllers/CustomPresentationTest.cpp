@@ -36,7 +36,12 @@ class VeilController final : public UIPresentationController {
   void dismissalTransitionDidEnd(bool completed) override {
     note_(completed ? "dismissal ended" : "dismissal given up");
   }
-  void containerViewWillLayoutSubviews() override { veil->setFrame(containerView()->frame()); }
+  void containerViewWillLayoutSubviews() override {
+    veil->setFrame(containerView()->frame());
+    if (laysOut) laysOut();
+  }
+
+  std::function<void()> laysOut;  // besides
 
   const UIViewRef veil = std::make_shared<UIView>();
 
@@ -260,6 +265,13 @@ TEST_F(CustomPresentationTest, TheContainerFollowsTheWindow) {
   EXPECT_EQ(container()->frame(), (CGRect{{0, 0}, {480, 320}}));
   EXPECT_EQ(delegate->controller->veil->frame(), (CGRect{{0, 0}, {480, 320}}));
   EXPECT_EQ(p->view()->frame(), (CGRect{{0, 0}, {480, 320}}));
+}
+
+TEST_F(CustomPresentationTest, MayEndWhileTheContainerIsLaidOut) {
+  a->presentViewController(p, false);
+  delegate->controller->laysOut = [this] { a->dismissViewController(false); };
+  window.reportSize(480, 320);
+  EXPECT_EQ(a->presentedViewController(), nullptr);
 }
 
 TEST_F(CustomPresentationTest, RoomLeftForAKeyboardStays) {

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/controllers/UINavigationController.h"
 
+#include <functional>
+#include <utility>
+
 #include "tests/toolkit/controllers/ToolkitFixture.h"
 
 namespace kindora {
@@ -33,6 +36,56 @@ class UINavigationControllerTest : public ToolkitFixture {
   const std::shared_ptr<UINavigationController> navigation =
       makeViewController<UINavigationController>(a);
 };
+
+// A screen that does something while it is on its way in or out.
+class BusyController final : public UIViewController {
+ public:
+  void viewWillAppear(bool /*animated*/) override {
+    if (appears) std::exchange(appears, nullptr)();
+  }
+  void viewWillDisappear(bool /*animated*/) override {
+    if (disappears) std::exchange(disappears, nullptr)();
+  }
+  std::function<void()> appears;
+  std::function<void()> disappears;
+};
+
+// --- Changes inside changes ---
+
+TEST_F(UINavigationControllerTest, AScreenMayLeaveWhileItArrives) {
+  for (const bool outer : {false, true}) {
+    for (const bool inner : {false, true}) {
+      const auto busy = makeViewController<BusyController>();
+      busy->appears = [this, inner] { navigation->popViewController(inner); };
+      navigation->pushViewController(busy, outer);
+      time.advance(1);
+      EXPECT_EQ(stack(), (Stack{a}));
+      EXPECT_EQ(pages(), (Stack{a}));
+      EXPECT_TRUE(a->isVisible());
+      EXPECT_FALSE(busy->isVisible());
+      EXPECT_FALSE(navigation->isTransitioning());
+      EXPECT_EQ(navigation->topProgress(), 1);
+    }
+  }
+}
+
+TEST_F(UINavigationControllerTest, AScreenMayPushAnotherWhileItLeaves) {
+  for (const bool outer : {false, true}) {
+    for (const bool inner : {false, true}) {
+      const auto busy = makeViewController<BusyController>();
+      pushNow(busy);
+      busy->disappears = [this, inner] { navigation->pushViewController(b, inner); };
+      navigation->popViewController(outer);
+      time.advance(1);
+      EXPECT_EQ(stack(), (Stack{a, b}));
+      EXPECT_EQ(pages(), (Stack{a, b}));
+      EXPECT_TRUE(b->isVisible());
+      EXPECT_FALSE(a->isVisible());
+      EXPECT_FALSE(navigation->isTransitioning());
+      navigation->popToRootViewController(false);
+    }
+  }
+}
 
 // --- Pushing ---
 

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstddef>
 #include <memory>
 
 #include "toolkit/view/NSLayoutConstraint.h"
@@ -11,6 +13,23 @@
 
 namespace kindora {
 namespace {
+
+// Memory for one object at a time, so that the next lies where the one before did.
+template <typename T>
+class OnePlace {
+ public:
+  using value_type = T;
+  OnePlace() = default;
+  template <typename U>
+  explicit OnePlace(const OnePlace<U>& /*other*/) {}
+  T* allocate(std::size_t count) {
+    alignas(std::max_align_t) static std::array<std::byte, 4096> place;
+    EXPECT_LE(count * sizeof(T), place.size());
+    return reinterpret_cast<T*>(place.data());
+  }
+  void deallocate(T* /*where*/, std::size_t /*count*/) {}
+  bool operator==(const OnePlace& /*other*/) const { return true; }
+};
 
 class UIViewAnimationBlockTest : public ::testing::Test {
  protected:
@@ -119,6 +138,21 @@ TEST_F(UIViewAnimationBlockTest, DoesNotKeepItsViews) {
   passing.reset();
   EXPECT_TRUE(gone.expired());
   block.show(1);
+}
+
+TEST_F(UIViewAnimationBlockTest, KnowsAViewFromOneThatHasGoneFromItsPlace) {
+  UIViewRef second;
+  const UIViewAnimationBlock block([&] {
+    auto first = std::allocate_shared<UIView>(OnePlace<UIView>());
+    const UIView* const place = first.get();
+    first->setAlpha(0.5);
+    first.reset();
+    second = std::allocate_shared<UIView>(OnePlace<UIView>());
+    ASSERT_EQ(second.get(), place);
+    second->setAlpha(0);
+  });
+  block.show(1);
+  EXPECT_EQ(second->presentation().alpha, 0);
 }
 
 TEST_F(UIViewAnimationBlockTest, IsCurrentOnlyWhileItsClosureRuns) {

@@ -280,5 +280,26 @@ TEST_F(UIViewCoverTest, APictureCoversNotUnlessItTakesTouches) {
   EXPECT_TRUE(hasCoveringSubview(*view));
 }
 
+TEST_F(UIViewPlaceTest, AnObserverOfItsFrameMayLetGoOfIt) {
+  auto passing = std::make_shared<UIView>();
+  UIView& seen = *passing;
+  const std::weak_ptr<UIView> gone = passing;
+  const auto subscription = seen.observe([&passing] { passing.reset(); });
+  seen.setFrame({{0, 0}, {9, 9}});
+  EXPECT_TRUE(gone.expired());
+}
+
+TEST_F(UIViewPlaceTest, AViewThatFillsAnotherMayLeaveItWhenThatIsResized) {
+  inner->setFillsSuperview(true);
+  const auto next = std::make_shared<UIView>();
+  next->setFillsSuperview(true);
+  view->addSubview(inner);
+  view->addSubview(next);
+  const auto subscription = inner->observe([this] { inner->removeFromSuperview(); });
+  view->setFrame({{10, 20}, {50, 40}});
+  EXPECT_EQ(view->subviews(), Views{next});
+  EXPECT_EQ(next->frame(), (CGRect{{0, 0}, {50, 40}}));
+}
+
 }  // namespace
 }  // namespace kindora

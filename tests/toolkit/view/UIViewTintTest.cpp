@@ -70,5 +70,14 @@ TEST_F(UIViewTintTest, TellsAllViewsInside) {
   EXPECT_EQ(changes, 2);
 }
 
+TEST_F(UIViewTintTest, AnObserverMayLetGoOfTheView) {
+  auto passing = std::make_shared<UIView>();
+  passing->addSubview(inner);
+  UIView& seen = *passing;
+  const auto subscription = seen.observe([&passing] { passing.reset(); });
+  seen.setTintColor(kRed);
+  EXPECT_EQ(inner->superview(), nullptr);
+}
+
 }  // namespace
 }  // namespace kindora
