@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Kindora.Toolkit.Hosts
 import Kindora.Photos
 
@@ -47,7 +46,7 @@ Rectangle {
         onPressed: root.controller.chooseExisting()
     }
 
-    T.Button {
+    ButtonBase {
         id: release
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
@@ -56,17 +55,15 @@ Rectangle {
         implicitHeight: 72
         visible: root.usable
         enabled: root.surface?.ready ?? false
-        focusPolicy: Qt.StrongFocus
         text: "Take Photo"
-        Accessible.name: release.text
+        ring.anchors.margins: -5
+        ring.radius: width / 2 + 5
         opacity: release.enabled ? 1 : 0.5
         onClicked: {
             const file = root.controller.pictureFile();
             if (file !== "")
                 root.surface.captureRequested(file);
         }
-        Keys.onReturnPressed: release.clicked()
-        Keys.onEnterPressed: release.clicked()
 
         background: Rectangle {
             radius: width / 2
@@ -79,12 +76,6 @@ Rectangle {
                 anchors.margins: release.pressed ? 10 : 8
                 radius: width / 2
                 color: "white"
-            }
-
-            FocusRing {
-                visible: release.visualFocus
-                anchors.margins: -5
-                radius: width / 2
             }
         }
     }

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Kindora.Toolkit.Hosts
 import Kindora.Photos
 
@@ -33,7 +32,7 @@ Rectangle {
         Accessible.role: Accessible.List
         Accessible.name: root.controller.title
 
-        delegate: T.AbstractButton {
+        delegate: ButtonBase {
             id: file
 
             required property int index
@@ -43,23 +42,15 @@ Rectangle {
 
             width: list.width
             height: 60
-            focusPolicy: Qt.StrongFocus
             text: file.name
-            Accessible.name: file.text
+            ring.anchors.margins: 2
+            ring.radius: 10
             onClicked: root.controller.choose(file.index)
-            Keys.onReturnPressed: file.clicked()
-            Keys.onEnterPressed: file.clicked()
             Component.onCompleted: root.controller.files.show(file.index)
             Component.onDestruction: root.controller.files.hide(file.index)
 
             background: Rectangle {
                 color: file.down ? Qt.rgba(0.9, 0.9, 0.9, 1) : "transparent"
-
-                FocusRing {
-                    visible: file.visualFocus
-                    anchors.margins: 2
-                    radius: 10
-                }
             }
 
             PictureItem {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Kindora.Toolkit.Hosts
 import Kindora.Photos
 
@@ -55,7 +54,7 @@ Rectangle {
         Accessible.role: Accessible.List
         Accessible.name: root.controller.title
 
-        delegate: T.AbstractButton {
+        delegate: ButtonBase {
             id: photo
 
             required property int index
@@ -64,13 +63,11 @@ Rectangle {
 
             width: grid.cellWidth
             height: grid.cellHeight
-            focusPolicy: Qt.StrongFocus
             text: photo.name
             scale: photo.down ? 0.96 : 1
-            Accessible.name: photo.text
+            ring.anchors.margins: 2
+            ring.radius: 14
             onClicked: root.controller.choose(photo.index)
-            Keys.onReturnPressed: photo.clicked()
-            Keys.onEnterPressed: photo.clicked()
             Component.onCompleted: root.controller.photos.show(photo.index)
             Component.onDestruction: root.controller.photos.hide(photo.index)
 
@@ -80,12 +77,6 @@ Rectangle {
                 radius: 12
                 image: photo.thumbnail
                 ground: Qt.rgba(0.88, 0.88, 0.88, 1)
-            }
-
-            FocusRing {
-                visible: photo.visualFocus
-                anchors.margins: 2
-                radius: 14
             }
         }
     }

@@ -37,20 +37,19 @@ Rectangle {
                 checked: choice.index === root.current
                 focusPolicy: Qt.StrongFocus
                 Accessible.name: choice.text
+                Accessible.checkable: true
                 onClicked: root.chosen(choice.index)
-                Keys.onReturnPressed: root.chosen(choice.index)
-                Keys.onEnterPressed: root.chosen(choice.index)
+
+                ButtonBehavior {
+                    button: choice
+                    ring.radius: 12
+                }
 
                 background: Rectangle {
                     radius: 10
                     color: choice.checked ? "white" : "transparent"
                     border.width: choice.checked ? 1 : 0
                     border.color: Qt.rgba(0.86, 0.86, 0.86, 1)
-
-                    FocusRing {
-                        visible: choice.visualFocus
-                        radius: 12
-                    }
                 }
 
                 contentItem: PlainText {

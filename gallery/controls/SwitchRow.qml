@@ -8,17 +8,17 @@ import Kindora.Toolkit.Hosts
 T.Switch {
     id: root
 
-    function press() {
-        root.toggle();
-        root.toggled();
-    }
-
     width: parent?.width ?? 0
     implicitHeight: 48
     focusPolicy: Qt.StrongFocus
     Accessible.name: root.text
-    Keys.onReturnPressed: root.press()
-    Keys.onEnterPressed: root.press()
+    Accessible.checkable: true
+
+    ButtonBehavior {
+        button: root
+        ring.parent: root.indicator
+        ring.radius: 18
+    }
 
     contentItem: PlainText {
         text: root.text
@@ -41,11 +41,6 @@ T.Switch {
             height: 28
             radius: 14
             color: "white"
-        }
-
-        FocusRing {
-            visible: root.visualFocus
-            radius: 18
         }
 
         Behavior on color {

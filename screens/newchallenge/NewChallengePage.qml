@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Kindora.Effects
 import Kindora.Toolkit.Hosts
 import Kindora.Screens.NewChallenge
@@ -69,7 +68,7 @@ Rectangle {
         }
 
         // For those who cannot scratch.
-        T.Button {
+        ButtonBase {
             id: scratch
             objectName: "scratchButton"
             anchors.top: picture.bottom
@@ -79,19 +78,10 @@ Rectangle {
             implicitHeight: 48
             visible: cover.shown
             opacity: cover.opacity
-            focusPolicy: Qt.StrongFocus
             text: "Scratch the cover away"
-            Accessible.name: scratch.text
-            onPressedChanged: if (pressed) cover.scratchAway()
+            ring.anchors.margins: 2
+            ring.radius: 12
             onClicked: cover.scratchAway()
-            Keys.onReturnPressed: cover.scratchAway()
-            Keys.onEnterPressed: cover.scratchAway()
-
-            background: FocusRing {
-                visible: scratch.visualFocus
-                anchors.margins: 2
-                radius: 12
-            }
 
             contentItem: PlainText {
                 id: hint

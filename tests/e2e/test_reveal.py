@@ -44,6 +44,14 @@ class Reveal(ChallengeTest):
         self.app.wait_gone("Scratch the cover away")
         self.assertNotEqual(self.app.pixel(195, (top + bottom) // 2), before)
 
+    def test_a_finger_that_leaves_the_button_scratches_nothing(self):
+        self.app.press(self.app.wait_still(self.app.wait_for("Scratch the cover away")))
+        self.app.move((195, 720))
+        self.app.release()
+        # The first scratch would have closed this way.
+        self.app.click(self.app.wait_for("Back", role="push button"))
+        self.back_to_list()
+
     def test_accepting_moves_it_to_the_end_of_those_in_progress(self):
         self.app.click(self.app.wait_still(self.reveal()))
         self.app.wait_for(ACCEPTED, role="alert")

@@ -47,12 +47,8 @@ int UIAlertController::cancelIndex() const {
   return -1;
 }
 
-QList<int> UIAlertController::destructiveIndexes() const {
-  QList<int> indexes;
-  for (std::size_t i = 0; i < actions_.size(); ++i) {
-    if (actions_[i].style == UIAlertActionStyle::destructive) indexes << static_cast<int>(i);
-  }
-  return indexes;
+bool UIAlertController::isDestructive(int index) const {
+  return actions_.at(static_cast<std::size_t>(index)).style == UIAlertActionStyle::destructive;
 }
 
 QUrl UIAlertController::page() const {

@@ -29,7 +29,6 @@ class UIAlertController : public kindora::UIViewController {
   Q_PROPERTY(QString alertMessage READ alertMessage CONSTANT)
   Q_PROPERTY(QStringList actionTitles READ actionTitles CONSTANT)
   Q_PROPERTY(int cancelIndex READ cancelIndex CONSTANT)
-  Q_PROPERTY(QList<int> destructiveIndexes READ destructiveIndexes CONSTANT)
 
  public:
   UIAlertController(const std::optional<std::string>& title,
@@ -52,7 +51,7 @@ class UIAlertController : public kindora::UIViewController {
   [[nodiscard]] QString alertMessage() const;
   [[nodiscard]] QStringList actionTitles() const;
   [[nodiscard]] int cancelIndex() const;  ///< -1 when there is none
-  [[nodiscard]] QList<int> destructiveIndexes() const;
+  [[nodiscard]] Q_INVOKABLE bool isDestructive(int index) const;
 
   [[nodiscard]] bool coversPresenter() const override { return false; }
   [[nodiscard]] double presentationDuration() const override { return 0.25; }

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Kindora.Toolkit.Quick
 
 // Draws an action sheet: rows that rise from below, the cancelling one in a block of its own.
@@ -71,47 +70,24 @@ FocusScope {
         Repeater {
             model: root.controller.actionTitles
 
-            delegate: T.Button {
+            delegate: AlertButton {
                 id: action
 
-                required property int index
-                required property string modelData
-                readonly property bool cancels: action.index === root.controller.cancelIndex
-                readonly property bool destroys:
-                    root.controller.destructiveIndexes.indexOf(action.index) >= 0
-
+                controller: root.controller
+                points: 19
                 width: sheet.width
                 implicitHeight: 56
                 topInset: 4
                 bottomInset: 0
-                focusPolicy: Qt.StrongFocus
-                focus: action.cancels
-                text: action.modelData
-                Accessible.name: action.text
-                onClicked: root.controller.choose(action.index)
-                Keys.onReturnPressed: action.clicked()
-                Keys.onEnterPressed: action.clicked()
+                focus: root.controller.cancelIndex < 0 ? action.last : action.cancels
+                ring.parent: action.background
+                ring.anchors.margins: 3
+                ring.radius: 11
 
                 background: Rectangle {
                     radius: 14
                     color: action.pressed ? Qt.rgba(0.9, 0.9, 0.9, 1)
                                           : Qt.rgba(0.985, 0.985, 0.985, 1)
-
-                    FocusRing {
-                        visible: action.visualFocus
-                        anchors.margins: 3
-                        radius: 11
-                    }
-                }
-
-                contentItem: PlainText {
-                    text: action.text
-                    Accessible.ignored: true
-                    font: action.cancels ? Appearance.boldFont(19) : Appearance.font(19)
-                    color: action.destroys ? Qt.rgba(0.82, 0.01, 0.11, 1)
-                                           : Qt.darker(Appearance.tint, 1.5)
-                    horizontalAlignment: Text.AlignHCenter
-                    verticalAlignment: Text.AlignVCenter
                 }
             }
         }

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Kindora.Toolkit.Quick
 
 // Draws an alert: a card in the middle of the dimmed window.
@@ -87,24 +86,16 @@ FocusScope {
             Repeater {
                 model: root.controller.actionTitles
 
-                delegate: T.Button {
+                delegate: AlertButton {
                     id: action
 
-                    required property int index
-                    required property string modelData
-                    readonly property bool cancels: action.index === root.controller.cancelIndex
-                    readonly property bool destroys:
-                        root.controller.destructiveIndexes.indexOf(action.index) >= 0
-
+                    controller: root.controller
+                    points: 17
                     width: root.sideBySide ? card.width / 2 : card.width
                     implicitHeight: 48
-                    focus: action.index === root.controller.actionTitles.length - 1
-                    focusPolicy: Qt.StrongFocus
-                    text: action.modelData
-                    Accessible.name: action.text
-                    onClicked: root.controller.choose(action.index)
-                    Keys.onReturnPressed: action.clicked()
-                    Keys.onEnterPressed: action.clicked()
+                    focus: action.last
+                    ring.anchors.margins: 4
+                    ring.radius: 10
 
                     background: Rectangle {
                         radius: card.radius
@@ -122,22 +113,6 @@ FocusScope {
                             visible: root.sideBySide && action.index === 1
                             color: Qt.rgba(0.88, 0.88, 0.88, 1)
                         }
-
-                        FocusRing {
-                            visible: action.visualFocus
-                            anchors.margins: 4
-                            radius: 10
-                        }
-                    }
-
-                    contentItem: PlainText {
-                        text: action.text
-                        Accessible.ignored: true
-                        font: action.cancels ? Appearance.boldFont(17) : Appearance.font(17)
-                        color: action.destroys ? Qt.rgba(0.82, 0.01, 0.11, 1)
-                                               : Qt.darker(Appearance.tint, 1.5)
-                        horizontalAlignment: Text.AlignHCenter
-                        verticalAlignment: Text.AlignVCenter
                     }
                 }
             }

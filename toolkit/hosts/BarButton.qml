@@ -1,30 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Kindora.Toolkit.Quick
 
 // A button of the navigation bar: a glyph when it has one, else its text.
-T.Button {
+ButtonBase {
     id: root
 
     property string imageName
 
     implicitWidth: Math.max(48, label.visible ? label.implicitWidth + 24 : 0)
     implicitHeight: 44
-    focusPolicy: Qt.StrongFocus
     opacity: !root.enabled ? 0.45 : root.pressed ? 0.5 : 1
-    Accessible.name: root.text
-
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
-
-    background: FocusRing {
-        visible: root.visualFocus
-        anchors.margins: 2
-        border.color: "white"
-        radius: 10
-    }
+    ring.anchors.margins: 2
+    ring.border.color: "white"
+    ring.radius: 10
 
     contentItem: Item {
         PictureItem {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Kindora.Toolkit.Quick
 
 // Draws a collection that scrolls up and down, with cells that are pressed.
@@ -35,31 +34,22 @@ Flickable {
         finger: touch.active ? Qt.point(touch.point.position.x, touch.point.position.y)
                              : Qt.point(0, 0)
 
-        delegate: T.AbstractButton {
+        delegate: ButtonBase {
             id: content
 
             required property UICollectionViewCell cell
 
-            focusPolicy: Qt.StrongFocus
             text: (look.item as CollectionCell)?.spoken ?? ""
-            Accessible.role: Accessible.Button
-            Accessible.name: content.text
+            ring.radius: 18
 
             onDownChanged: content.cell.setHighlighted(content.down, true)
             onClicked: cells.select(content.cell)
             onActiveFocusChanged: if (content.activeFocus) root.show(content)
-            Keys.onReturnPressed: content.clicked()
-            Keys.onEnterPressed: content.clicked()
 
             contentItem: Loader {
                 id: look
                 sourceComponent: root.prototype
                 onLoaded: item.cell = content.cell
-            }
-
-            FocusRing {
-                visible: content.visualFocus
-                radius: 18
             }
         }
 

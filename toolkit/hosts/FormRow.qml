@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Kindora.Toolkit.Quick
 
 // A row of a static table: a white card, pressed where nothing that stands on it takes the press.
@@ -15,17 +14,14 @@ Item {
 
     signal pressed
 
-    T.AbstractButton {
+    ButtonBase {
         id: button
         anchors.fill: parent
         text: root.action
         focusPolicy: root.action !== "" ? Qt.StrongFocus : Qt.NoFocus
-        Accessible.role: Accessible.Button
-        Accessible.name: button.text
+        ring.radius: 22
         Accessible.ignored: root.action === ""
         onClicked: root.pressed()
-        Keys.onReturnPressed: button.clicked()
-        Keys.onEnterPressed: button.clicked()
 
         background: Rectangle {
             radius: 20
@@ -33,11 +29,6 @@ Item {
             border.width: root.highlighted ? 2 : 1
             border.color: root.highlighted ? Qt.darker(Appearance.tint, 1.3)
                                            : Qt.rgba(0.92, 0.92, 0.92, 1)
-
-            FocusRing {
-                visible: button.visualFocus
-                radius: 22
-            }
         }
     }
 

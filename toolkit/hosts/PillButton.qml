@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Kindora.Toolkit.Quick
 
 // A big round button: filled in the tint, or white with a coloured text.
-T.Button {
+ButtonBase {
     id: root
 
     property bool filled: true
@@ -16,12 +15,8 @@ T.Button {
 
     implicitHeight: 50
     implicitWidth: label.implicitWidth + 48
-    focusPolicy: Qt.StrongFocus
     scale: root.pressed ? 0.97 : 1
-    Accessible.name: root.text
-
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
+    ring.radius: height / 2 + 2
 
     background: Item {
         ShadowItem {
@@ -38,11 +33,6 @@ T.Button {
             radius: height / 2
             color: root.filled ? (root.pressed ? Qt.darker(Appearance.tint, 1.1) : Appearance.tint)
                                : (root.pressed ? Qt.rgba(0.96, 0.96, 0.96, 1) : "white")
-        }
-
-        FocusRing {
-            visible: root.visualFocus
-            radius: height / 2
         }
     }
 

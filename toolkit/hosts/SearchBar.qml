@@ -71,16 +71,16 @@ Rectangle {
             }
         }
 
-        T.AbstractButton {
+        ButtonBase {
             id: clear
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             width: visible ? 34 : 9
             height: 44
             visible: field.displayText !== ""
+            // The field keeps the keyboard, whose keys can clear it, too.
+            focusPolicy: Qt.NoFocus
             text: qsTr("Clear text")
-            Accessible.role: Accessible.Button
-            Accessible.name: clear.text
             onClicked: {
                 field.clear();
                 field.forceActiveFocus();
@@ -98,7 +98,7 @@ Rectangle {
         }
     }
 
-    T.Button {
+    ButtonBase {
         id: cancel
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
@@ -106,19 +106,11 @@ Rectangle {
         implicitWidth: label.implicitWidth + 24
         height: 44
         visible: root.bar.showsCancelButton
-        focusPolicy: Qt.StrongFocus
         text: qsTr("Cancel")
         opacity: cancel.pressed ? 0.5 : 1
-        Accessible.name: cancel.text
+        ring.anchors.margins: 2
+        ring.radius: 10
         onClicked: root.bar.cancel()
-        Keys.onReturnPressed: cancel.clicked()
-        Keys.onEnterPressed: cancel.clicked()
-
-        background: FocusRing {
-            visible: cancel.visualFocus
-            anchors.margins: 2
-            radius: 10
-        }
 
         contentItem: PlainText {
             id: label

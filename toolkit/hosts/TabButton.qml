@@ -13,20 +13,19 @@ T.TabButton {
     readonly property color shade: root.selected ? Appearance.tint : Qt.rgba(0.5, 0.5, 0.5, 1)
 
     implicitHeight: 49
-    focusPolicy: Qt.StrongFocus
     text: root.item.title
+    focusPolicy: Qt.StrongFocus
+    // The controller says which tab is the selected one.
+    checkable: false
     Accessible.name: root.item.badgeValue !== "" ? root.text + ", " + root.item.badgeValue
                                                  : root.text
     Accessible.selected: root.selected
     Accessible.selectable: true
 
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
-
-    background: FocusRing {
-        visible: root.visualFocus
-        anchors.margins: 2
-        radius: 10
+    ButtonBehavior {
+        button: root
+        ring.anchors.margins: 2
+        ring.radius: 10
     }
 
     contentItem: Item {

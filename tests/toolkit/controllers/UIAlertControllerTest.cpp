@@ -59,14 +59,14 @@ TEST_F(UIAlertControllerTest, ListsItsActionsInOrder) {
   EXPECT_EQ(alert->actionTitles(),
             QStringList({QStringLiteral("Delete"), QStringLiteral("Keep"), QStringLiteral("Ask")}));
   EXPECT_EQ(alert->cancelIndex(), 1);
-  EXPECT_EQ(alert->destructiveIndexes(), QList<int>{0});
+  EXPECT_TRUE(alert->isDestructive(0));
+  EXPECT_FALSE(alert->isDestructive(1));
 }
 
 TEST_F(UIAlertControllerTest, WithoutActionsThereIsNothingToCancel) {
   const auto alert = presentWithoutActions();
   EXPECT_TRUE(alert->actionTitles().isEmpty());
   EXPECT_EQ(alert->cancelIndex(), -1);
-  EXPECT_TRUE(alert->destructiveIndexes().isEmpty());
 }
 
 TEST_F(UIAlertControllerTest, EachStyleIsDrawnByAPageOfItsOwn) {

@@ -74,6 +74,14 @@ TEST_F(ActionSheetHostTest, APressChooses) {
   EXPECT_EQ(base->presentedViewController(), nullptr);
 }
 
+TEST_F(ActionSheetHostTest, AnAssistiveToolChooses) {
+  present();
+  showFully();
+  pressByTool(QStringLiteral("Photos"));
+  time.advance(0.5);
+  EXPECT_THAT(chosen, ElementsAre("Photos"));
+}
+
 TEST_F(ActionSheetHostTest, APressBesideItCancels) {
   present();
   addAction("Cancel", UIAlertActionStyle::cancel);

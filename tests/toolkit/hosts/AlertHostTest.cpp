@@ -83,6 +83,13 @@ TEST_F(AlertHostTest, APressChooses) {
   EXPECT_EQ(base->presentedViewController(), nullptr);
 }
 
+TEST_F(AlertHostTest, AnAssistiveToolChooses) {
+  presentFully({"Yes", "No"});
+  pressByTool(QStringLiteral("Yes"));
+  time.advance(0.5);
+  EXPECT_THAT(chosen, ElementsAre("Yes"));
+}
+
 TEST_F(AlertHostTest, TheLastButtonHasTheKeyboard) {
   presentFully({"Yes", "No"});
   press(Qt::Key_Return);

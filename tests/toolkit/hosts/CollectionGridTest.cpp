@@ -89,6 +89,11 @@ TEST_F(CollectionGridTest, ReturnSelects) {
   EXPECT_THAT(source.selected, ElementsAre(2));
 }
 
+TEST_F(CollectionGridTest, AnAssistiveToolSelects) {
+  pressByTool(QStringLiteral("cell 2"));
+  EXPECT_THAT(source.selected, ElementsAre(2));
+}
+
 TEST_F(CollectionGridTest, TellsWhereTheFingerIsWhileItIsDown) {
   const QPoint at = cell(3).center().toPoint();
   QTest::mousePress(&window, Qt::LeftButton, {}, at);

@@ -87,6 +87,11 @@ TEST_F(FormPageTest, ARowWithAnActionIsReadAloudAndPressedByTheKeyboard) {
   EXPECT_THAT(controller->pressed, ElementsAre(3));
 }
 
+TEST_F(FormPageTest, ARowWithAnActionIsPressedByAnAssistiveTool) {
+  pressByTool(QStringLiteral("Add Photo"));
+  EXPECT_THAT(controller->pressed, ElementsAre(3));
+}
+
 TEST_F(FormPageTest, WhatGetsTheKeyboardComesIntoSight) {
   host->setHeight(160);
   edit(controller->third);

@@ -121,6 +121,13 @@ Rectangle {
     ASSERT_NE(item, nullptr) << "nothing is called " << name.toStdString();
     clickAt(middle(item));
   }
+  /// As an assistive tool does.
+  void pressByTool(const QString& name) {
+    QAccessibleInterface* reached = accessible(name);
+    ASSERT_NE(reached, nullptr) << "nothing is called " << name.toStdString();
+    ASSERT_NE(reached->actionInterface(), nullptr) << name.toStdString();
+    reached->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  }
   /// A finger that is put down, drawn along a line and lifted.
   void drag(QPoint from, QPoint to) {
     constexpr int kSteps = 10;

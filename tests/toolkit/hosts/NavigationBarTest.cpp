@@ -80,6 +80,15 @@ TEST_F(NavigationBarTest, ABarButtonIsPressedByTheKeyboard) {
   EXPECT_EQ(presses, 1);
 }
 
+TEST_F(NavigationBarTest, AnAssistiveToolPressesABarButtonUnlessItIsDisabled) {
+  setRightButton(QStringLiteral("Send"));
+  pressByTool(QStringLiteral("Send"));
+  EXPECT_EQ(presses, 1);
+  item().rightBarButtonItem()->setEnabled(false);
+  pressByTool(QStringLiteral("Send"));
+  EXPECT_EQ(presses, 1);
+}
+
 TEST_F(NavigationBarTest, APictureIsReadAloudByItsWord) {
   setRightButton(QStringLiteral("Create a challenge"), QStringLiteral("plus"));
   EXPECT_EQ(role(QStringLiteral("Create a challenge")), QAccessible::Button);

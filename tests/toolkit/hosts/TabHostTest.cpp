@@ -42,6 +42,11 @@ TEST_F(TabHostTest, AReturnOnATabShowsItsPage) {
   EXPECT_TRUE(shows(kTwo));
 }
 
+TEST_F(TabHostTest, AnAssistiveToolSwitchesTabs) {
+  pressByTool(QStringLiteral("Two tab"));
+  EXPECT_TRUE(shows(kTwo));
+}
+
 TEST_F(TabHostTest, APageIsMadeAtTheFirstLookAndKept) {
   EXPECT_EQ(found(kTwo), nullptr);
   tabs->setSelectedIndex(1);

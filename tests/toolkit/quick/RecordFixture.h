@@ -47,6 +47,10 @@ class RecordFixture : public QuickFixture {
     collect(QAccessible::queryAccessibleInterface(&window), role, found);
     return found;
   }
+  /// Presses the button of that name as an assistive tool does.
+  void pressByTool(const QString& name) {
+    pressByTool(QAccessible::queryAccessibleInterface(&window), name);
+  }
   void click(QPoint at) { QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, at); }
 
   const FakeServices fakes = installFakeServices();
@@ -55,6 +59,13 @@ class RecordFixture : public QuickFixture {
   const std::unique_ptr<RecordItem> item = place<RecordItem>({0, 0, 200, 200});
 
  private:
+  static void pressByTool(QAccessibleInterface* from, const QString& name) {
+    if (from == nullptr) return;
+    if (from->role() == QAccessible::Button && from->text(QAccessible::Name) == name) {
+      from->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+    for (int i = 0; i < from->childCount(); ++i) pressByTool(from->child(i), name);
+  }
   static void collect(QAccessibleInterface* from, QAccessible::Role role, QStringList& found) {
     if (from == nullptr) return;
     if (from->role() == role) found.push_back(from->text(QAccessible::Name));

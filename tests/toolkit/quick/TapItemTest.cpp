@@ -64,6 +64,11 @@ TEST_F(TapItemTest, TheKeyboardPresses) {
   EXPECT_EQ(events, (Events{"tap", "tap", "down", "up", "tap"}));
 }
 
+TEST_F(TapItemTest, AnAssistiveToolPresses) {
+  pressByTool(QStringLiteral("Press me"));
+  EXPECT_EQ(events, (Events{"tap"}));
+}
+
 TEST_F(TapItemTest, ShowsThatItHasTheKeyboard) {
   const QImage before = drawn();
   QTest::keyClick(&window, Qt::Key_Tab);
