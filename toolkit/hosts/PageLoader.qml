@@ -11,4 +11,10 @@ Loader {
     property url page: root.controller.page
 
     Component.onCompleted: root.setSource(root.page, { "controller": root.controller })
+    // The keyboard goes on to what is loaded, if that hands it on.
+    onLoaded: {
+        const scope = item as FocusScope;
+        if (scope)
+            scope.focus = true;
+    }
 }

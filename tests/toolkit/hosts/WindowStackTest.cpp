@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
+#include <gmock/gmock.h>
+
 #include <QAccessible>
 #include <QFile>
 #include <QPointer>
@@ -12,13 +14,18 @@
 #include "tests/support/ManualTime.h"
 #include "tests/support/QtWarnings.h"
 #include "tests/support/QuickFixture.h"
+#include "toolkit/controllers/UIAlertController.h"
 #include "toolkit/controllers/UIApplication.h"
+#include "toolkit/controllers/UINavigationController.h"
+#include "toolkit/controllers/UITabBarController.h"
 #include "toolkit/controllers/UIViewController.h"
 #include "toolkit/controllers/UIViewControllerTransitioningDelegate.h"
 #include "toolkit/controllers/ViewHandle.h"
 
 namespace kindora {
 namespace {
+
+using ::testing::ElementsAre;
 
 constexpr UIColor kGreenColor{0, 1, 0, 1};
 const QColor kGreenPixel(0, 255, 0);
@@ -109,6 +116,10 @@ class WindowStackTest : public QuickFixture {
     window.show();
     window.requestActivate();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    draw();
+  }
+
+  void draw() {
     QQmlComponent component(&engine);
     component.setData("import Kindora.Toolkit.Hosts\nWindowStack { focus: true }", {});
     stack.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
@@ -207,6 +218,16 @@ TEST_F(WindowStackTest, TheKeyboardBelongsToTheKeyWindowAndReturnsWhereItWas) {
   EXPECT_EQ(typed(), "ad");
 }
 
+TEST_F(WindowStackTest, TheKeyboardGoesThroughTabsAndBarsToThePage) {
+  stack.reset();
+  app->setRootViewController(
+      makeViewController<UITabBarController>(std::vector<UIViewControllerRef>{
+          makeViewController<UINavigationController>(makeViewController<Screen>(root->page()))}));
+  draw();
+  QTest::keyClick(&window, 'a');
+  EXPECT_EQ(typed(), "a");
+}
+
 TEST_F(WindowStackTest, ThePointerDoesNotReachBelowAnAlert) {
   press();
   EXPECT_EQ(presses(), 1);
@@ -250,6 +271,60 @@ TEST_F(WindowStackTest, TheTintIsTheAppsWhicheverWindowIsKey) {
   showAlert();
   alertRoot->view()->setBackgroundColor(UIColor::clearColor());
   EXPECT_EQ(pixel(50, 90), QColor(255, 0, 0));
+}
+
+// --- Alerts and sheets that a screen presents ---
+
+class PresentedAlertTest : public WindowStackTest {
+ protected:
+  void present(UIAlertControllerStyle style, const std::vector<UIAlertAction>& actions) {
+    const auto presented = makeViewController<UIAlertController>("Title", std::nullopt, style);
+    for (UIAlertAction action : actions) {
+      action.handler = [this, title = action.title] { chosen.push_back(title); };
+      presented->addAction(action);
+    }
+    root->presentViewController(presented, true);
+    time.advance(0.5);
+  }
+  void pressKey(Qt::Key key) {
+    QTest::keyClick(&window, key);
+    time.advance(0.5);
+  }
+
+  std::vector<std::string> chosen;
+};
+
+TEST_F(PresentedAlertTest, TheKeyboardIsOnAnAlertsLastButtonAndReturns) {
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+    present(UIAlertControllerStyle::alert, {{.title = "Yes"}, {.title = "No"}});
+    pressKey(key);
+    EXPECT_THAT(chosen, ElementsAre("No")) << key;
+    chosen.clear();
+  }
+  QTest::keyClick(&window, 'a');
+  EXPECT_EQ(typed(), "a");
+}
+
+TEST_F(PresentedAlertTest, TabGoesRoundItsButtonsOnly) {
+  present(UIAlertControllerStyle::alert, {{.title = "Yes"}, {.title = "No"}});
+  QTest::keyClick(&window, Qt::Key_Tab);
+  QTest::keyClick(&window, Qt::Key_Tab);
+  QTest::keyClick(&window, Qt::Key_Tab);
+  pressKey(Qt::Key_Return);
+  EXPECT_THAT(chosen, ElementsAre("Yes"));
+}
+
+TEST_F(PresentedAlertTest, TheKeyboardIsOnASheetsCancellingRow) {
+  present(UIAlertControllerStyle::actionSheet,
+          {{.title = "Camera"}, {.title = "Cancel", .style = UIAlertActionStyle::cancel}});
+  pressKey(Qt::Key_Return);
+  EXPECT_THAT(chosen, ElementsAre("Cancel"));
+}
+
+TEST_F(PresentedAlertTest, WithoutOneItIsOnTheLastRow) {
+  present(UIAlertControllerStyle::actionSheet, {{.title = "Camera"}, {.title = "Photos"}});
+  pressKey(Qt::Key_Space);
+  EXPECT_THAT(chosen, ElementsAre("Photos"));
 }
 
 // --- Custom presentations ---
