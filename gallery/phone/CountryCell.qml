@@ -7,11 +7,11 @@ import Kindora.Toolkit.Hosts
 TableCell {
     id: root
 
-    readonly property bool chosen: root.cell?.hasCheckmark ?? false
-
     implicitHeight: 48
     spaceBelow: 0
-    spoken: name.text + ", " + code.text + (root.chosen ? ", " + qsTr("selected") : "")
+    spoken: name.text + ", " + code.text
+    checkable: true
+    checked: root.cell?.hasCheckmark ?? false
 
     Rectangle {
         anchors.fill: parent
@@ -25,7 +25,7 @@ TableCell {
         anchors.verticalCenter: parent.verticalCenter
         imageName: "checkmark"
         tint: Appearance.tintedText
-        visible: root.chosen
+        visible: root.checked
     }
 
     ViewItem {

@@ -7,11 +7,11 @@ import Kindora.Toolkit.Hosts
 TableCell {
     id: root
 
-    readonly property bool chosen: root.cell?.hasCheckmark ?? false
-
     implicitHeight: 60
     spaceBelow: 0
-    spoken: name.text + (root.chosen ? ", " + qsTr("selected") : "")
+    spoken: name.text
+    checkable: true
+    checked: root.cell?.hasCheckmark ?? false
 
     Rectangle {
         anchors.fill: parent
@@ -63,7 +63,7 @@ TableCell {
         height: 22
         imageName: "checkmark"
         tint: Appearance.tint
-        scale: root.chosen ? 1 : 0
+        scale: root.checked ? 1 : 0
         visible: scale > 0
 
         Behavior on scale {

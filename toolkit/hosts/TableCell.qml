@@ -7,6 +7,9 @@ import Kindora.Toolkit.Quick
 Item {
     property UITableViewCell cell
     property string spoken
+    // Whether the row can be ticked, and is.
+    property bool checkable: false
+    property bool checked: false
     // Between this row and the next.
     property real spaceBelow: 8
 }

@@ -96,6 +96,8 @@ Item {
         text: (prototype.item as TableCell)?.spoken ?? ""
         Accessible.role: root.pressable ? Accessible.Button : Accessible.StaticText
         Accessible.name: content.text
+        Accessible.checkable: (prototype.item as TableCell)?.checkable ?? false
+        Accessible.checked: (prototype.item as TableCell)?.checked ?? false
 
         onDownChanged: root.table.setHighlighted(root.index, content.down)
         onClicked: {

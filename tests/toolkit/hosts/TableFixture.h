@@ -70,6 +70,8 @@ class TableFixture : public HostFixture {
                 TableCell {
                   implicitHeight: 60
                   spoken: cell?.objectName ?? ""
+                  checkable: true
+                  checked: cell?.hasCheckmark ?? false
                 }
               }
             })",

@@ -49,6 +49,14 @@ TEST_F(TableRowTest, ReturnSelects) {
   EXPECT_THAT(controller->selected, ElementsAre(1));
 }
 
+TEST_F(TableRowTest, ATickIsReadAloudAsAState) {
+  EXPECT_TRUE(state(QStringLiteral("Bob")).checkable);
+  EXPECT_FALSE(state(QStringLiteral("Bob")).checked);
+  bob().setAccessoryType(UITableViewCellAccessoryType::checkmark);
+  EXPECT_TRUE(state(QStringLiteral("Bob")).checked);
+  EXPECT_FALSE(state(QStringLiteral("Anna")).checked);
+}
+
 TEST_F(TableRowTest, ARowThatDoesNothingShowsNoPressAndGetsNoKeyboard) {
   controller->mute = {0};
   show();
