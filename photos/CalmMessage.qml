@@ -21,13 +21,13 @@ Column {
         anchors.horizontalCenter: parent.horizontalCenter
         width: 72
         height: 72
-        tint: Qt.rgba(0.72, 0.72, 0.72, 1)
+        tint: Theme.faintGlyph
     }
 
     PlainText {
         id: label
         width: parent.width
-        color: Qt.rgba(0.45, 0.45, 0.45, 1)
+        color: Theme.softInk
         wrapMode: Text.Wrap
         lineHeight: 1.2
         horizontalAlignment: Text.AlignHCenter

@@ -12,7 +12,7 @@ Rectangle {
     readonly property CameraSurface surface: camera.item as CameraSurface
     readonly property bool usable: root.surface?.usable ?? false
 
-    color: root.usable ? "black" : Qt.rgba(0.96, 0.96, 0.96, 1)
+    color: root.usable ? Theme.darkGround : Theme.ground
 
     Loader {
         id: camera
@@ -69,13 +69,13 @@ Rectangle {
             radius: width / 2
             color: "transparent"
             border.width: 4
-            border.color: "white"
+            border.color: Theme.inkOnColor
 
             Rectangle {
                 anchors.fill: parent
                 anchors.margins: release.pressed ? 10 : 8
                 radius: width / 2
-                color: "white"
+                color: Theme.inkOnColor
             }
         }
     }

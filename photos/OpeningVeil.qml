@@ -7,14 +7,14 @@ import Kindora.Toolkit.Hosts
 Rectangle {
     id: root
 
-    color: Qt.rgba(0.96, 0.96, 0.96, 0.8)
+    color: Qt.alpha(Theme.ground, 0.8)
 
     // A picture that is read at once needs no word.
     SequentialAnimation {
         running: root.visible
         PropertyAction { target: root; property: "opacity"; value: 0 }
-        PauseAnimation { duration: 200 }
-        NumberAnimation { target: root; property: "opacity"; to: 1; duration: 200 }
+        PauseAnimation { duration: Theme.fadeDuration }
+        NumberAnimation { target: root; property: "opacity"; to: 1; duration: Theme.fadeDuration }
     }
 
     MouseArea {
@@ -26,6 +26,6 @@ Rectangle {
     PlainText {
         anchors.centerIn: parent
         text: "Opening the picture..."
-        color: Qt.rgba(0.45, 0.45, 0.45, 1)
+        color: Theme.softInk
     }
 }

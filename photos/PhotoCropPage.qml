@@ -13,7 +13,7 @@ Rectangle {
     readonly property rect frame: root.controller.pictureFrame
     readonly property real side: Math.max(120, Math.min(width - 32, height - 130))
 
-    color: Qt.rgba(0.1, 0.1, 0.1, 1)
+    color: Theme.darkGround
     clip: true
     onSideChanged: root.controller.setSide(root.side)
     Component.onCompleted: {
@@ -62,7 +62,7 @@ Rectangle {
 
     // What will be cut away.
     component Shade: Rectangle {
-        color: Qt.rgba(0.1, 0.1, 0.1, 0.72)
+        color: Qt.alpha(Theme.darkGround, 0.72)
     }
     Shade {
         width: root.width
@@ -90,7 +90,7 @@ Rectangle {
         anchors.margins: -border.width
         color: "transparent"
         border.width: square.activeFocus ? 2 : 1
-        border.color: "white"
+        border.color: Theme.inkOnColor
     }
 
     DragHandler {
@@ -139,7 +139,7 @@ Rectangle {
         PillButton {
             width: 140
             filled: false
-            textColor: Qt.rgba(0.13, 0.13, 0.13, 1)
+            textColor: Theme.ink
             text: "Cancel"
             onClicked: root.controller.cancel()
         }

@@ -10,7 +10,7 @@ Rectangle {
 
     required property PhotoFolderController controller
 
-    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+    color: Theme.ground
 
     CalmMessage {
         anchors.centerIn: parent
@@ -50,7 +50,7 @@ Rectangle {
             Component.onDestruction: root.controller.files.hide(file.index)
 
             background: Rectangle {
-                color: file.down ? Qt.rgba(0.9, 0.9, 0.9, 1) : "transparent"
+                color: file.down ? Theme.pressed : "transparent"
             }
 
             PictureItem {
@@ -62,7 +62,7 @@ Rectangle {
                 visible: !file.isFolder
                 radius: 8
                 image: file.thumbnail
-                ground: Qt.rgba(0.88, 0.88, 0.88, 1)
+                ground: Theme.pictureGround
             }
 
             PictureItem {

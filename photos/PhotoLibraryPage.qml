@@ -10,7 +10,7 @@ Rectangle {
 
     required property PhotoLibraryController controller
 
-    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+    color: Theme.ground
 
     CalmMessage {
         anchors.centerIn: parent
@@ -23,7 +23,7 @@ Rectangle {
         SequentialAnimation on opacity {
             PropertyAction { value: 0 }
             PauseAnimation { duration: 400 }
-            NumberAnimation { to: 1; duration: 200 }
+            NumberAnimation { to: 1; duration: Theme.fadeDuration }
         }
     }
 
@@ -76,7 +76,7 @@ Rectangle {
                 anchors.margins: 4
                 radius: 12
                 image: photo.thumbnail
-                ground: Qt.rgba(0.88, 0.88, 0.88, 1)
+                ground: Theme.pictureGround
             }
         }
     }
@@ -87,7 +87,7 @@ Rectangle {
         anchors.bottomMargin: 18
         visible: grid.visible
         filled: false
-        textColor: Qt.darker(Appearance.tint, 1.5)
+        textColor: Appearance.tintedText
         text: "Browse Folders"
         onClicked: root.controller.browse()
     }

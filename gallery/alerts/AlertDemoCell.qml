@@ -13,7 +13,7 @@ TableCell {
 
     Rectangle {
         anchors.fill: parent
-        color: root.cell?.showsSelection ? Qt.rgba(0.92, 0.92, 0.92, 1) : "white"
+        color: root.cell?.showsSelection ? Theme.pressed : Theme.card
     }
 
     ViewItem {
@@ -49,7 +49,7 @@ TableCell {
             width: parent.width
             text: detail.text
             points: 13
-            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            color: Theme.softInk
             Accessible.ignored: true
         }
     }
@@ -59,6 +59,6 @@ TableCell {
         anchors.right: parent.right
         anchors.left: title.left
         height: 1
-        color: Qt.rgba(0.9, 0.9, 0.9, 1)
+        color: Theme.hairline
     }
 }

@@ -12,7 +12,7 @@ Rectangle {
 
     required property AlertsViewController controller
 
-    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+    color: Theme.ground
 
     TableList {
         objectName: "alertsTable"

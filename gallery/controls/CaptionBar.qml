@@ -12,12 +12,12 @@ Rectangle {
     anchors.bottom: parent.bottom
     width: parent.width
     height: 48
-    color: "white"
+    color: Theme.card
 
     Rectangle {
         width: parent.width
         height: 1
-        color: Qt.rgba(0.88, 0.88, 0.88, 1)
+        color: Theme.hairline
     }
 
     PlainText {
@@ -25,7 +25,7 @@ Rectangle {
         anchors.leftMargin: 16
         anchors.rightMargin: 16
         text: root.text
-        color: Qt.rgba(0.45, 0.45, 0.45, 1)
+        color: Theme.softInk
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
     }

@@ -11,10 +11,10 @@ Rectangle {
     x: 16
     width: (parent?.width ?? 0) - 32
     implicitHeight: column.height + 16
-    radius: 20
-    color: "white"
+    radius: Theme.cardRadius
+    color: Theme.card
     border.width: 1
-    border.color: Qt.rgba(0.92, 0.92, 0.92, 1)
+    border.color: Theme.cardBorder
 
     Column {
         id: column

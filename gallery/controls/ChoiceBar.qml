@@ -15,8 +15,8 @@ Rectangle {
     signal chosen(int index)
 
     implicitHeight: 48
-    radius: 14
-    color: Qt.rgba(0.91, 0.91, 0.91, 1)
+    radius: Theme.panelRadius
+    color: Theme.well
 
     Row {
         anchors.fill: parent
@@ -47,9 +47,9 @@ Rectangle {
 
                 background: Rectangle {
                     radius: 10
-                    color: choice.checked ? "white" : "transparent"
+                    color: choice.checked ? Theme.card : "transparent"
                     border.width: choice.checked ? 1 : 0
-                    border.color: Qt.rgba(0.86, 0.86, 0.86, 1)
+                    border.color: Theme.controlBorder
                 }
 
                 contentItem: PlainText {

@@ -48,7 +48,7 @@ Item {
                 width: slider.availableWidth
                 height: 4
                 radius: 2
-                color: Qt.rgba(0.88, 0.88, 0.88, 1)
+                color: Theme.track
 
                 Rectangle {
                     width: slider.visualPosition * parent.width
@@ -77,9 +77,9 @@ Item {
             Rectangle {
                 anchors.fill: parent
                 radius: 12
-                color: slider.pressed ? Qt.rgba(0.96, 0.96, 0.96, 1) : "white"
+                color: slider.pressed ? Theme.pressed : Theme.card
                 border.width: 1
-                border.color: Qt.rgba(0.86, 0.86, 0.86, 1)
+                border.color: Theme.controlBorder
             }
 
             FocusRing {
@@ -95,7 +95,7 @@ Item {
         width: 64
         height: parent.height
         text: root.setting.text
-        color: Qt.rgba(0.45, 0.45, 0.45, 1)
+        color: Theme.softInk
         horizontalAlignment: Text.AlignRight
         verticalAlignment: Text.AlignVCenter
         Accessible.name: root.setting.name + " " + value.text

@@ -32,7 +32,7 @@ T.Switch {
         implicitWidth: 52
         implicitHeight: 32
         radius: 16
-        color: root.checked ? Appearance.tint : Qt.rgba(0.88, 0.88, 0.88, 1)
+        color: root.checked ? Appearance.tint : Theme.track
 
         Rectangle {
             x: 2 + root.visualPosition * 20
@@ -40,11 +40,11 @@ T.Switch {
             width: 28
             height: 28
             radius: 14
-            color: "white"
+            color: Theme.card
         }
 
         Behavior on color {
-            ColorAnimation { duration: 150 }
+            ColorAnimation { duration: Theme.quickDuration }
         }
     }
 }

@@ -49,7 +49,7 @@ FormPage {
                 y: plot.y + plot.oneY - height / 2
                 text: "1"
                 points: 13
-                color: Qt.rgba(0.45, 0.45, 0.45, 1)
+                color: Theme.softInk
                 Accessible.ignored: true
             }
 
@@ -57,7 +57,7 @@ FormPage {
                 y: plot.y + plot.zeroY - height / 2
                 text: "0"
                 points: 13
-                color: Qt.rgba(0.45, 0.45, 0.45, 1)
+                color: Theme.softInk
                 Accessible.ignored: true
             }
         }
@@ -80,7 +80,7 @@ FormPage {
                 width: track.room
                 height: 2
                 radius: 1
-                color: Qt.rgba(0.9, 0.9, 0.9, 1)
+                color: Theme.hairline
             }
 
             Repeater {
@@ -93,9 +93,9 @@ FormPage {
                     width: 32
                     height: 32
                     radius: 16
-                    color: "white"
+                    color: Theme.card
                     border.width: 2
-                    border.color: Qt.rgba(0.85, 0.85, 0.85, 1)
+                    border.color: Theme.controlBorder
                 }
             }
 
@@ -128,7 +128,7 @@ FormPage {
             height: 24
             text: root.controller.character
             points: 13
-            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            color: Theme.softInk
             verticalAlignment: Text.AlignVCenter
         }
     }

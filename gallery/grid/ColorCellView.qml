@@ -14,12 +14,12 @@ CollectionCell {
 
     Rectangle {
         anchors.fill: parent
-        radius: 16
-        color: root.colored?.color ?? "white"
+        radius: Theme.tileRadius
+        color: root.colored?.color ?? Theme.card
         scale: root.colored?.highlighted ? 0.92 : 1
 
         Behavior on scale {
-            NumberAnimation { duration: 90 }
+            NumberAnimation { duration: Theme.pressDuration }
         }
 
         ViewItem {
@@ -32,7 +32,7 @@ CollectionCell {
                 anchors.fill: parent
                 text: number.text
                 points: 17
-                color: Qt.rgba(0, 0, 0, 0.62)
+                color: Qt.alpha(Theme.dim, 0.62)
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
                 Accessible.ignored: true

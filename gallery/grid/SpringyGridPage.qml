@@ -11,7 +11,7 @@ Rectangle {
 
     required property SpringyGridViewController controller
 
-    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+    color: Theme.ground
 
     CollectionGrid {
         objectName: "springyGrid"

@@ -14,10 +14,10 @@ TableCell {
         anchors.fill: parent
         anchors.leftMargin: 16
         anchors.rightMargin: 16
-        radius: 20
-        color: root.cell?.showsSelection ? Qt.rgba(0.92, 0.92, 0.92, 1) : "white"
+        radius: Theme.cardRadius
+        color: root.cell?.showsSelection ? Theme.pressed : Theme.card
         border.width: 1
-        border.color: Qt.rgba(0.92, 0.92, 0.92, 1)
+        border.color: Theme.cardBorder
     }
 
     ViewItem {
@@ -31,9 +31,9 @@ TableCell {
 
         PictureItem {
             anchors.fill: parent
-            radius: 14
+            radius: Theme.panelRadius
             image: picture.image
-            ground: Qt.rgba(0.88, 0.88, 0.88, 1)
+            ground: Theme.pictureGround
         }
     }
 
@@ -73,7 +73,7 @@ TableCell {
                 width: parent.width
                 text: detail.text
                 points: 13
-                color: Qt.rgba(0.45, 0.45, 0.45, 1)
+                color: Theme.softInk
                 Accessible.ignored: true
             }
         }
@@ -87,7 +87,7 @@ TableCell {
         width: 16
         height: 16
         imageName: "back"
-        tint: Qt.rgba(0.75, 0.75, 0.75, 1)
+        tint: Theme.faintGlyph
         rotation: 180
     }
 }

@@ -15,7 +15,7 @@ TableCell {
 
     Rectangle {
         anchors.fill: parent
-        color: root.cell?.showsSelection ? Qt.rgba(0.92, 0.92, 0.92, 1) : "white"
+        color: root.cell?.showsSelection ? Theme.pressed : Theme.card
     }
 
     PictureItem {
@@ -58,7 +58,7 @@ TableCell {
         PlainText {
             anchors.fill: parent
             text: code.text
-            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            color: Theme.softInk
             horizontalAlignment: Text.AlignRight
             verticalAlignment: Text.AlignVCenter
             Accessible.ignored: true
@@ -70,6 +70,6 @@ TableCell {
         anchors.right: parent.right
         anchors.left: name.left
         height: 1
-        color: Qt.rgba(0.9, 0.9, 0.9, 1)
+        color: Theme.hairline
     }
 }

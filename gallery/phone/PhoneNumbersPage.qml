@@ -34,7 +34,7 @@ FormPage {
             height: parent.height
             text: root.controller.callingCode
             points: 17
-            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            color: Theme.softInk
             verticalAlignment: Text.AlignVCenter
             Accessible.ignored: true
         }
@@ -46,7 +46,7 @@ FormPage {
             width: 16
             height: 16
             imageName: "back"
-            tint: Qt.rgba(0.75, 0.75, 0.75, 1)
+            tint: Theme.faintGlyph
             rotation: 180
         }
     }
@@ -89,7 +89,7 @@ FormPage {
             anchors.rightMargin: 32
             height: parent.height
             text: root.controller.verdict
-            color: root.controller.valid ? Appearance.tintedText : Qt.rgba(0.45, 0.45, 0.45, 1)
+            color: root.controller.valid ? Appearance.tintedText : Theme.softInk
             verticalAlignment: Text.AlignVCenter
         }
     }
@@ -105,7 +105,7 @@ FormPage {
             anchors.bottom: card.top
             anchors.bottomMargin: 8
             text: "From abroad"
-            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            color: Theme.softInk
             Accessible.role: Accessible.Heading
         }
 

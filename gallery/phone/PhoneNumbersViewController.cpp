@@ -9,13 +9,12 @@
 #include "phoneformat/PhoneFormatEnvironment.h"
 #include "platform/services/Services.h"
 #include "toolkit/controllers/UIStoryboard.h"
+#include "toolkit/view/ThemeValues.h"
 
 namespace kindora {
 namespace {
 
 enum Section { kCountrySection, kNumberSection };
-
-constexpr UIColor kInvalid{0.82, 0.01, 0.11, 1};
 
 }  // namespace
 
@@ -68,7 +67,7 @@ void PhoneNumbersViewController::judge(const std::string& number) {
   number_ = number;
   valid_ = phoneFormat_->isPhoneNumberValid(number);
   international_ = internationalPhoneNumber(*phoneFormat_, number);
-  connected(numberField)->setTextColor(valid_ ? UIColor::blackColor() : kInvalid);
+  connected(numberField)->setTextColor(valid_ ? UIColor::blackColor() : theme::kDanger);
   emit numberChanged();
 }
 

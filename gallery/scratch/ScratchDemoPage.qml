@@ -29,14 +29,14 @@ FormPage {
                 anchors.fill: parent
                 anchors.topMargin: 3
                 anchors.bottomMargin: -3
-                radius: 20
+                radius: Theme.cardRadius
                 blur: 8
                 opacity: 0.3
             }
 
             PictureItem {
                 anchors.fill: parent
-                radius: 20
+                radius: Theme.cardRadius
                 image: picture.image
             }
         }
@@ -47,7 +47,7 @@ FormPage {
             owner: root.controller
             outlet: objectName
             anchors.fill: picture
-            radius: 20
+            radius: Theme.cardRadius
             Accessible.role: Accessible.Graphic
             Accessible.name: "Cover"
         }
@@ -58,8 +58,8 @@ FormPage {
             columns: root.controller.columns
             rows: root.controller.rows
             marks: root.controller.marks
-            radius: 20
-            tint: Qt.rgba(0.05, 0.25, 0.5, 1)
+            radius: Theme.cardRadius
+            tint: Theme.gridLine
         }
     }
 
@@ -84,7 +84,7 @@ FormPage {
                 width: parent.width
                 height: 8
                 radius: 4
-                color: Qt.rgba(0.92, 0.92, 0.92, 1)
+                color: Theme.track
 
                 Rectangle {
                     width: parent.width * root.controller.progress

@@ -24,7 +24,7 @@ CollectionCell {
             height: parent.height
             x: container.shadowOffset.x
             y: container.shadowOffset.y
-            radius: 16
+            radius: Theme.tileRadius
             blur: 6
             opacity: container.shadowOpacity
         }
@@ -37,9 +37,9 @@ CollectionCell {
 
             PictureItem {
                 anchors.fill: parent
-                radius: 16
+                radius: Theme.tileRadius
                 image: picture.image
-                ground: Qt.rgba(0.88, 0.88, 0.88, 1)
+                ground: Theme.pictureGround
             }
         }
     }

@@ -4,11 +4,11 @@
 
 #include "screens/shared/PressedLook.h"
 #include "toolkit/controllers/Screen.h"
+#include "toolkit/view/ThemeValues.h"
 
 namespace kindora {
 namespace {
 
-constexpr double kCornerRadius = 16;  // points
 constexpr UIColor kGray{0.5, 0.5, 0.5, 1};
 
 }  // namespace
@@ -27,7 +27,7 @@ void BadgeCollectionViewCell::awakeFromNib() {
   UICollectionViewCell::awakeFromNib();
   const auto container = connected(imageContainerView);
   container->setShouldRasterize(true, mainScreenScale());
-  container->setShadowPathRadius(kCornerRadius);
+  container->setShadowPathRadius(theme::kTileRadius);
   setHighlighted(false, false);
 }
 

@@ -10,7 +10,7 @@ Rectangle {
 
     required property BadgesViewController controller
 
-    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+    color: Theme.ground
 
     // A loader that has a size gives it before the controller.
     onWidthChanged: root.controller?.viewWillLayoutSubviews()
@@ -49,7 +49,7 @@ Rectangle {
             PlainText {
                 width: parent.width
                 text: empty.text
-                color: Qt.rgba(0.45, 0.45, 0.45, 1)
+                color: Theme.softInk
                 wrapMode: Text.Wrap
                 lineHeight: 1.2
                 horizontalAlignment: Text.AlignHCenter

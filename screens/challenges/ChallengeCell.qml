@@ -14,10 +14,10 @@ TableCell {
         anchors.fill: parent
         anchors.leftMargin: 16
         anchors.rightMargin: 16
-        radius: 20
-        color: "white"
+        radius: Theme.cardRadius
+        color: Theme.card
         border.width: 1
-        border.color: Qt.rgba(0.92, 0.92, 0.92, 1)
+        border.color: Theme.cardBorder
     }
 
     ViewItem {
@@ -43,7 +43,7 @@ TableCell {
         Rectangle {
             anchors.fill: parent
             radius: width / 2
-            color: "white"
+            color: Theme.card
         }
 
         ViewItem {
@@ -57,7 +57,7 @@ TableCell {
                 anchors.fill: parent
                 radius: width / 2
                 image: picture.image
-                ground: Qt.rgba(0.88, 0.88, 0.88, 1)
+                ground: Theme.pictureGround
             }
         }
     }
@@ -98,7 +98,7 @@ TableCell {
                 width: parent.width
                 text: detail.text
                 points: 13
-                color: Qt.rgba(0.45, 0.45, 0.45, 1)
+                color: Theme.softInk
                 Accessible.ignored: true
             }
         }

@@ -10,7 +10,7 @@ Rectangle {
 
     required property ChallengesTableViewController controller
 
-    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+    color: Theme.ground
 
     TableList {
         id: list

@@ -19,7 +19,7 @@ TableCell {
         PlainText {
             anchors.centerIn: parent
             text: message.text
-            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            color: Theme.softInk
             Accessible.ignored: true
         }
     }

@@ -16,12 +16,12 @@
 #include "toolkit/controllers/UINavigationController.h"
 #include "toolkit/controllers/UITabBarController.h"
 #include "toolkit/controllers/UIViewAnimation.h"
+#include "toolkit/view/ThemeValues.h"
 
 namespace kindora {
 namespace {
 
 constexpr std::string_view kCompleteButton = "completeButton";
-constexpr double kCardRadius = 20;  // points
 constexpr double kMedalSide = 80;
 constexpr double kPeakAboveStart = 100;
 constexpr double kFlightSetUpSeconds = 0.75;
@@ -110,7 +110,7 @@ void InProgressChallengeDetailViewController::insertMedal() {
   const auto card = connected(imageView);
   const auto medal = std::make_shared<UIView>();
   medal->setFrame(card->frame());
-  medal->setCornerRadius(kCardRadius);
+  medal->setCornerRadius(theme::kCardRadius);
   medal->setShadowOpacity(0);
   medal->setShadowOffset({0, 3});
   medal->setUserInteractionEnabled(false);
@@ -119,7 +119,7 @@ void InProgressChallengeDetailViewController::insertMedal() {
   picture->setImage(card->image());
   picture->setFillsSuperview(true);
   picture->setFrame(medal->bounds());
-  picture->setCornerRadius(kCardRadius);
+  picture->setCornerRadius(theme::kCardRadius);
   picture->setClipsToBounds(true);
   picture->setBackgroundColor({0.88, 0.88, 0.88, 1});  // shows when there is no picture
   medal->addSubview(picture);

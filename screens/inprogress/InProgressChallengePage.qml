@@ -13,7 +13,7 @@ Rectangle {
 
     readonly property real side: Math.max(140, Math.min(width - 48, 320, height - 300))
 
-    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+    color: Theme.ground
 
     SenderLine {
         id: sender
@@ -37,7 +37,7 @@ Rectangle {
             anchors.fill: parent
             anchors.topMargin: 3
             anchors.bottomMargin: -3
-            radius: 20
+            radius: Theme.cardRadius
             blur: 8
             opacity: 0.5
         }
@@ -63,7 +63,7 @@ Rectangle {
         anchors.topMargin: 8
         x: 24
         width: root.width - 48
-        color: Qt.rgba(0.45, 0.45, 0.45, 1)
+        color: Theme.softInk
     }
 
     ViewItem {

@@ -8,13 +8,13 @@
 #include "screens/shared/PassingAlert.h"
 #include "screens/shared/SegueIdentifiers.h"
 #include "toolkit/controllers/UINavigationItem.h"
+#include "toolkit/view/ThemeValues.h"
 
 namespace kindora {
 namespace {
 
 enum Section { kNameSection, kNumberSection, kMessageSection };
 
-constexpr UIColor kInvalid{0.82, 0.01, 0.11, 1};
 constexpr double kAlertSeconds = 2;
 
 }  // namespace
@@ -95,7 +95,7 @@ bool InviteFriendTableViewController::textFieldShouldChangeCharactersInRange(
   }
   const PhoneNumberEdit edit = editPhoneNumber(*phoneFormat, *phoneChars, number->text(),
                                                number->selectedRange(), replacementString);
-  number->setTextColor(edit.valid ? UIColor::blackColor() : kInvalid);
+  number->setTextColor(edit.valid ? UIColor::blackColor() : theme::kDanger);
   if (edit.isPlain()) {
     enableSend(edit.typed);
     return true;

@@ -21,7 +21,7 @@ Rectangle {
     readonly property real closedY: blockTop
                                     + Math.max(0, (height - blockTop - blockHeight - 24) * 0.4)
 
-    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+    color: Theme.ground
 
     SenderLine {
         id: sender
@@ -43,7 +43,7 @@ Rectangle {
             y: picture.y + cover.shadowOffset.y
             width: picture.width
             height: picture.height
-            radius: 20
+            radius: Theme.cardRadius
             blur: 8
             opacity: cover.shadowOpacity
         }
@@ -63,7 +63,7 @@ Rectangle {
             owner: root.controller
             outlet: objectName
             anchors.fill: picture
-            radius: 20
+            radius: Theme.cardRadius
             Accessible.ignored: true
         }
 
@@ -87,7 +87,7 @@ Rectangle {
                 id: hint
                 text: scratch.text
                 points: 16
-                color: Qt.rgba(0.45, 0.45, 0.45, 1)
+                color: Theme.softInk
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
                 Accessible.ignored: true
@@ -115,7 +115,7 @@ Rectangle {
             anchors.topMargin: 8
             x: 24
             width: root.width - 48
-            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            color: Theme.softInk
         }
 
         ViewItem {
@@ -151,7 +151,7 @@ Rectangle {
                 objectName: "rejectButton"
                 anchors.fill: parent
                 filled: false
-                textColor: Qt.rgba(0.82, 0.01, 0.11, 1)
+                textColor: Theme.danger
                 text: reject.text
                 onClicked: root.controller.rejected()
             }

@@ -15,7 +15,7 @@ TableCell {
 
     Rectangle {
         anchors.fill: parent
-        color: root.cell?.showsSelection ? Qt.rgba(0.92, 0.92, 0.92, 1) : "white"
+        color: root.cell?.showsSelection ? Theme.pressed : Theme.card
     }
 
     ViewItem {
@@ -31,7 +31,7 @@ TableCell {
             anchors.fill: parent
             radius: width / 2
             image: picture.image
-            ground: Qt.rgba(0.88, 0.88, 0.88, 1)
+            ground: Theme.pictureGround
         }
     }
 
@@ -76,6 +76,6 @@ TableCell {
         anchors.right: parent.right
         anchors.left: name.left
         height: 1
-        color: Qt.rgba(0.9, 0.9, 0.9, 1)
+        color: Theme.hairline
     }
 }

@@ -13,7 +13,7 @@ TableCell {
 
     Rectangle {
         anchors.fill: parent
-        color: "white"
+        color: Theme.card
     }
 
     ViewItem {

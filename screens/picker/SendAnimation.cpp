@@ -6,13 +6,13 @@
 #include "screens/shared/ImageNames.h"
 #include "toolkit/controllers/Screen.h"
 #include "toolkit/controllers/UIViewAnimation.h"
+#include "toolkit/view/ThemeValues.h"
 #include "toolkit/view/UIImageView.h"
 
 namespace kindora {
 namespace {
 
 constexpr CGSize kCardSize{250, 250};
-constexpr double kCornerRadius = 20;
 constexpr double kDimming = 0.25;  // alpha of the black behind the card
 
 // Where the card is at the end of each step: its size, and how far it is from the centre.
@@ -45,7 +45,7 @@ void SendAnimation::build(UIView& over, const UIImageRef& picture) {
 
   card_ = std::make_shared<UIView>();
   card_->setFrame(stage_->bounds());
-  card_->setCornerRadius(kCornerRadius);
+  card_->setCornerRadius(theme::kCardRadius);
   card_->setShadowOpacity(0.5);
   card_->setShadowOffset({0, 3});
   card_->setShouldRasterize(true, mainScreenScale());
@@ -54,7 +54,7 @@ void SendAnimation::build(UIView& over, const UIImageRef& picture) {
 
   container_ = std::make_shared<UIView>();
   container_->setFrame(card_->bounds());
-  container_->setCornerRadius(kCornerRadius);
+  container_->setCornerRadius(theme::kCardRadius);
   container_->setClipsToBounds(true);
   const auto image = std::make_shared<UIImageView>();
   image->setFrame(container_->bounds());

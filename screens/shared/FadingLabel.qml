@@ -9,7 +9,7 @@ ViewItem {
 
     property real points: 16
     property bool bold: false
-    property color color: Qt.rgba(0.13, 0.13, 0.13, 1)
+    property color color: Theme.ink
 
     implicitHeight: label.implicitHeight
 

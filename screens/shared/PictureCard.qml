@@ -12,8 +12,8 @@ ViewItem {
 
     PictureItem {
         anchors.fill: parent
-        radius: 20
+        radius: Theme.cardRadius
         image: root.image
-        ground: Qt.rgba(0.88, 0.88, 0.88, 1)
+        ground: Theme.pictureGround
     }
 }

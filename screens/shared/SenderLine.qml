@@ -25,16 +25,16 @@ Row {
             anchors.fill: parent
             anchors.topMargin: 2
             anchors.bottomMargin: -2
-            radius: 20
+            radius: Theme.cardRadius
             blur: 4
             opacity: 0.35
         }
 
         PictureItem {
             anchors.fill: parent
-            radius: 20
+            radius: Theme.cardRadius
             image: face.image
-            ground: Qt.rgba(0.88, 0.88, 0.88, 1)
+            ground: Theme.pictureGround
         }
     }
 

@@ -12,7 +12,7 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        color: "black"
+        color: Theme.dim
         opacity: 0.4 * root.progress
     }
 
@@ -36,8 +36,8 @@ FocusScope {
             width: parent.width
             height: texts.height
             visible: root.controller.alertTitle !== "" || root.controller.alertMessage !== ""
-            radius: 14
-            color: Qt.rgba(0.985, 0.985, 0.985, 1)
+            radius: Theme.panelRadius
+            color: Theme.raised
 
             Column {
                 id: texts
@@ -50,7 +50,7 @@ FocusScope {
                     visible: text !== ""
                     text: root.controller.alertTitle
                     font: Appearance.boldFont(13)
-                    color: Qt.rgba(0.45, 0.45, 0.45, 1)
+                    color: Theme.softInk
                     wrapMode: Text.Wrap
                     horizontalAlignment: Text.AlignHCenter
                 }
@@ -60,7 +60,7 @@ FocusScope {
                     visible: text !== ""
                     text: root.controller.alertMessage
                     points: 13
-                    color: Qt.rgba(0.45, 0.45, 0.45, 1)
+                    color: Theme.softInk
                     wrapMode: Text.Wrap
                     horizontalAlignment: Text.AlignHCenter
                 }
@@ -85,9 +85,9 @@ FocusScope {
                 ring.radius: 11
 
                 background: Rectangle {
-                    radius: 14
-                    color: action.pressed ? Qt.rgba(0.9, 0.9, 0.9, 1)
-                                          : Qt.rgba(0.985, 0.985, 0.985, 1)
+                    radius: Theme.panelRadius
+                    color: action.pressed ? Theme.pressed
+                                          : Theme.raised
                 }
             }
         }

@@ -22,7 +22,7 @@ ButtonBase {
         text: root.text
         Accessible.ignored: true
         font: root.cancels ? Appearance.boldFont(root.points) : Appearance.font(root.points)
-        color: root.destroys ? Qt.rgba(0.82, 0.01, 0.11, 1) : Qt.darker(Appearance.tint, 1.5)
+        color: root.destroys ? Theme.danger : Appearance.tintedText
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
     }

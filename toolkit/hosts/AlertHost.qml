@@ -13,7 +13,7 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        color: "black"
+        color: Theme.dim
         opacity: 0.4 * root.progress
     }
 
@@ -30,8 +30,8 @@ FocusScope {
         anchors.centerIn: parent
         width: 270
         height: body.height + buttons.height
-        radius: 14
-        color: Qt.rgba(0.985, 0.985, 0.985, 1)
+        radius: Theme.panelRadius
+        color: Theme.raised
         opacity: root.progress
         scale: 1.12 - 0.12 * root.progress
         Accessible.role: Accessible.AlertMessage
@@ -99,19 +99,19 @@ FocusScope {
 
                     background: Rectangle {
                         radius: card.radius
-                        color: action.pressed ? Qt.rgba(0, 0, 0, 0.08) : "transparent"
+                        color: action.pressed ? Qt.alpha(Theme.dim, 0.08) : "transparent"
 
                         Rectangle {
                             width: parent.width
                             height: 1
-                            color: Qt.rgba(0.88, 0.88, 0.88, 1)
+                            color: Theme.hairline
                         }
 
                         Rectangle {
                             width: 1
                             height: parent.height
                             visible: root.sideBySide && action.index === 1
-                            color: Qt.rgba(0.88, 0.88, 0.88, 1)
+                            color: Theme.hairline
                         }
                     }
                 }

@@ -13,7 +13,7 @@ ButtonBase {
     implicitHeight: 44
     opacity: !root.enabled ? 0.45 : root.pressed ? 0.5 : 1
     ring.anchors.margins: 2
-    ring.border.color: "white"
+    ring.border.color: Theme.inkOnColor
     ring.radius: 10
 
     contentItem: Item {

@@ -8,7 +8,7 @@ Rectangle {
 
     default property alias sections: column.data
 
-    color: Qt.rgba(0.96, 0.96, 0.96, 1)
+    color: Theme.ground
 
     function showFocus() {
         const item = root.Window.activeFocusItem;

@@ -24,11 +24,11 @@ Item {
         onClicked: root.pressed()
 
         background: Rectangle {
-            radius: 20
-            color: button.down && root.action !== "" ? Qt.rgba(0.94, 0.94, 0.94, 1) : "white"
+            radius: Theme.cardRadius
+            color: button.down && root.action !== "" ? Theme.pressed : Theme.card
             border.width: root.highlighted ? 2 : 1
             border.color: root.highlighted ? Qt.darker(Appearance.tint, 1.3)
-                                           : Qt.rgba(0.92, 0.92, 0.92, 1)
+                                           : Theme.cardBorder
         }
     }
 

@@ -29,7 +29,7 @@ Column {
             anchors.bottomMargin: 8
             text: root.controller.sectionTitles[root.section]
             points: 16
-            color: Qt.rgba(0.45, 0.45, 0.45, 1)
+            color: Theme.softInk
             Accessible.role: Accessible.Heading
         }
     }

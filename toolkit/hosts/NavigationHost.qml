@@ -46,7 +46,7 @@ FocusScope {
                     anchors.fill: parent
                     z: 1
                     visible: page.depth === 1
-                    color: "black"
+                    color: Theme.dim
                     opacity: 0.12 * page.progress
                 }
 
@@ -56,7 +56,7 @@ FocusScope {
                     height: parent.height
                     z: 1
                     visible: page.depth === 0 && page.progress < 1
-                    color: Qt.rgba(0, 0, 0, 0.12)
+                    color: Qt.alpha(Theme.dim, 0.12)
                 }
             }
         }

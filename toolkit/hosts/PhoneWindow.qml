@@ -12,7 +12,7 @@ Window {
     minimumWidth: 320
     minimumHeight: 480
     visible: true
-    color: Qt.rgba(0.9, 0.9, 0.9, 1)
+    color: Theme.surround
     // Where no window manager does it.
     Component.onCompleted: root.requestActivate()
 

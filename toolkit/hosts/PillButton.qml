@@ -11,7 +11,7 @@ ButtonBase {
     // Stands in the middle, for a button without text.
     property alias picture: glyph.image
     property alias pictureTint: glyph.tint
-    property color textColor: root.filled ? "white" : Appearance.tint
+    property color textColor: root.filled ? Theme.inkOnColor : Appearance.tint
 
     implicitHeight: 50
     implicitWidth: label.implicitWidth + 48
@@ -32,7 +32,7 @@ ButtonBase {
             anchors.fill: parent
             radius: height / 2
             color: root.filled ? (root.pressed ? Qt.darker(Appearance.tint, 1.1) : Appearance.tint)
-                               : (root.pressed ? Qt.rgba(0.96, 0.96, 0.96, 1) : "white")
+                               : (root.pressed ? Theme.pressed : Theme.card)
         }
     }
 
@@ -60,6 +60,6 @@ ButtonBase {
     }
 
     Behavior on scale {
-        NumberAnimation { duration: 80 }
+        NumberAnimation { duration: Theme.pressDuration }
     }
 }

@@ -22,7 +22,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         height: 34
         radius: 10
-        color: Qt.rgba(0.93, 0.93, 0.94, 1)
+        color: Theme.well
 
         PictureItem {
             id: lens
@@ -31,7 +31,7 @@ Rectangle {
             height: 16
             anchors.verticalCenter: parent.verticalCenter
             imageName: "lens"
-            tint: Qt.rgba(0.5, 0.5, 0.52, 1)
+            tint: Theme.glyph
         }
 
         T.TextField {
@@ -45,7 +45,7 @@ Rectangle {
             verticalAlignment: TextInput.AlignVCenter
             placeholderText: qsTr("Search")
             font: Appearance.font(16)
-            color: Qt.rgba(0.13, 0.13, 0.13, 1)
+            color: Theme.ink
             selectionColor: Appearance.tint
             selectByMouse: true
             clip: true
@@ -65,7 +65,7 @@ Rectangle {
                 anchors.fill: parent
                 visible: field.displayText === ""
                 text: field.placeholderText
-                color: Qt.rgba(0.45, 0.45, 0.47, 1)
+                color: Theme.softInk
                 verticalAlignment: Text.AlignVCenter
                 Accessible.ignored: true
             }
@@ -92,7 +92,7 @@ Rectangle {
                     width: 18
                     height: 18
                     imageName: "clear"
-                    tint: Qt.rgba(0.5, 0.5, 0.52, 1)
+                    tint: Theme.glyph
                 }
             }
         }

@@ -10,7 +10,7 @@ T.TabButton {
 
     required property UITabBarItem item
     required property bool selected
-    readonly property color shade: root.selected ? Appearance.tint : Qt.rgba(0.5, 0.5, 0.5, 1)
+    readonly property color shade: root.selected ? Appearance.tint : Theme.glyph
 
     implicitHeight: 49
     text: root.item.title
@@ -40,7 +40,7 @@ T.TabButton {
             scale: root.pressed ? 0.9 : 1
 
             Behavior on scale {
-                NumberAnimation { duration: 80 }
+                NumberAnimation { duration: Theme.pressDuration }
             }
         }
 
@@ -62,14 +62,14 @@ T.TabButton {
             width: Math.max(18, value.implicitWidth + 10)
             height: 18
             radius: 9
-            color: Qt.rgba(0.9, 0.16, 0.2, 1)
+            color: Theme.badge
 
             PlainText {
                 id: value
                 anchors.centerIn: parent
                 text: root.item.badgeValue
                 font: Appearance.boldFont(12)
-                color: "white"
+                color: Theme.inkOnColor
                 Accessible.ignored: true
             }
         }

@@ -56,7 +56,7 @@ FocusScope {
 
         Rectangle {
             anchors.fill: parent
-            color: Qt.rgba(0.985, 0.985, 0.985, 1)
+            color: Theme.raised
         }
 
         ViewItem {
@@ -67,7 +67,7 @@ FocusScope {
 
             Rectangle {
                 anchors.fill: parent
-                color: Qt.rgba(0.88, 0.88, 0.88, 1)
+                color: Theme.hairline
             }
         }
 

@@ -41,25 +41,30 @@ ListView {
 
     add: Transition {
         enabled: root.controller.tableView.animatesChanges
-        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: 300 }
+        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.moveDuration }
         NumberAnimation {
-            property: "scale"; from: 0.8; to: 1; duration: 300; easing.type: Easing.OutBack
+            property: "scale"; from: 0.8; to: 1; duration: Theme.moveDuration
+            easing.type: Easing.OutBack
         }
     }
     remove: Transition {
         enabled: root.controller.tableView.animatesChanges
-        NumberAnimation { property: "opacity"; to: 0; duration: 200 }
+        NumberAnimation { property: "opacity"; to: 0; duration: Theme.fadeDuration }
         NumberAnimation {
             property: "x"; to: -root.width; duration: 250; easing.type: Easing.InQuad
         }
     }
     displaced: Transition {
         enabled: root.controller.tableView.animatesChanges
-        NumberAnimation { properties: "y"; duration: 300; easing.type: Easing.OutCubic }
-        NumberAnimation { properties: "opacity,scale"; to: 1; duration: 150 }
+        NumberAnimation {
+            properties: "y"; duration: Theme.moveDuration; easing.type: Easing.OutCubic
+        }
+        NumberAnimation { properties: "opacity,scale"; to: 1; duration: Theme.quickDuration }
     }
     move: Transition {
         enabled: root.controller.tableView.animatesChanges
-        NumberAnimation { properties: "y"; duration: 300; easing.type: Easing.OutCubic }
+        NumberAnimation {
+            properties: "y"; duration: Theme.moveDuration; easing.type: Easing.OutCubic
+        }
     }
 }

@@ -65,8 +65,8 @@ Item {
         Keys.onReturnPressed: remove.clicked()
 
         background: Rectangle {
-            radius: 20
-            color: remove.pressed ? Qt.rgba(0.68, 0.01, 0.09, 1) : Qt.rgba(0.82, 0.01, 0.11, 1)
+            radius: Theme.cardRadius
+            color: remove.pressed ? Theme.dangerPressed : Theme.danger
 
             FocusRing {
                 visible: remove.visualFocus
@@ -78,7 +78,7 @@ Item {
             text: remove.text
             Accessible.ignored: true
             font: Appearance.boldFont(16)
-            color: "white"
+            color: Theme.inkOnColor
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
         }

@@ -40,7 +40,7 @@ Item {
 
         Rectangle {
             anchors.fill: parent
-            color: root.panel?.windowColor ?? "white"
+            color: root.panel?.windowColor ?? Theme.card
         }
 
         Repeater {

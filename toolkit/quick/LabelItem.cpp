@@ -9,14 +9,13 @@
 
 #include "toolkit/controllers/Colors.h"
 #include "toolkit/quick/RasterNode.h"
+#include "toolkit/view/ThemeValues.h"
 #include "toolkit/view/UILabel.h"
 
 namespace kindora {
 namespace {
 
 constexpr double kOverhang = 2;  // points by which a letter may reach beyond its line
-constexpr UIColor kTextColor = UIColor::colorWithWhite(0.13, 1);
-constexpr UIColor kDisabledColor = UIColor::colorWithWhite(0.6, 1);
 
 }  // namespace
 
@@ -82,7 +81,7 @@ QSGNode* LabelItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   const QRectF place = boundingRect().adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
   return rasterNode(*this, old, place, std::exchange(stale_, false), [this](QPainter& painter) {
     const TextLines text = lines();
-    const UIColor color = drawn_.enabled ? drawn_.color.value_or(kTextColor) : kDisabledColor;
+    const UIColor color = drawn_.enabled ? drawn_.color.value_or(theme::kInk) : theme::kFaintInk;
     painter.setPen(toQColor(color));
     const double top = std::floor((height() - text.extent().size.height) / 2);
     text.draw(painter, {0, top}, drawn_.width, drawn_.alignment);

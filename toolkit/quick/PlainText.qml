@@ -9,7 +9,7 @@ Text {
 
     textFormat: Text.PlainText
     font: Appearance.font(points)
-    color: Qt.rgba(0.13, 0.13, 0.13, 1)
+    color: Theme.ink
     elide: Text.ElideRight
     Accessible.role: Accessible.StaticText
     Accessible.name: text

@@ -41,7 +41,7 @@ ScrollViewItem {
         width: 3
         height: Math.max(16, flick.visibleArea.heightRatio * (root.height - 4))
         radius: 1.5
-        color: Qt.rgba(0, 0, 0, 0.35)
+        color: Theme.scrollIndicator
     }
 
     Rectangle {
@@ -52,6 +52,6 @@ ScrollViewItem {
         width: Math.max(16, flick.visibleArea.widthRatio * (root.width - 4))
         height: 3
         radius: 1.5
-        color: Qt.rgba(0, 0, 0, 0.35)
+        color: Theme.scrollIndicator
     }
 }

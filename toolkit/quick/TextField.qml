@@ -38,7 +38,7 @@ TextInputItem {
         id: field
         anchors.fill: parent
         font: root.fieldFont
-        color: root.textColor.valid ? root.textColor : Qt.rgba(0.13, 0.13, 0.13, 1)
+        color: root.textColor.valid ? root.textColor : Theme.ink
         selectionColor: Qt.alpha(Appearance.tint, 0.4)
         selectedTextColor: field.color
         leftPadding: root.leftInset
@@ -80,7 +80,7 @@ TextInputItem {
             visible: field.text === "" && field.preeditText === ""
             text: root.placeholder
             font: field.font
-            color: Qt.rgba(0.6, 0.6, 0.6, 1)
+            color: Theme.faintInk
             verticalAlignment: Text.AlignVCenter
             Accessible.ignored: true
         }

@@ -43,7 +43,7 @@ TextInputItem {
             id: area
             padding: root.contentInset
             font: Appearance.font(17)
-            color: root.textColor.valid ? root.textColor : Qt.rgba(0.13, 0.13, 0.13, 1)
+            color: root.textColor.valid ? root.textColor : Theme.ink
             selectionColor: Qt.alpha(Appearance.tint, 0.4)
             selectedTextColor: area.color
             wrapMode: TextEdit.Wrap
@@ -82,7 +82,7 @@ TextInputItem {
                 visible: area.text === "" && area.preeditText === ""
                 text: root.placeholder
                 points: 17
-                color: Qt.rgba(0.6, 0.6, 0.6, 1)
+                color: Theme.faintInk
                 Accessible.ignored: true
             }
         }
