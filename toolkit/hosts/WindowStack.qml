@@ -46,9 +46,10 @@ FocusScope {
         window: root.Window.window
     }
 
-    // For those who cannot shake.
+    // For those who cannot shake. A key that is held is one press.
     Shortcut {
         enabled: root.visible
+        autoRepeat: false
         sequence: "Ctrl+Shift+K"
         onActivated: shakes.shake()
     }

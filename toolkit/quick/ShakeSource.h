@@ -3,12 +3,11 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 #include <QQuickWindow>
 #include <QTimer>
-#include <array>
+#include <functional>
 #include <optional>
 
 #include "platform/ShakeRecognizer.h"
@@ -24,10 +23,16 @@ class ShakeSource : public QObject {
   Q_PROPERTY(QQuickWindow* window READ window WRITE setWindow NOTIFY windowChanged)
 
  public:
+  using Clock = std::function<ShakeRecognizer::Time()>;
+
   explicit ShakeSource(QObject* parent = nullptr);
+  ShakeSource(std::optional<Accelerometer> accelerometer, Clock clock, QObject* parent = nullptr);
 
   [[nodiscard]] QQuickWindow* window() const { return window_; }
   void setWindow(QQuickWindow* window);
+  [[nodiscard]] bool isSampling() const { return sampling_.isActive(); }
+  /// Reads the accelerometer once.
+  void sample();
   /// The second way to shake, for a key.
   Q_INVOKABLE static void shake();
 
@@ -36,15 +41,13 @@ class ShakeSource : public QObject {
 
  private:
   void listenOrRest();
-  void readAccelerometer();
   void windowMoved();
 
   QPointer<QQuickWindow> window_;
-  QElapsedTimer clock_;
-  ShakeRecognizer windowX_;
-  ShakeRecognizer windowY_;
   std::optional<Accelerometer> accelerometer_;
-  std::array<ShakeRecognizer, 3> axes_;
+  Clock clock_;
+  ShakeRecognizer ofWindow_;
+  ShakeRecognizer ofPhone_;
   QTimer sampling_;
 };
 

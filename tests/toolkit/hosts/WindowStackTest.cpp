@@ -76,7 +76,10 @@ class Screen final : public UIViewController {
     ++backs;
     return true;
   }
+  bool canBecomeFirstResponder() const override { return true; }
+  void motionEnded(UIEventSubtype /*motion*/) override { ++shakes; }
   int backs = 0;
+  int shakes = 0;
 
  private:
   QUrl page_;
@@ -250,6 +253,21 @@ TEST_F(WindowStackTest, EscGoesBackInTheKeyWindow) {
   endAlert();
   QTest::keyClick(&window, Qt::Key_Escape);
   EXPECT_EQ(root->backs, 2);
+}
+
+TEST_F(WindowStackTest, TheKeysOfAShakeShakeOnceHoweverLongTheyAreHeld) {
+  UIApplication::sharedApplication()->setApplicationSupportsShakeToEdit(true);
+  root->becomeFirstResponder();
+  const auto press = [this](bool repeats) {
+    qt_sendShortcutOverrideEvent(&window, 0, Qt::Key_K, Qt::ControlModifier | Qt::ShiftModifier,
+                                 QStringLiteral("K"), repeats);
+  };
+  press(false);
+  for (int i = 0; i < 5; ++i) press(true);
+  EXPECT_EQ(root->shakes, 1);
+  press(false);
+  EXPECT_EQ(root->shakes, 2);
+  UIApplication::sharedApplication()->setApplicationSupportsShakeToEdit(false);
 }
 
 TEST_F(WindowStackTest, WhatLiesBelowAnAlertIsNotReadAloud) {
