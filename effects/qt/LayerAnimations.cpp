@@ -51,15 +51,25 @@ class Playing final : public UIViewLayerAnimation {
   Playing& operator=(const Playing&) = delete;
 
   void start() {
-    show(playback_.valueAt(0));
+    showAt(0);
     const double length = std::min(playback_.length(), kLongest);
     clock_ = ProgressAnimation(
         {.duration = length, .curve = UIViewAnimationCurve::linear},
-        [this, length](double fraction) { show(playback_.valueAt(fraction * length)); },
-        [this] { finish(); });
+        [this, length](double fraction) { showAt(fraction * length); }, [this] { finish(); });
+  }
+
+  void redirect(std::shared_ptr<UIBezierPath> path) {
+    animation_->setPath(std::move(path));
+    playback_ = KeyframePlayback(*animation_);
+    showAt(elapsed_);
   }
 
  private:
+  void showAt(double elapsed) {
+    elapsed_ = elapsed;
+    show(playback_.valueAt(elapsed));
+  }
+
   void show(const NSValue& value) {
     const UIViewRef view = view_.lock();
     if (!view) return;
@@ -101,6 +111,7 @@ class Playing final : public UIViewLayerAnimation {
   std::string key_;
   std::string property_;
   KeyframePlayback playback_;
+  double elapsed_ = 0;  // seconds
   ProgressAnimation clock_;
   std::shared_ptr<Transaction> transaction_ = currentTransaction();
   bool told_ = false;
@@ -113,6 +124,12 @@ void addAnimation(const UIViewRef& view, const CAKeyframeAnimation& animation,
   const auto playing = std::make_shared<Playing>(view, animation.copy(), key);
   view->setLayerAnimation(key, playing);
   playing->start();
+}
+
+void redirectAnimationForKey(const UIView& view, std::string_view key,
+                             std::shared_ptr<UIBezierPath> path) {
+  const auto playing = std::dynamic_pointer_cast<Playing>(view.layerAnimation(key));
+  if (playing) playing->redirect(std::move(path));
 }
 
 void performInAnimationTransaction(const std::function<void()>& animations,

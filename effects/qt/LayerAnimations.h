@@ -29,6 +29,11 @@ void addAnimation(const UIViewRef& view, const CAKeyframeAnimation& animation,
 void performInAnimationTransaction(const std::function<void()>& animations,
                                    std::function<void()> completion);
 
+/// Has the animation that plays under the key go on along another path, as far along as it has
+/// come: for a goal that moves. Does nothing where nothing plays.
+void redirectAnimationForKey(const UIView& view, std::string_view key,
+                             std::shared_ptr<UIBezierPath> path);
+
 /// Takes away what plays, or stays, under the key.
 void removeAnimationForKey(UIView& view, std::string_view key);
 

@@ -29,6 +29,7 @@ constexpr double kStampScale = 1.5;
 constexpr double kStampSeconds = 0.2;
 constexpr double kStampDelay = 0.5;
 constexpr double kAlertDelay = 0.5;
+constexpr std::string_view kFlight = "position";  // the property that it moves
 
 }  // namespace
 
@@ -64,6 +65,7 @@ void InProgressChallengeDetailViewController::viewDidLoad() {
 void InProgressChallengeDetailViewController::viewWillDisappear(bool animated) {
   if (frozen_) tabs().tabBar()->setUserInteractionEnabled(true);
   frozen_ = false;
+  places_.clear();
   UIViewController::viewWillDisappear(animated);
 }
 
@@ -94,6 +96,7 @@ void InProgressChallengeDetailViewController::completeChallenge(UIButton& button
   animateWithDuration(
       {.duration = kFlightSetUpSeconds}, [this] { launchMedal(); },
       guarded([this] { dropStamp(); }));
+  followPlaces();
 }
 
 void InProgressChallengeDetailViewController::freezeNavigation() {
@@ -134,12 +137,34 @@ void InProgressChallengeDetailViewController::launchMedal() {
   }
   medal.setShadowOpacity(0.5);
   medal.setFrame(rectAround(connected(imageView)->center(), {kMedalSide, kMedalSide}));
-  const UITabBar& bar = *tabs().tabBar();
-  const CGPoint end =
-      view()->convertPoint(medalDestination(frameForTabInTabBar(bar, kBadgesTab)), bar.view());
   const CGPoint start = medal.center();
-  addAnimation(medalAnimationView, *animationForFlyFromPoint(start, end, start.y - kPeakAboveStart),
-               "position");
+  addAnimation(medalAnimationView,
+               *animationForFlyFromPoint(start, medalEnd(), start.y - kPeakAboveStart), kFlight);
+}
+
+CGPoint InProgressChallengeDetailViewController::medalEnd() {
+  const UITabBar& bar = *tabs().tabBar();
+  return view()->convertPoint(medalDestination(frameForTabInTabBar(bar, kBadgesTab)), bar.view());
+}
+
+// The window may change its size during the ceremony: then picture and tab are elsewhere.
+void InProgressChallengeDetailViewController::followPlaces() {
+  UITabBar& bar = *tabs().tabBar();
+  std::vector<UIViewRef> marks = bar.outlet("tabBar")->subviews();
+  marks.insert(marks.end(), {bar.outlet("tabBar"), connected(imageView), view()});
+  for (const auto& mark : marks) {
+    places_.push_back(mark->observeLayout([this] { placesChanged(); }));
+  }
+}
+
+void InProgressChallengeDetailViewController::placesChanged() {
+  const auto card = connected(imageView);
+  if (const auto stamp = stamp_.lock()) stamp->reportFrame(card->frame());
+  // The screen may have been left meanwhile.
+  if (!medalAnimationView || tabBarController() == nullptr) return;
+  const CGPoint start = card->center();
+  redirectAnimationForKey(*medalAnimationView, kFlight,
+                          bezierPathForFlyFromPoint(start, medalEnd(), start.y - kPeakAboveStart));
 }
 
 CGRect InProgressChallengeDetailViewController::frameForTabInTabBar(const UITabBar& tabBar,
@@ -181,6 +206,7 @@ void InProgressChallengeDetailViewController::dropStamp() {
   stamp->setScaling(kStampScale);
   stamp->setAlpha(0);
   view()->addSubview(stamp);
+  stamp_ = stamp;
   animateWithDuration(
       {.duration = kStampSeconds, .delay = kStampDelay, .curve = UIViewAnimationCurve::easeIn},
       [&stamp] {

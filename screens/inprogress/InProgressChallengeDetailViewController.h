@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <vector>
+
 #include "effects/keyframes/CAAnimationDelegate.h"
 #include "effects/keyframes/CAKeyframeAnimation.h"
 #include "model/Challenge.h"
+#include "platform/Subscription.h"
 #include "toolkit/controllers/UITabBar.h"
 #include "toolkit/controllers/UIViewController.h"
 #include "toolkit/view/UIButton.h"
@@ -61,9 +64,14 @@ class InProgressChallengeDetailViewController : public kindora::UIViewController
   void freezeNavigation();
   void insertMedal();
   void launchMedal();
+  void followPlaces();
+  void placesChanged();
+  [[nodiscard]] CGPoint medalEnd();
   void dropStamp();
   void askToPassOn();
 
+  std::weak_ptr<UIImageView> stamp_;
+  std::vector<Subscription> places_;  // of what the ceremony goes by, while it lasts
   bool frozen_ = false;
 };
 

@@ -50,6 +50,7 @@ CodeViewItem::CodeViewItem(UIViewRef view, QQuickItem* parent)
   place();
   makeFace();
   subscription_ = view_->observe([this] { viewDidChange(); });
+  layouts_ = view_->observeLayout([this] { laidOut(); });
   viewDidChange();
 }
 
@@ -57,6 +58,7 @@ CodeViewItem::~CodeViewItem() { rest(); }
 
 void CodeViewItem::rest() {
   subscription_ = {};
+  layouts_ = {};
   MotionEffects::shared().hide(view_);
   for (std::size_t i = 0; i < drawn_.size(); ++i) drawn_[i].rest();
 }
@@ -82,6 +84,12 @@ void CodeViewItem::viewDidChange() {
   setClip(view_->clipsToBounds() && overflows(*view_));
   tellInside();
   followTilt();
+}
+
+// A place that was reported is told as a layout and not as a change.
+void CodeViewItem::laidOut() {
+  place();
+  tellInside();
 }
 
 void CodeViewItem::tellInside() {

@@ -55,6 +55,7 @@ class CodeViewItem final : public QQuickItem {
   };
 
   void viewDidChange();
+  void laidOut();
   void surroundingsChanged();
   void tellInside();
   void place();
@@ -79,6 +80,7 @@ class CodeViewItem final : public QQuickItem {
   DrawnSubviews drawn_;
   Surroundings told_;
   Subscription subscription_;
+  Subscription layouts_;
   KeyframeTransform keyframeTransform_;
 };
 

@@ -102,7 +102,8 @@ void ViewItem::viewDidChange() {
 void ViewItem::geometryChange(const QRectF& now, const QRectF& before) {
   QQuickItem::geometryChange(now, before);
   if (!view_ || record_) return;
-  view_->reportFrame({{now.x(), now.y()}, {now.width(), now.height()}});
+  // Not the argument: anchors may have moved the item again meanwhile.
+  view_->reportFrame({{x(), y()}, {width(), height()}});
   keyframeTransform_.set(view_->keyframeValues().transform, *this);  // about the new centre
 }
 

@@ -110,8 +110,10 @@ void UIView::resizeSubviews() {
 }
 
 void UIView::reportFrame(CGRect frame) {
+  const bool moved = frame != this->frame();
   adoptFrame(frame);
   resizeSubviews();
+  if (moved) layouts_.notify();
 }
 
 void UIView::removeRenderer(const UIViewRenderer& renderer) {

@@ -82,8 +82,8 @@ class UIView : public std::enable_shared_from_this<UIView>,
 
   // --- Place ---
 
-  /// The place that an item gave to a view which a storyboard lays out. Not animated; nobody is
-  /// told.
+  /// The place that an item gave to a view which a storyboard lays out. Not animated; a new place
+  /// is told to those alone who observe the layout.
   void reportFrame(CGRect frame);
   /// Follows the superview's size, from the next change of it on.
   [[nodiscard]] bool fillsSuperview() const { return fillsSuperview_; }

@@ -293,6 +293,32 @@ TEST_F(LayerAnimationsTest, ChangesOfTheAnimationDoNotReachWhatPlays) {
   EXPECT_THAT(ear->heard, ElementsAre(true));
 }
 
+TEST_F(LayerAnimationsTest, ARedirectedOneGoesOnAlongTheOtherPath) {
+  const auto line = [](CGPoint from, CGPoint to) {
+    auto path = std::make_shared<UIBezierPath>();
+    path->moveToPoint(from);
+    path->addQuadCurveToPoint(to, {(from.x + to.x) / 2, (from.y + to.y) / 2});
+    return path;
+  };
+  const auto flight = animation({});
+  flight->setPath(line({0, 0}, {100, 0}));
+  play(*flight, "position");
+  time.advance(0.25);
+  redirectAnimationForKey(*view, "position", line({0, 0}, {0, 200}));
+  EXPECT_NEAR(shownCentre().x, 0, 0.01);
+  EXPECT_NEAR(shownCentre().y, 50, 1);
+  time.advance(0.5);
+  EXPECT_NEAR(shownCentre().y, 150, 1);
+  EXPECT_THAT(ear->heard, IsEmpty());
+  time.advance(0.3);
+  EXPECT_THAT(ear->heard, ElementsAre(true));
+}
+
+TEST_F(LayerAnimationsTest, RedirectingWhatIsNotThereIsNoHarm) {
+  redirectAnimationForKey(*view, "position", std::make_shared<UIBezierPath>());
+  EXPECT_EQ(shownCentre(), (CGPoint{50, 50}));
+}
+
 TEST_F(LayerAnimationsTest, AnotherOfItsKeyTakesItsPlace) {
   play(*numbers({0, 1}));
   time.advance(0.5);

@@ -27,6 +27,12 @@ inline constexpr CGPoint kBarOrigin{0, 795};
 // The bottom middle of the second of two tabs on a bar of 390 x 49, in the page's space.
 inline constexpr CGPoint kIntoTheTab{292.5, 795 + 49 - 64};
 
+// The same with the phone on its side.
+inline constexpr CGRect kTurnedPicture{{352, 72}, {140, 140}};
+inline constexpr CGPoint kTurnedPictureCentre{422, 142};
+inline constexpr CGPoint kTurnedBarOrigin{0, 341};
+inline constexpr CGPoint kIntoTheTurnedTab{633, 341 + 49 - 64};
+
 // The screen of the first challenge in progress, laid out as on a phone.
 class InProgressCeremonyTest : public AppFixture {
  protected:
@@ -46,6 +52,14 @@ class InProgressCeremonyTest : public AppFixture {
     bar_.emplace(tab("tabBar"), kBarOrigin);
     tab("tab0").reportFrame({{0, 0}, {195, 49}});
     tab("tab1").reportFrame({{195, 0}, {195, 49}});
+  }
+  // As by a turn of the phone.
+  void turn() {
+    bar_.emplace(tab("tabBar"), kTurnedBarOrigin);
+    tab("tabBar").reportFrame({{0, 341}, {844, 49}});
+    tab("tab0").reportFrame({{0, 0}, {422, 49}});
+    tab("tab1").reportFrame({{422, 0}, {422, 49}});
+    screen().imageView.lock()->reportFrame(kTurnedPicture);
   }
   static UIView& tab(const char* name) { return *tabs().tabBar()->outlet(name); }
   static Screen& screen() { return top<Screen>(); }

@@ -408,6 +408,76 @@ TEST_F(InProgressCeremonyTest, WithoutAStampPictureTheCeremonyGoesOn) {
   EXPECT_NE(alert(), nullptr);
 }
 
+// --- A turn of the phone meanwhile ---
+
+TEST_F(InProgressCeremonyTest, AfterATurnTheMedalFliesIntoWhereTheTabIs) {
+  completeUntil(0.5);
+  turn();
+  until(0.998);
+  EXPECT_NEAR(medalCentre().x, kIntoTheTurnedTab.x, 2);
+  EXPECT_NEAR(medalCentre().y, kIntoTheTurnedTab.y, 3);
+}
+
+TEST_F(InProgressCeremonyTest, AfterATurnTheMedalIsAsFarOnItsWayAsItWas) {
+  completeUntil(0.5);
+  const auto way = screen().bezierPathForFlyFromPoint(kTurnedPictureCentre, kIntoTheTurnedTab,
+                                                      kTurnedPictureCentre.y - 100);
+  turn();
+  const CGPoint there = *way->pointAt(CAMediaTimingFunction::easeIn().valueAt(0.5));
+  EXPECT_NEAR(medalCentre().x, there.x, 1);
+  EXPECT_NEAR(medalCentre().y, there.y, 1);
+}
+
+TEST_F(InProgressCeremonyTest, AfterATurnTheMedalStillShrinksAndArrivesInTime) {
+  completeUntil(0.5);
+  turn();
+  until(0.755);
+  EXPECT_EQ(medal()->presentation().frame.size, (CGSize{80, 80}));
+  until(0.99);
+  EXPECT_NE(medal(), nullptr);
+  EXPECT_TRUE(badges().badgeValue().isNull());
+  until(1.005);
+  EXPECT_EQ(medal(), nullptr);
+  EXPECT_EQ(badges().badgeValue(), QStringLiteral("1"));
+}
+
+TEST_F(InProgressCeremonyTest, ATurnBeforeTheStampDropsPutsItOverThePictureUnseen) {
+  completeUntil(1);
+  turn();
+  EXPECT_EQ(stamp()->frame(), kTurnedPicture);
+  EXPECT_EQ(stamp()->presentation().alpha, 0);
+  EXPECT_EQ(stamp()->presentation().scaling, 1.5);
+  until(1.455);
+  EXPECT_EQ(stamp()->presentation().frame, kTurnedPicture);
+  EXPECT_EQ(stamp()->presentation().alpha, 1);
+  EXPECT_EQ(stamp()->presentation().scaling, 1);
+}
+
+TEST_F(InProgressCeremonyTest, ATurnWhileTheStampDropsLetsItDropOn) {
+  completeUntil(1.351);
+  turn();
+  EXPECT_EQ(stamp()->presentation().frame, kTurnedPicture);
+  EXPECT_LT(stamp()->presentation().alpha, 0.4);
+  until(1.455);
+  EXPECT_EQ(stamp()->presentation().frame, kTurnedPicture);
+}
+
+TEST_F(InProgressCeremonyTest, ATurnUnderTheQuestionTakesTheStampAlong) {
+  completeUntil(2.5);
+  turn();
+  EXPECT_EQ(stamp()->presentation().frame, kTurnedPicture);
+}
+
+TEST_F(InProgressCeremonyTest, ATurnAfterTheScreenWasLeftIsNoHarm) {
+  const auto kept = screen().shared_from_this();
+  const auto picture = screen().imageView.lock();
+  completeUntil(0.5);
+  navigation().popToRootViewController(false);
+  picture->reportFrame(kTurnedPicture);
+  until(3);
+  EXPECT_FALSE(isOnTop());
+}
+
 // --- The alert ---
 
 TEST_F(InProgressCeremonyTest, AsksAfter195Seconds) {

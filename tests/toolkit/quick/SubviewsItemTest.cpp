@@ -53,6 +53,14 @@ const QColor kBluePixel(0, 0, 255);
 
 TEST_F(SubviewsItemTest, DrawsNothingOfItsOwn) { EXPECT_EQ(pixel(50, 50), QColor(Qt::white)); }
 
+TEST_F(SubviewsItemTest, AViewMadeInCodeGoesWhereItsPlaceIsReported) {
+  const auto view = add({{20, 30}, {40, 10}});
+  view->reportFrame({{60, 70}, {20, 20}});
+  const QImage image = drawn();
+  EXPECT_EQ(image.pixelColor(70, 80), kRedPixel);
+  EXPECT_EQ(image.pixelColor(25, 35), QColor(Qt::white));
+}
+
 TEST_F(SubviewsItemTest, DrawsAViewMadeInCodeWhereItsRecordSays) {
   add({{20, 30}, {40, 10}});
   const QImage image = drawn();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/quick/ViewItem.h"
 
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QSignalSpy>
 
 #include "platform/fakes/ManualQueue.h"
@@ -239,6 +241,34 @@ TEST_F(ViewItemTest, ReportsEveryChangeOfItsPlace) {
   EXPECT_EQ(view->frame(), (CGRect{{15, 20}, {30, 40}}));
   item->setSize({50, 60});
   EXPECT_EQ(view->frame(), (CGRect{{15, 20}, {50, 60}}));
+}
+
+// As when a window grows: the anchors move the item once more inside the change of its size.
+TEST_F(ViewItemTest, ReportsThePlaceWhereItsAnchorsLeaveIt) {
+  const auto view = owner.make<UIView>("box");
+  QQmlEngine engine;
+  QQmlComponent component(&engine);
+  component.setData(R"(
+import QtQuick
+Item {
+    width: 100; height: 100
+    id: outer
+    property Item inner: null
+    onInnerChanged: inner.anchors.horizontalCenter = outer.horizontalCenter
+})",
+                    {});
+  const std::unique_ptr<QQuickItem> outer(qobject_cast<QQuickItem*>(component.create()));
+  ASSERT_NE(outer, nullptr) << component.errorString().toStdString();
+  item->setParentItem(outer.get());
+  draw("box");
+  outer->setProperty("inner", QVariant::fromValue<QQuickItem*>(item.get()));
+  for (const double width : {304.0, 152.0}) {
+    outer->setWidth(width);
+    item->setWidth(width / 2);
+    EXPECT_EQ(item->x(), width / 4);
+    EXPECT_EQ(view->frame(), (CGRect{{item->x(), item->y()}, {item->width(), item->height()}}));
+  }
+  item->setParentItem(nullptr);
 }
 
 // --- Where it is ---

@@ -59,6 +59,15 @@ TEST_F(UIViewPlaceTest, AReportedFrameShowsAtOnceAndIsToldToNobody) {
   EXPECT_EQ(changes, 0);
 }
 
+TEST_F(UIViewPlaceTest, AReportedFrameThatIsNewIsALayout) {
+  int layouts = 0;
+  const auto subscription = view->observeLayout([&layouts] { ++layouts; });
+  view->reportFrame({{1, 2}, {3, 4}});
+  EXPECT_EQ(layouts, 1);
+  view->reportFrame({{1, 2}, {3, 4}});
+  EXPECT_EQ(layouts, 1);
+}
+
 TEST_F(UIViewPlaceTest, AReportedFrameStandsWhileSomethingElseIsAnimated) {
   const UIViewAnimationBlock block([&] { view->setAlpha(0); });
   view->reportFrame({{1, 2}, {3, 4}});
