@@ -15,81 +15,89 @@ Rectangle {
 
     color: Theme.ground
 
-    PictureCard {
-        id: picture
-        owner: root.controller
-        width: root.side
-        height: root.side
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: 32
+    ScrollArea {
+        anchors.fill: parent
+        focus: true
+        contentHeight: Math.max(height, info.y + info.height + 24 + kindora.height + 24)
 
-        ShadowItem {
-            z: -1
-            anchors.fill: parent
-            anchors.topMargin: 3
-            anchors.bottomMargin: -3
-            radius: Theme.cardRadius
-            blur: 8
-            opacity: 0.5
+        PictureCard {
+            id: picture
+            owner: root.controller
+            width: root.side
+            height: root.side
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 32
+
+            ShadowItem {
+                z: -1
+                anchors.fill: parent
+                anchors.topMargin: 3
+                anchors.bottomMargin: -3
+                radius: Theme.cardRadius
+                blur: 8
+                opacity: 0.5
+            }
         }
-    }
 
-    ViewItem {
-        id: stamp
-        owner: root.controller
-        outlet: "stampImageView"
-        anchors.fill: picture
+        ViewItem {
+            id: stamp
+            owner: root.controller
+            outlet: "stampImageView"
+            anchors.fill: picture
 
-        PictureItem {
-            anchors.fill: parent
-            image: stamp.image
-            fits: stamp.imageFits
+            PictureItem {
+                anchors.fill: parent
+                image: stamp.image
+                fits: stamp.imageFits
+            }
         }
-    }
 
-    FadingLabel {
-        id: name
-        objectName: "challengeNameLabel"
-        owner: root.controller
-        outlet: objectName
-        anchors.top: picture.bottom
-        anchors.topMargin: 20
-        x: 24
-        width: root.width - 48
-        points: 24
-    }
+        FadingLabel {
+            id: name
+            objectName: "challengeNameLabel"
+            owner: root.controller
+            outlet: objectName
+            anchors.top: picture.bottom
+            anchors.topMargin: 20
+            x: 24
+            width: root.width - 48
+            points: 24
+        }
 
-    FadingLabel {
-        id: description
-        objectName: "challengeDescriptionLabel"
-        owner: root.controller
-        outlet: objectName
-        anchors.top: name.bottom
-        anchors.topMargin: 8
-        x: 24
-        width: root.width - 48
-        color: Theme.softInk
-    }
+        FadingLabel {
+            id: description
+            objectName: "challengeDescriptionLabel"
+            owner: root.controller
+            outlet: objectName
+            anchors.top: name.bottom
+            anchors.topMargin: 8
+            x: 24
+            width: root.width - 48
+            color: Theme.softInk
+        }
 
-    FadingLabel {
-        objectName: "infoLabel"
-        owner: root.controller
-        outlet: objectName
-        anchors.top: description.bottom
-        anchors.topMargin: 24
-        x: 24
-        width: root.width - 48
-        points: 17
-        color: Appearance.tintedText
-    }
+        FadingLabel {
+            id: info
+            objectName: "infoLabel"
+            owner: root.controller
+            outlet: objectName
+            anchors.top: description.bottom
+            anchors.topMargin: 24
+            x: 24
+            width: root.width - 48
+            points: 17
+            color: Appearance.tintedText
+        }
 
-    PillButton {
-        objectName: "kindoraButton"
-        anchors.horizontalCenter: parent.horizontalCenter
-        anchors.bottom: parent.bottom
-        anchors.bottomMargin: 24
-        width: 272
-        text: "Kindora!"
-        onClicked: root.controller.kindoraTapped()
+        PillButton {
+            id: kindora
+            objectName: "kindoraButton"
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: 24
+            width: 272
+            text: "Kindora!"
+            onClicked: root.controller.kindoraTapped()
+        }
     }
 }

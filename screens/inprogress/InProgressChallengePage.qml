@@ -15,84 +15,101 @@ Rectangle {
 
     color: Theme.ground
 
-    SenderLine {
-        id: sender
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: 16
-        maximumWidth: root.width - 32
-        controller: root.controller
-    }
+    ScrollArea {
+        id: area
+        anchors.fill: parent
+        focus: true
+        interactive: overflows && !complete.finished
+        contentHeight: Math.max(height, description.y + description.height + 24 + complete.height
+                                        + 24)
 
-    PictureCard {
-        id: picture
-        owner: root.controller
-        width: root.side
-        height: root.side
-        anchors.horizontalCenter: parent.horizontalCenter
-        anchors.top: sender.bottom
-        anchors.topMargin: 32
+        SenderLine {
+            id: sender
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 16
+            maximumWidth: root.width - 32
+            controller: root.controller
+        }
 
-        ShadowItem {
-            z: -1
-            anchors.fill: parent
-            anchors.topMargin: 3
-            anchors.bottomMargin: -3
-            radius: Theme.cardRadius
-            blur: 8
-            opacity: 0.5
+        PictureCard {
+            id: picture
+            owner: root.controller
+            width: root.side
+            height: root.side
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.top: sender.bottom
+            anchors.topMargin: 32
+
+            ShadowItem {
+                z: -1
+                anchors.fill: parent
+                anchors.topMargin: 3
+                anchors.bottomMargin: -3
+                radius: Theme.cardRadius
+                blur: 8
+                opacity: 0.5
+            }
+        }
+
+        FadingLabel {
+            id: name
+            objectName: "challengeNameLabel"
+            owner: root.controller
+            outlet: objectName
+            anchors.top: picture.bottom
+            anchors.topMargin: 16
+            x: 24
+            width: root.width - 48
+            points: 24
+        }
+
+        FadingLabel {
+            id: description
+            objectName: "challengeDescriptionLabel"
+            owner: root.controller
+            outlet: objectName
+            anchors.top: name.bottom
+            anchors.topMargin: 8
+            x: 24
+            width: root.width - 48
+            color: Theme.softInk
+        }
+
+        ViewItem {
+            id: complete
+
+            readonly property bool finished: complete.text === ""
+
+            owner: root.controller
+            outlet: "completeButton"
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: 24
+            width: Math.max(root.side, 272)
+            height: 50
+            // The ceremony is seen from the picture on.
+            onFinishedChanged: if (complete.finished) area.scrollTo(0)
+
+            PillButton {
+                objectName: "completeButton"
+                anchors.fill: parent
+                // The finished mark is drawn in the tint, which does not show on itself.
+                filled: !complete.finished
+                text: complete.text
+                picture: complete.image
+                pictureTint: complete.imageTint
+                Accessible.name: complete.finished ? qsTr("Completed") : complete.text
+                onClicked: root.controller.completePressed()
+            }
         }
     }
 
-    FadingLabel {
-        id: name
-        objectName: "challengeNameLabel"
-        owner: root.controller
-        outlet: objectName
-        anchors.top: picture.bottom
-        anchors.topMargin: 16
-        x: 24
-        width: root.width - 48
-        points: 24
-    }
-
-    FadingLabel {
-        objectName: "challengeDescriptionLabel"
-        owner: root.controller
-        outlet: objectName
-        anchors.top: name.bottom
-        anchors.topMargin: 8
-        x: 24
-        width: root.width - 48
-        color: Theme.softInk
-    }
-
-    ViewItem {
-        id: complete
-        owner: root.controller
-        outlet: "completeButton"
-        anchors.horizontalCenter: parent.horizontalCenter
-        anchors.bottom: parent.bottom
-        anchors.bottomMargin: 24
-        width: Math.max(root.side, 272)
-        height: 50
-
-        PillButton {
-            objectName: "completeButton"
-            anchors.fill: parent
-            // The finished mark is drawn in the tint, which does not show on itself.
-            filled: complete.text !== ""
-            text: complete.text
-            picture: complete.image
-            pictureTint: complete.imageTint
-            Accessible.name: complete.text !== "" ? complete.text : qsTr("Completed")
-            onClicked: root.controller.completePressed()
-        }
-    }
-
-    // The medal and the stamp.
+    // The medal and the stamp: they lie on the content, but are not cut off with it.
     SubviewsItem {
         owner: root.controller
         outlet: "view"
-        anchors.fill: parent
+        y: -area.contentY
+        width: area.width
+        height: area.contentHeight
     }
 }

@@ -21,139 +21,150 @@ Rectangle {
     readonly property real closedY: blockTop
                                     + Math.max(0, (height - blockTop - blockHeight - 24) * 0.4)
 
+    readonly property real lowest: page.layoutProgress > 0 ? closedY + blockHeight
+                                                           : scratch.y + scratch.height
+
     color: Theme.ground
 
-    SenderLine {
-        id: sender
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: 16
-        maximumWidth: root.width - 32
-        controller: root.controller
-    }
-
-    ViewItem {
-        id: page
-        owner: root.controller
-        outlet: "view"
+    ScrollArea {
+        id: area
         anchors.fill: parent
+        focus: true
+        contentHeight: Math.max(height, root.lowest + 24)
 
-        // The cover's shadow, under the picture that the cover lies on.
-        ShadowItem {
-            x: picture.x + cover.shadowOffset.x
-            y: picture.y + cover.shadowOffset.y
-            width: picture.width
-            height: picture.height
-            radius: Theme.cardRadius
-            blur: 8
-            opacity: cover.shadowOpacity
-        }
-
-        PictureCard {
-            id: picture
-            owner: root.controller
-            width: root.side
-            height: root.side
+        SenderLine {
+            id: sender
             anchors.horizontalCenter: parent.horizontalCenter
-            y: root.centredY + (root.closedY - root.centredY) * Math.min(1, page.layoutProgress)
+            y: 16
+            maximumWidth: root.width - 32
+            controller: root.controller
         }
 
-        ScratchImageViewItem {
-            id: cover
-            objectName: "scratchImageView"
+        ViewItem {
+            id: page
             owner: root.controller
-            outlet: objectName
-            anchors.fill: picture
-            radius: Theme.cardRadius
-            Accessible.ignored: true
-        }
+            outlet: "view"
+            width: area.width
+            height: area.contentHeight
 
-        // For those who cannot scratch.
-        ButtonBase {
-            id: scratch
-            objectName: "scratchButton"
-            anchors.top: picture.bottom
-            anchors.topMargin: 12
-            anchors.horizontalCenter: parent.horizontalCenter
-            implicitWidth: hint.implicitWidth + 32
-            implicitHeight: 48
-            visible: cover.shown
-            opacity: cover.opacity
-            text: "Scratch the cover away"
-            ring.anchors.margins: 2
-            ring.radius: 12
-            onClicked: cover.scratchAway()
+            // The cover's shadow, under the picture that the cover lies on.
+            ShadowItem {
+                x: picture.x + cover.shadowOffset.x
+                y: picture.y + cover.shadowOffset.y
+                width: picture.width
+                height: picture.height
+                radius: Theme.cardRadius
+                blur: 8
+                opacity: cover.shadowOpacity
+            }
 
-            contentItem: PlainText {
-                id: hint
-                text: scratch.text
-                points: 16
-                color: Theme.softInk
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
+            PictureCard {
+                id: picture
+                owner: root.controller
+                width: root.side
+                height: root.side
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: root.centredY + (root.closedY - root.centredY) * Math.min(1, page.layoutProgress)
+            }
+
+            ScratchImageViewItem {
+                id: cover
+                objectName: "scratchImageView"
+                owner: root.controller
+                outlet: objectName
+                anchors.fill: picture
+                radius: Theme.cardRadius
                 Accessible.ignored: true
             }
-        }
 
-        FadingLabel {
-            id: name
-            objectName: "challengeNameLabel"
-            owner: root.controller
-            outlet: objectName
-            anchors.top: picture.bottom
-            anchors.topMargin: 16
-            x: 24
-            width: root.width - 48
-            points: 24
-        }
+            // For those who cannot scratch.
+            ButtonBase {
+                id: scratch
+                objectName: "scratchButton"
+                anchors.top: picture.bottom
+                anchors.topMargin: 12
+                anchors.horizontalCenter: parent.horizontalCenter
+                implicitWidth: hint.implicitWidth + 32
+                implicitHeight: 48
+                visible: cover.shown
+                opacity: cover.opacity
+                text: qsTr("Scratch the cover away")
+                ring.anchors.margins: 2
+                ring.radius: 12
+                onClicked: cover.scratchAway()
 
-        FadingLabel {
-            id: description
-            objectName: "challengeDescriptionLabel"
-            owner: root.controller
-            outlet: objectName
-            anchors.top: name.bottom
-            anchors.topMargin: 8
-            x: 24
-            width: root.width - 48
-            color: Theme.softInk
-        }
-
-        ViewItem {
-            id: accept
-            owner: root.controller
-            outlet: "acceptButton"
-            anchors.top: description.bottom
-            anchors.topMargin: 16
-            anchors.right: parent.horizontalCenter
-            anchors.rightMargin: 8
-            width: root.buttonWidth
-            height: 50
-
-            PillButton {
-                objectName: "acceptButton"
-                anchors.fill: parent
-                text: accept.text
-                onClicked: root.controller.accepted()
+                contentItem: PlainText {
+                    id: hint
+                    text: scratch.text
+                    points: 16
+                    color: Theme.softInk
+                    horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
+                    Accessible.ignored: true
+                }
             }
-        }
 
-        ViewItem {
-            id: reject
-            owner: root.controller
-            outlet: "rejectButton"
-            anchors.top: accept.top
-            anchors.left: parent.horizontalCenter
-            anchors.leftMargin: 8
-            width: root.buttonWidth
-            height: 50
+            FadingLabel {
+                id: name
+                objectName: "challengeNameLabel"
+                owner: root.controller
+                outlet: objectName
+                anchors.top: picture.bottom
+                anchors.topMargin: 16
+                x: 24
+                width: root.width - 48
+                points: 24
+            }
 
-            PillButton {
-                objectName: "rejectButton"
-                anchors.fill: parent
-                filled: false
-                textColor: Theme.danger
-                text: reject.text
-                onClicked: root.controller.rejected()
+            FadingLabel {
+                id: description
+                objectName: "challengeDescriptionLabel"
+                owner: root.controller
+                outlet: objectName
+                anchors.top: name.bottom
+                anchors.topMargin: 8
+                x: 24
+                width: root.width - 48
+                color: Theme.softInk
+            }
+
+            ViewItem {
+                id: accept
+                owner: root.controller
+                outlet: "acceptButton"
+                anchors.top: description.bottom
+                anchors.topMargin: 16
+                anchors.right: parent.horizontalCenter
+                anchors.rightMargin: 8
+                width: root.buttonWidth
+                height: 50
+
+                PillButton {
+                    objectName: "acceptButton"
+                    anchors.fill: parent
+                    text: accept.text
+                    onClicked: root.controller.accepted()
+                }
+            }
+
+            ViewItem {
+                id: reject
+                owner: root.controller
+                outlet: "rejectButton"
+                anchors.top: accept.top
+                anchors.left: parent.horizontalCenter
+                anchors.leftMargin: 8
+                width: root.buttonWidth
+                height: 50
+
+                PillButton {
+                    objectName: "rejectButton"
+                    anchors.fill: parent
+                    filled: false
+                    textColor: Theme.danger
+                    text: reject.text
+                    onClicked: root.controller.rejected()
+                }
             }
         }
     }

@@ -3,7 +3,8 @@
 import QtQuick
 import Kindora.Toolkit.Hosts
 
-// A centred text of a challenge; out of the accessibility tree while it is not shown.
+// A centred text of a challenge, as long as it is; out of the accessibility tree while it is not
+// shown.
 ViewItem {
     id: root
 
@@ -20,7 +21,6 @@ ViewItem {
         font: root.bold ? Appearance.boldFont(root.points) : Appearance.font(root.points)
         color: root.color
         wrapMode: Text.Wrap
-        maximumLineCount: 3
         horizontalAlignment: Text.AlignHCenter
         Accessible.ignored: !root.shown
     }

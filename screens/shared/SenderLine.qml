@@ -10,7 +10,7 @@ Row {
     required property UIViewController controller
     required property real maximumWidth
 
-    height: 40
+    height: sender.height
     spacing: 12
 
     ViewItem {
@@ -20,6 +20,7 @@ Row {
         outlet: objectName
         width: 40
         height: 40
+        anchors.verticalCenter: parent.verticalCenter
 
         ShadowItem {
             anchors.fill: parent
@@ -44,17 +45,15 @@ Row {
         owner: root.controller
         outlet: objectName
         width: Math.min(senderText.implicitWidth, root.maximumWidth - 52)
-        height: 40
+        height: Math.max(40, senderText.implicitHeight)
 
         PlainText {
             id: senderText
             width: parent.width
-            height: parent.height
-            verticalAlignment: Text.AlignVCenter
+            anchors.verticalCenter: parent.verticalCenter
             text: sender.text
             points: 17
             wrapMode: Text.Wrap
-            maximumLineCount: 2
         }
     }
 }

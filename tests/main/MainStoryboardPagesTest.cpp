@@ -3,11 +3,6 @@
 // Every scene's page, drawn with its controller.
 #include <gmock/gmock.h>
 
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
-#include <QTest>
 #include <set>
 #include <string>
 
@@ -15,52 +10,22 @@
 #include "screens/inprogress/InProgressChallengeDetailViewController.h"
 #include "screens/newchallenge/NewChallengeDetailViewController.h"
 #include "screens/picker/KindoraTableViewController.h"
-#include "tests/support/PhoneFormatsOf.h"
-#include "tests/support/QtWarnings.h"
-#include "tests/support/app/AppFixture.h"
-#include "toolkit/quick/QtViewServices.h"
+#include "tests/main/PageFixture.h"
 
 namespace kindora {
 namespace {
 
 using ::testing::ElementsAreArray;
 using Names = std::set<std::string>;
-using Prepare = void (*)(UIViewController&, const ChallengeRef&);
-
-// What the screen before this one hands over.
-template <typename Controller>
-void withChallenge(UIViewController& controller, const ChallengeRef& challenge) {
-  dynamic_cast<Controller&>(controller).challenge = challenge;
-}
-void asItIs(UIViewController& /*controller*/, const ChallengeRef& /*challenge*/) {}
 
 struct Scene {
   const char* name;
   Prepare prepare;
 };
 
-class MainStoryboardPagesTest : public AppFixture, public ::testing::WithParamInterface<Scene> {
+class MainStoryboardPagesTest : public PageFixture, public ::testing::WithParamInterface<Scene> {
  protected:
-  MainStoryboardPagesTest() {
-    installViewServices(makeQtViewServices());
-    installPhoneFormatEnvironment(std::make_shared<PhoneFormatsOf>("US"));
-    controller = mainStoryboard().instantiateViewController(GetParam().name);
-    GetParam().prepare(*controller, store().inProgressChallenges[0]);
-    navigation().pushViewController(controller, false);
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    window.resize(390, 750);
-    window.show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
-    QQmlComponent component(&engine);
-    component.setData("import Kindora.Toolkit.Hosts\nPageLoader {}", {});
-    loader.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
-        {{QStringLiteral("controller"), QVariant::fromValue(controller.get())},
-         {QStringLiteral("parent"), QVariant::fromValue(window.contentItem())},
-         {QStringLiteral("width"), 390},
-         {QStringLiteral("height"), 750}})));
-    EXPECT_NE(loader, nullptr) << component.errorString().toStdString();
-    time.advance(0.5);
-  }
+  MainStoryboardPagesTest() { draw(GetParam().name, GetParam().prepare, {390, 750}); }
 
   // The outlets of the controller that the items show.
   void collectDrawn(const QQuickItem& item, Names& outlets) const {
@@ -75,12 +40,6 @@ class MainStoryboardPagesTest : public AppFixture, public ::testing::WithParamIn
       collectNamed(*subview, names);
     }
   }
-
-  const QtWarnings warnings;
-  std::shared_ptr<UIViewController> controller;
-  QQmlEngine engine;
-  QQuickWindow window;
-  std::unique_ptr<QQuickItem> loader;
 };
 
 TEST_P(MainStoryboardPagesTest, IsLoadedWithItsControllerAndFillsItsPlace) {

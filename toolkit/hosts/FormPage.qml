@@ -10,33 +10,14 @@ Rectangle {
 
     color: Theme.ground
 
-    function showFocus() {
-        const item = root.Window.activeFocusItem;
-        for (let up = item; up; up = up.parent) {
-            if (up === column) {
-                const top = item.mapToItem(column, 0, 0).y;
-                const lowest = Math.max(0, flick.contentHeight - flick.height);
-                const above = Math.max(0, top - 52);
-                const below = top + item.height + 16 - flick.height;
-                flick.contentY = Math.min(lowest, above, Math.max(flick.contentY, below));
-                return;
-            }
-        }
-    }
-
-    Window.onActiveFocusItemChanged: root.showFocus()
-
-    Flickable {
-        id: flick
+    ScrollArea {
         anchors.fill: parent
-        onHeightChanged: root.showFocus()
+        marginAbove: 52  // with the section's header
         contentHeight: column.height
-        boundsBehavior: contentHeight > height ? Flickable.DragAndOvershootBounds
-                                               : Flickable.StopAtBounds
 
         Column {
             id: column
-            width: flick.width
+            width: parent.width
             bottomPadding: 16
         }
     }
