@@ -14,7 +14,9 @@
 namespace kindora {
 namespace {
 
-constexpr double kDuration = 0.35;  // seconds, of a whole push or pop
+constexpr double kDuration = 0.35;      // seconds, of a whole push or pop
+constexpr double kGlideSeconds = 0.25;  // how long a page that is let go would glide at its speed
+constexpr double kStays = 0.6;          // of the page; with less of it still in, it goes
 
 }  // namespace
 
@@ -153,9 +155,11 @@ double UINavigationController::barProgress() const {
   return transition_ && transition_->pops ? 1 - topProgress_ : topProgress_;
 }
 
-bool UINavigationController::canGoBack() const {
-  return stack_.size() > 1 && !transition_ && !stack_.back()->navigationItem()->hidesBackButton();
+bool UINavigationController::showsBackButton() const {
+  return stack_.size() > 1 && !stack_.back()->navigationItem()->hidesBackButton();
 }
+
+bool UINavigationController::canGoBack() const { return showsBackButton() && !transition_; }
 
 bool UINavigationController::goBack() {
   if (stack_.size() == 1 && !transition_) return stack_.front()->goBack();
@@ -188,11 +192,16 @@ void UINavigationController::endBackGesture(bool goesBack) {
     transition_->pops = true;
     stack_.pop_back();
     emit stackChanged();
+    emit canGoBackChanged();
     run(topProgress_, 0);
   } else {
     cancelGesture();
     run(topProgress_, 1);
   }
+}
+
+void UINavigationController::releaseBackGesture(double speed) {
+  endBackGesture(topProgress_ - speed * kGlideSeconds < kStays);
 }
 
 void UINavigationController::viewWillDisappear(bool animated) {

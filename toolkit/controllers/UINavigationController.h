@@ -22,6 +22,7 @@ class UINavigationController : public kindora::UIViewController {
   Q_PROPERTY(QColor backgroundColor READ background NOTIFY backgroundColorChanged)
   Q_PROPERTY(kindora::UINavigationBar* navigationBar READ navigationBar CONSTANT)
   Q_PROPERTY(kindora::UIViewController* topViewController READ top NOTIFY stackChanged)
+  Q_PROPERTY(bool showsBackButton READ showsBackButton NOTIFY canGoBackChanged)
   Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY canGoBackChanged)
   Q_PROPERTY(bool transitioning READ isTransitioning NOTIFY transitionChanged)
   Q_PROPERTY(double topProgress READ topProgress NOTIFY topProgressChanged)
@@ -55,8 +56,9 @@ class UINavigationController : public kindora::UIViewController {
   [[nodiscard]] double barProgress() const;
   [[nodiscard]] bool isTransitioning() const { return transition_ != nullptr; }
 
-  /// True when the user may go back by one: there is where to, no change is under way, and the top
-  /// page's back button is not hidden.
+  /// True when the top page has a way back: there is where to, and it does not hide the button.
+  [[nodiscard]] bool showsBackButton() const;
+  /// True when the user may take it now: no change is under way.
   [[nodiscard]] bool canGoBack() const;
   Q_INVOKABLE bool goBack() override;
 
@@ -65,6 +67,9 @@ class UINavigationController : public kindora::UIViewController {
   Q_INVOKABLE bool beginBackGesture();
   Q_INVOKABLE void moveBackGesture(double topProgress);
   Q_INVOKABLE void endBackGesture(bool goesBack);
+  /// The same, let go while the page moves out at that speed, in its widths a second: it goes back
+  /// when the page, let glide, would come to rest far enough out.
+  Q_INVOKABLE void releaseBackGesture(double speed);
 
   void viewWillDisappear(bool animated) override;
 

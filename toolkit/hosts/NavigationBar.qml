@@ -54,7 +54,7 @@ Item {
             objectName: "backButton"
             anchors.left: parent.left
             anchors.bottom: parent.bottom
-            visible: root.controller.pages.count > 1 && !root.item.hidesBackButton
+            visible: root.controller.showsBackButton
             text: qsTr("Back")
             imageName: "back"
             onClicked: root.controller.goBack()

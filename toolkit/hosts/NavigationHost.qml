@@ -27,10 +27,12 @@ FocusScope {
         Repeater {
             model: root.controller.pages
 
-            delegate: PageLoader {
+            // Out of reach while another page lies above it.
+            delegate: CoverableItem {
                 id: page
 
                 required property int index
+                required property UIViewController controller
                 readonly property int depth: root.controller.pages.count - 1 - page.index
                 readonly property real progress: root.controller.topProgress
 
@@ -39,8 +41,17 @@ FocusScope {
                 // The page below moves at a third of the pace, which reads as depth.
                 x: page.depth === 0 ? (1 - page.progress) * width : -0.3 * page.progress * width
                 visible: page.depth === 0 || (page.depth === 1 && page.progress < 1)
-                enabled: page.depth === 0 && !root.controller.transitioning
+                covered: page.depth > 0
                 focus: page.depth === 0
+                Accessible.role: Accessible.Grouping
+
+                PageLoader {
+                    anchors.fill: parent
+                    controller: page.controller
+                    enabled: !root.controller.transitioning
+                    focus: true
+                    Accessible.role: Accessible.Pane
+                }
 
                 Rectangle {
                     anchors.fill: parent
@@ -72,19 +83,35 @@ FocusScope {
         DragHandler {
             id: edge
 
+            // In widths a second; a finger that rests loses it.
+            property real speed: 0
+
             target: null
             yAxis.enabled: false
             onActiveChanged: {
                 if (active) {
+                    speed = 0;
                     if (!root.controller.beginBackGesture())
                         enabled = false;
                 } else {
-                    root.controller.endBackGesture(root.controller.topProgress < 0.6);
+                    root.controller.releaseBackGesture(speed);
                     enabled = true;
                 }
             }
-            onTranslationChanged: if (active)
-                root.controller.moveBackGesture(1 - translation.x / root.width)
+            onTranslationChanged: if (active) {
+                root.controller.moveBackGesture(1 - translation.x / root.width);
+                resting.stop();
+                speed = centroid.velocity.x / root.width;
+                resting.start();
+            }
+        }
+
+        NumberAnimation {
+            id: resting
+            target: edge
+            property: "speed"
+            to: 0
+            duration: 100
         }
     }
 }

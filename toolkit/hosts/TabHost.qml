@@ -21,24 +21,33 @@ FocusScope {
         Repeater {
             model: root.controller.pages
 
-            delegate: Loader {
+            // A page is drawn from the first time that its tab is selected, and out of reach while
+            // another one is.
+            delegate: CoverableItem {
                 id: slot
 
                 required property int index
                 required property UIViewController controller
                 readonly property bool selected: slot.index === root.controller.selectedIndex
+                property bool visited: false
 
                 anchors.fill: parent
                 visible: slot.selected
+                covered: !slot.selected
                 focus: slot.selected
-                // A page is drawn from the first time that its tab is selected.
-                active: false
-                onSelectedChanged: if (slot.selected) slot.active = true
-                Component.onCompleted: if (slot.selected) slot.active = true
+                Accessible.role: Accessible.Grouping
+                onSelectedChanged: if (slot.selected) slot.visited = true
+                Component.onCompleted: if (slot.selected) slot.visited = true
 
-                sourceComponent: PageLoader {
-                    controller: slot.controller
+                Loader {
+                    anchors.fill: parent
+                    active: slot.visited
                     focus: true
+                    Accessible.role: Accessible.Pane
+                    sourceComponent: PageLoader {
+                        controller: slot.controller
+                        focus: true
+                    }
                 }
             }
         }

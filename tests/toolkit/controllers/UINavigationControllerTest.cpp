@@ -3,6 +3,7 @@
 #include "toolkit/controllers/UINavigationController.h"
 
 #include <functional>
+#include <string>
 #include <utility>
 
 #include "tests/toolkit/controllers/ToolkitFixture.h"
@@ -426,6 +427,50 @@ TEST_F(UINavigationControllerTest, ACancelledGestureTurnsTheCallbacksRound) {
   EXPECT_EQ(stack(), (Stack{a, b}));
   EXPECT_EQ(navigation->topProgress(), 1);
   EXPECT_TRUE(navigation->canGoBack());
+}
+
+struct Release {
+  const char* name;
+  double stillIn;
+  double speed;
+  bool goesBack;
+};
+
+class UINavigationControllerReleaseTest : public UINavigationControllerTest,
+                                          public ::testing::WithParamInterface<Release> {};
+
+TEST_P(UINavigationControllerReleaseTest, GoesWhereThePageWouldComeToRest) {
+  pushNow(b);
+  navigation->beginBackGesture();
+  navigation->moveBackGesture(GetParam().stillIn);
+  navigation->releaseBackGesture(GetParam().speed);
+  EXPECT_EQ(stack(), GetParam().goesBack ? Stack{a} : (Stack{a, b}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Releases, UINavigationControllerReleaseTest,
+                         ::testing::Values(Release{"FarOutAtRest", 0.59, 0, true},
+                                           Release{"NotFarOutAtRest", 0.6, 0, false},
+                                           Release{"HardlyOutAndFast", 0.95, 2, true},
+                                           Release{"HardlyOutAndSlow", 0.95, 1, false},
+                                           Release{"FarOutAndPushedBack", 0.3, -2, false},
+                                           Release{"FarOutAndHeldAgainst", 0.3, -0.5, true}),
+                         [](const auto& release) { return std::string(release.param.name); });
+
+TEST_F(UINavigationControllerTest, TheWayBackShowsAsSoonAsItIsThereAndGoesAsSoonAsItIsNot) {
+  EXPECT_FALSE(navigation->showsBackButton());
+  navigation->pushViewController(b, true);
+  EXPECT_TRUE(navigation->showsBackButton());
+  EXPECT_FALSE(navigation->canGoBack());
+  time.advance(0.5);
+  EXPECT_TRUE(navigation->canGoBack());
+  bool told = false;
+  QObject::connect(navigation.get(), &UINavigationController::canGoBackChanged,
+                   [&] { told = !navigation->showsBackButton(); });
+  navigation->beginBackGesture();
+  EXPECT_TRUE(navigation->showsBackButton());
+  navigation->moveBackGesture(0.2);
+  navigation->endBackGesture(true);
+  EXPECT_TRUE(told);
 }
 
 TEST_F(UINavigationControllerTest, AGestureThatWentNowhereEndsAtOnce) {

@@ -45,6 +45,22 @@ TEST_F(NavigationBarTest, TheBackButtonIsThereWhenThereIsAWayBack) {
   EXPECT_FALSE(shows(kBack));
 }
 
+TEST_F(NavigationBarTest, TheBackButtonGoesAtOnceWithThePageThatHadAWayBack) {
+  push(QStringLiteral("Two"));
+  navigation->popViewController(true);
+  EXPECT_FALSE(shows(kBack));
+  time.advance(0.2);
+  EXPECT_FALSE(shows(kBack));
+  time.advance(0.5);
+  EXPECT_FALSE(shows(kBack));
+}
+
+TEST_F(NavigationBarTest, TheBackButtonIsThereWhileAPageComesIn) {
+  navigation->pushViewController(screen(QStringLiteral("Two")), true);
+  time.advance(0.2);
+  EXPECT_TRUE(shows(kBack));
+}
+
 TEST_F(NavigationBarTest, TheBackButtonGoesBack) {
   push(QStringLiteral("Two"));
   click(QStringLiteral("Back"));

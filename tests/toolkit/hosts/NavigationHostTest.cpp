@@ -1,13 +1,34 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
+#include <string>
+#include <utility>
+
 #include "tests/toolkit/hosts/HostFixture.h"
 #include "toolkit/controllers/UINavigationController.h"
+#include "toolkit/view/UILabel.h"
 
 namespace kindora {
 namespace {
 
 const QString kOne = QStringLiteral("One");
 const QString kTwo = QStringLiteral("Two");
+
+// A screen made in code that shows a text.
+class Saying final : public UIViewController {
+ public:
+  explicit Saying(std::string text) : text_(std::move(text)) {}
+  UIViewRef loadView() override {
+    auto root = std::make_shared<UIView>();
+    auto label = std::make_shared<UILabel>();
+    label->setFrame({{10, 10}, {200, 40}});
+    label->setText(text_);
+    root->addSubview(label);
+    return root;
+  }
+
+ private:
+  std::string text_;
+};
 
 // A stack whose lowest page is called "One".
 class NavigationHostTest : public HostFixture {
@@ -17,9 +38,35 @@ class NavigationHostTest : public HostFixture {
     navigation->pushViewController(screen(kTwo), animated);
     time.settle();
   }
+  // A finger that comes to rest before it is lifted.
   void swipeFromTheEdge(int to) {
-    drag({3, 300}, {to, 300});
+    moveFromTheEdge(to);
+    time.advance(0.15);
+    lift(to);
+  }
+  void flingFromTheEdge(int to) {
+    moveFromTheEdge(to);
+    lift(to);
+  }
+  void moveFromTheEdge(int to) {
+    QTest::mousePress(&window, Qt::LeftButton, {}, {3, 300});
+    for (int i = 1; i <= 10; ++i) QTest::mouseMove(&window, {3 + (to - 3) * i / 10, 300});
+  }
+  void lift(int at) {
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, {at, 300});
     time.advance(0.5);
+  }
+  // Whether assistive tools find it at all, be it in sight or not.
+  [[nodiscard]] bool isInTheTree(const QString& name) {
+    return isIn(QAccessible::queryAccessibleInterface(&window), name);
+  }
+  static bool isIn(QAccessibleInterface* from, const QString& name) {
+    if (from == nullptr) return false;
+    if (from->text(QAccessible::Name) == name) return true;
+    for (int i = 0; i < from->childCount(); ++i) {
+      if (isIn(from->child(i), name)) return true;
+    }
+    return false;
   }
   [[nodiscard]] std::size_t depth() const { return navigation->viewControllers().size(); }
 
@@ -87,6 +134,35 @@ TEST_F(NavigationHostTest, AShortSwipeComesToNothing) {
   swipeFromTheEdge(70);
   EXPECT_EQ(depth(), 2U);
   EXPECT_EQ(place(found(kTwo)).left(), 0);
+}
+
+TEST_F(NavigationHostTest, AShortFlingGoesBack) {
+  push(false);
+  flingFromTheEdge(70);
+  EXPECT_EQ(depth(), 1U);
+}
+
+TEST_F(NavigationHostTest, ALongSwipeThatIsFlungBackComesToNothing) {
+  push(false);
+  moveFromTheEdge(250);
+  for (int x = 240; x >= 200; x -= 10) QTest::mouseMove(&window, {x, 300});
+  lift(200);
+  EXPECT_EQ(depth(), 2U);
+}
+
+TEST_F(NavigationHostTest, OnlyTheTopPageIsReachedByAssistiveTools) {
+  const QString first = QStringLiteral("First text");
+  const QString second = QStringLiteral("Second text");
+  navigation->pushViewController(makeViewController<Saying>("First text"), false);
+  time.settle();
+  EXPECT_TRUE(isInTheTree(first));
+  navigation->pushViewController(makeViewController<Saying>("Second text"), false);
+  time.settle();
+  EXPECT_FALSE(isInTheTree(first));
+  EXPECT_TRUE(isInTheTree(second));
+  navigation->popViewController(false);
+  time.settle();
+  EXPECT_TRUE(isInTheTree(first));
 }
 
 TEST_F(NavigationHostTest, ASwipeThatBeginsElsewhereDoesNotGoBack) {
