@@ -11,6 +11,8 @@ Column {
     property alias message: label.text
     // What the button says; there is none without it.
     property string action
+    // Whether it waits a moment: what is soon over needs no words.
+    property bool late: false
 
     signal pressed
 
@@ -38,5 +40,13 @@ Column {
         visible: root.action !== ""
         text: root.action
         onClicked: root.pressed()
+    }
+
+    SequentialAnimation on opacity {
+        running: root.late && root.visible
+
+        PropertyAction { value: 0 }
+        PauseAnimation { duration: 400 }
+        NumberAnimation { to: 1; duration: Theme.fadeDuration }
     }
 }

@@ -9,7 +9,8 @@
 
 namespace kindora {
 
-/// A folder's folders and pictures, for a picture that is not among the user's pictures.
+/// A folder's folders and pictures, for a picture that is not among the user's pictures. The user's
+/// home also leads to all folders that there are.
 class PhotoFolderController : public kindora::PhotoPageController {
   Q_OBJECT
   QML_ELEMENT

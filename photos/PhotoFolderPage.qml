@@ -20,6 +20,15 @@ Rectangle {
         message: "There are no folders and no pictures here."
     }
 
+    CalmMessage {
+        anchors.centerIn: parent
+        width: parent.width - 64
+        visible: !root.controller.listed
+        imageName: "photos"
+        message: "Looking into the folder."
+        late: true
+    }
+
     ListView {
         id: list
         objectName: "folderList"

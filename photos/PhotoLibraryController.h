@@ -15,12 +15,15 @@ class PhotoLibraryController : public kindora::PhotoPageController {
   QML_UNCREATABLE("pages are made by the image picker")
   Q_PROPERTY(kindora::PhotoList* photos READ photos CONSTANT)
   Q_PROPERTY(bool showsGrid READ showsGrid NOTIFY stageChanged)
+  Q_PROPERTY(bool listing READ isListing NOTIFY stageChanged)
   Q_PROPERTY(bool choosesElsewhere READ choosesElsewhere NOTIFY stageChanged)
 
  public:
   [[nodiscard]] PhotoList* photos() { return &photos_; }
   /// The pictures were listed, though there may be none.
   [[nodiscard]] bool showsGrid() const { return stage_ == Stage::grid; }
+  /// They are looked for.
+  [[nodiscard]] bool isListing() const { return stage_ == Stage::listing; }
   /// The system's file chooser may be open.
   [[nodiscard]] bool choosesElsewhere() const { return stage_ == Stage::chooser; }
 

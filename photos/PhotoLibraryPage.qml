@@ -18,13 +18,16 @@ Rectangle {
         visible: root.controller.choosesElsewhere
         imageName: "photos"
         message: "Choose a picture in the window that opens."
+        late: true  // where there is no such window, that is known at once
+    }
 
-        // Where there is no such window, that is known at once.
-        SequentialAnimation on opacity {
-            PropertyAction { value: 0 }
-            PauseAnimation { duration: 400 }
-            NumberAnimation { to: 1; duration: Theme.fadeDuration }
-        }
+    CalmMessage {
+        anchors.centerIn: parent
+        width: parent.width - 64
+        visible: root.controller.listing
+        imageName: "photos"
+        message: "Looking for your pictures."
+        late: true
     }
 
     CalmMessage {

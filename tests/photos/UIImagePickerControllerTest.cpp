@@ -184,13 +184,46 @@ TEST_F(UIImagePickerControllerTest, OtherFoldersAreBrowsed) {
   advance(0.5);
   ASSERT_NE(top<PhotoFolderController>(), nullptr);
   EXPECT_EQ(top<PhotoFolderController>()->title(), QStringLiteral("Home"));
-  top<PhotoFolderController>()->choose(0);
+  top<PhotoFolderController>()->choose(1);
   advance(0.5);
   EXPECT_EQ(top<PhotoFolderController>()->title(), QStringLiteral("docs"));
   EXPECT_TRUE(top<PhotoFolderController>()->isListed());
   top<PhotoFolderController>()->choose(0);
   advance(0.5);
   EXPECT_NE(top<PhotoCropController>(), nullptr);
+}
+
+TEST_F(UIImagePickerControllerTest, TheFoldersAboveHomeAreReachedToo) {
+  fakes.photos->folders["/"] = {{.path = "/media", .name = "media", .isFolder = true}};
+  fakes.photos->folders["/media"] = {{.path = "/p/new.png", .name = "new.png"}};
+  present(Source::photoLibrary);
+  top<PhotoLibraryController>()->browse();
+  advance(0.5);
+  EXPECT_EQ(top<PhotoFolderController>()->files()->file(0).name, "All Folders");
+  for (const char* title : {"All Folders", "media"}) {
+    top<PhotoFolderController>()->choose(0);
+    advance(0.5);
+    EXPECT_EQ(top<PhotoFolderController>()->title(), QLatin1String(title));
+  }
+  top<PhotoFolderController>()->choose(0);
+  advance(0.5);
+  EXPECT_NE(top<PhotoCropController>(), nullptr);
+}
+
+TEST_F(UIImagePickerControllerTest, TellsWhilePicturesAreLookedFor) {
+  picker = makeViewController<UIImagePickerController>(Source::photoLibrary);
+  presenter->presentViewController(picker, false);
+  auto* const library = top<PhotoLibraryController>();
+  ASSERT_NE(library, nullptr);
+  int heard = 0;
+  QObject::connect(library, &PhotoLibraryController::stageChanged, [&] {
+    if (library->isListing()) ++heard;
+    EXPECT_FALSE(library->isListing() && library->showsGrid());
+  });
+  advance(0.5);
+  EXPECT_EQ(heard, 1);
+  EXPECT_FALSE(library->isListing());
+  EXPECT_TRUE(library->showsGrid());
 }
 
 // --- The system's file chooser ---
