@@ -57,6 +57,8 @@ void BadgeInfoViewController::fill() {
   connected(challengeNameLabel)->setText(challenge->title);
   connected(challengeDescriptionLabel)->setText(challenge->description);
   connected(infoLabel)->setText(badgeInfoText(*challenge));
+  // What the user made up was not completed.
+  connected(stampImageView)->setHidden(challenge->created);
 }
 
 void BadgeInfoViewController::kindoraTapped() { performSegueWithIdentifier(kKindora); }

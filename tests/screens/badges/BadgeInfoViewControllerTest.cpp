@@ -103,6 +103,14 @@ TEST_F(BadgeInfoViewControllerTest, BearsAStampThatShowsAsAWhole) {
   EXPECT_EQ(stamp->contentMode(), UIViewContentMode::scaleAspectFit);
 }
 
+TEST_F(BadgeInfoViewControllerTest, WhatWasCreatedIsNotStampedAsCompleted) {
+  open();
+  EXPECT_FALSE(screen->stampImageView.lock()->isHidden());
+  challenge->created = true;
+  open();
+  EXPECT_TRUE(screen->stampImageView.lock()->isHidden());
+}
+
 TEST_F(BadgeInfoViewControllerTest, IsFilledAgainEachTimeItAppears) {
   open();
   navigation().pushViewController(makeViewController<UIViewController>(), false);
