@@ -67,6 +67,9 @@ void NewChallengeDetailViewController::viewDidLoad() {
   connected(imageView)->setImage(challenge->challengeImage);
   connected(challengeNameLabel)->setText(challenge->title);
   connected(challengeDescriptionLabel)->setText(challenge->description);
+  for (const auto& label : {challengeNameLabel, challengeDescriptionLabel}) {
+    connected(label)->setAccessibility(UIAccessibilityRole::alert, connected(label)->text());
+  }
   const User* sender = challenge->sender.get();
   connected(senderImageView)->setImage(sender != nullptr ? sender->picture : nullptr);
   connected(senderLabel)

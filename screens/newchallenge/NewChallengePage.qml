@@ -91,6 +91,7 @@ Rectangle {
                 text: qsTr("Scratch the cover away")
                 ring.anchors.margins: 2
                 ring.radius: 12
+                Accessible.ignored: !cover.shown
                 onClicked: cover.scratchAway()
 
                 contentItem: PlainText {
@@ -143,6 +144,7 @@ Rectangle {
                     objectName: "acceptButton"
                     anchors.fill: parent
                     text: accept.text
+                    Accessible.ignored: !accept.shown
                     onClicked: root.controller.accepted()
                 }
             }
@@ -163,6 +165,7 @@ Rectangle {
                     filled: false
                     textColor: Theme.danger
                     text: reject.text
+                    Accessible.ignored: !reject.shown
                     onClicked: root.controller.rejected()
                 }
             }

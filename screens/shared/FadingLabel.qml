@@ -12,7 +12,24 @@ ViewItem {
     property bool bold: false
     property color color: Theme.ink
 
+    property real novelty: 0
+    readonly property bool speaks: root.announced && root.shown
+
     implicitHeight: label.implicitHeight
+    onSpeaksChanged: if (root.speaks) {
+        news.start();
+        Announcer.announce(label);
+    }
+
+    // An alert as it comes, and from then on a text like others.
+    NumberAnimation {
+        id: news
+        target: root
+        property: "novelty"
+        from: 1
+        to: 0
+        duration: 1000
+    }
 
     PlainText {
         id: label
@@ -22,6 +39,7 @@ ViewItem {
         color: root.color
         wrapMode: Text.Wrap
         horizontalAlignment: Text.AlignHCenter
+        Accessible.role: root.novelty > 0 ? Accessible.AlertMessage : Accessible.StaticText
         Accessible.ignored: !root.shown
     }
 }

@@ -7,7 +7,11 @@ import Kindora.Toolkit.Quick
 ViewItem {
     id: root
 
+    readonly property bool speaks: root.announced && root.shown
+
+    onSpeaksChanged: if (root.speaks) Announcer.announce(root)
     Accessible.role: root.announced ? Accessible.AlertMessage
                                     : root.heading ? Accessible.Heading : Accessible.StaticText
     Accessible.name: root.spoken
+    Accessible.ignored: !root.shown
 }

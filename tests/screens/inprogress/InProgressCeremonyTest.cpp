@@ -402,6 +402,12 @@ TEST_F(InProgressCeremonyTest, TheStampHasDroppedAfter145) {
   EXPECT_EQ(stamp()->presentation().scaling, 1);
 }
 
+TEST_F(InProgressCeremonyTest, TheStampIsReadAloudAsItShows) {
+  completeUntil(0.755);
+  EXPECT_EQ(stamp()->accessibilityRole(), UIAccessibilityRole::alert);
+  EXPECT_EQ(stamp()->accessibilityLabel(), "Completed");
+}
+
 TEST_F(InProgressCeremonyTest, WithoutAStampPictureTheCeremonyGoesOn) {
   fakes.bundle->setMissing("completed");
   completeUntil(2.5);
