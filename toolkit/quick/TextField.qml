@@ -13,30 +13,12 @@ TextInputItem {
     readonly property bool inputFocus: field.activeFocus
 
     implicitHeight: 56
-
-    // The keyboard goes where the view says that it is.
-    function follow() {
-        if (root.editing && !field.activeFocus) {
-            if (field.enabled)
-                field.forceActiveFocus();
-            else
-                field.focus = true;
-        } else if (!root.editing && field.focus) {
-            root.commit();
-            field.focus = false;
-        }
-    }
-
-    onViewChanged: root.follow()
-    Component.onCompleted: root.follow()
-    onInputReset: {
-        field.text = root.text;
-        field.select(root.selectionStart, root.selectionEnd);
-    }
+    inputItem: field
 
     T.TextField {
         id: field
         anchors.fill: parent
+        clip: true
         font: root.fieldFont
         color: root.textColor.valid ? root.textColor : Theme.ink
         selectionColor: Qt.alpha(Appearance.tint, 0.4)
@@ -51,25 +33,10 @@ TextInputItem {
         inputMethodHints: root.hints
         EnterKey.type: root.enterKey
         Accessible.name: root.label
-        Accessible.description: root.placeholder
+        Accessible.description: root.placeholder !== root.label ? root.placeholder : ""
 
-        function tell() {
-            root.edit(field.text, field.preeditText, field.cursorPosition);
-        }
-
-        onTextEdited: field.tell()
-        onPreeditTextChanged: field.tell()
-        onSelectionStartChanged: root.select(field.text, field.selectionStart, field.selectionEnd)
-        onSelectionEndChanged: root.select(field.text, field.selectionStart, field.selectionEnd)
-        onCursorPositionChanged: root.select(field.text, field.selectionStart, field.selectionEnd)
         onAccepted: root.pressReturn()
-        onActiveFocusChanged: {
-            if (field.activeFocus)
-                root.beginEditing();
-            else if (!field.focus)
-                root.endEditing();
-        }
-        onEnabledChanged: if (field.enabled) root.follow()
+        Accessible.onPressAction: root.beginEditing()
 
         PlainText {
             anchors.fill: parent

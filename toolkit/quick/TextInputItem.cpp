@@ -4,6 +4,7 @@
 
 #include <QGuiApplication>
 #include <QInputMethod>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <algorithm>
 
@@ -38,32 +39,47 @@ TextEdit editBetween(const QString& before, NSRange selection, const QString& af
   return {rangeOf(head, before.size() - tail), after.mid(head, after.size() - tail - head)};
 }
 
-UITextInput* TextInputItem::input() const { return dynamic_cast<UITextInput*>(view().get()); }
+void TextInputItem::setInputItem(QQuickItem* item) {
+  if (inputItem_ == item) return;
+  leaveInputItem();
+  inputItem_ = item;
+  if (item != nullptr) {
+    item->installEventFilter(this);
+    // Both kinds of input item have these, under a header that Qt keeps to itself.
+    connect(item, SIGNAL(textChanged()), SLOT(inputDidChange()));
+    connect(item, SIGNAL(preeditTextChanged()), SLOT(inputDidChange()));
+    connect(item, SIGNAL(selectionStartChanged()), SLOT(inputSelectionDidChange()));
+    connect(item, SIGNAL(selectionEndChanged()), SLOT(inputSelectionDidChange()));
+    connect(item, SIGNAL(cursorPositionChanged()), SLOT(inputSelectionDidChange()));
+    connect(item, &QQuickItem::activeFocusChanged, this, &TextInputItem::inputFocusDidChange);
+    connect(item, &QQuickItem::enabledChanged, this, &TextInputItem::moveKeyboard);
+  }
+  showText();
+  emit inputItemChanged();
+}
+
+void TextInputItem::leaveInputItem() {
+  if (inputItem_ == nullptr) return;
+  inputItem_->removeEventFilter(this);
+  inputItem_->disconnect(this);
+}
+
+UITextInput* TextInputItem::textInput() const { return dynamic_cast<UITextInput*>(view().get()); }
 
 QString TextInputItem::placeholder() const {
-  return input() != nullptr ? QString::fromStdString(input()->placeholder()) : QString();
+  return textInput() != nullptr ? QString::fromStdString(textInput()->placeholder()) : QString();
 }
 
-bool TextInputItem::isEditing() const { return input() != nullptr && input()->isResponding(); }
-
-int TextInputItem::selectionStart() const {
-  return input() != nullptr ? static_cast<int>(input()->selectedRange().location) : 0;
-}
-
-int TextInputItem::selectionEnd() const {
-  return input() != nullptr ? static_cast<int>(input()->selectedRange().end()) : 0;
-}
-
-const UITextField* TextInputItem::field() const {
+const UITextField* TextInputItem::textField() const {
   return dynamic_cast<const UITextField*>(view().get());
 }
 
 Qt::InputMethodHints TextInputItem::hints() const {
   Qt::InputMethodHints hints = Qt::ImhNone;
-  if (input() != nullptr && input()->keyboardType() == UIKeyboardType::phonePad) {
+  if (textInput() != nullptr && textInput()->keyboardType() == UIKeyboardType::phonePad) {
     hints |= Qt::ImhDialableCharactersOnly | Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText;
   }
-  if (field() != nullptr && field()->autocorrectionType() == UITextAutocorrectionType::no) {
+  if (textField() != nullptr && textField()->autocorrectionType() == UITextAutocorrectionType::no) {
     hints |= Qt::ImhNoPredictiveText;
   }
   if (isSecure()) {
@@ -73,20 +89,22 @@ Qt::InputMethodHints TextInputItem::hints() const {
   return hints;
 }
 
-bool TextInputItem::isSecure() const { return field() != nullptr && field()->isSecureTextEntry(); }
+bool TextInputItem::isSecure() const {
+  return textField() != nullptr && textField()->isSecureTextEntry();
+}
 
 QFont TextInputItem::fieldFont() const {
-  const bool own = field() != nullptr && (field()->font() || record().view);
-  return own ? resolvedFont(field()->shownFont()) : Appearance::font(17);
+  const bool own = textField() != nullptr && (textField()->font() || record().view);
+  return own ? resolvedFont(textField()->shownFont()) : Appearance::font(17);
 }
 
 UIEdgeInsets TextInputItem::textInsets() const {
-  return field() != nullptr ? field()->textInsets() : UIEdgeInsets{};
+  return textField() != nullptr ? textField()->textInsets() : UIEdgeInsets{};
 }
 
 Qt::EnterKeyType TextInputItem::enterKey() const {
-  if (field() == nullptr) return Qt::EnterKeyDefault;
-  switch (field()->returnKeyType()) {
+  if (textField() == nullptr) return Qt::EnterKeyDefault;
+  switch (textField()->returnKeyType()) {
     case UIReturnKeyType::standard:
       break;
     case UIReturnKeyType::next:
@@ -102,62 +120,152 @@ double TextInputItem::contentInset() const {
   return textView != nullptr ? textView->contentInset() : 0;
 }
 
-void TextInputItem::edit(const QString& text, const QString& preedit, int caret) {
-  UITextInput* const view = input();
+// --- What the user does ---
+
+void TextInputItem::inputDidChange() {
+  UITextInput* const view = textInput();
   if (view == nullptr || listening_) return;
   const QScopedValueRollback listening(listening_, true);
-  const QString before = shownText_;
-  shownText_ = text;
-  if (text != before) {
-    // Text that was undecided until now stands no more in the view when it answers.
-    const TextEdit change = editBetween(before, view->selectedRange(), text, caret);
-    // The view may go by its selection. Only a backspace leaves the caret where it is; whatever
-    // else changes some other place, such as a forward delete or an undo, selects that place first.
-    const NSRange selection = view->selectedRange();
-    const bool backspace = selection.length == 0 && change.replacement.isEmpty() &&
-                           change.range.length == 1 && change.range.end() == selection.location;
-    if (!backspace) view->setSelectedRange(change.range);
-    view->replaceRange(change.range, change.replacement.toStdString());
-    shownSelection_ = view->selectedRange();
+  const QString before = QString::fromStdString(view->decidedText());
+  const QString preedit = inputPreedit();
+  const int caret = inputCaret();
+  const QString now = inputText().insert(caret, preedit);
+  const NSRange selection = view->decidedSelection();
+  const TextEdit change =
+      editBetween(before, selection, now, caret + static_cast<int>(preedit.size()));
+  const std::string replacement = change.replacement.toStdString();
+  if (!preedit.isEmpty()) {
+    view->setMarkedText(change.range, replacement);
+    return;
   }
-  view->setMarkedText(preedit.toStdString());
-  if (preedit.isEmpty()) resetUnlessShown();
+  if (now == before) {
+    view->discardMarkedText();
+    return;
+  }
+  bool accepted = false;
+  const bool deletes = change.replacement.isEmpty() && selection.length == 0 &&
+                       caret == static_cast<int>(change.range.location);
+  if (deletes && change.range.length == 1 && change.range.end() == selection.location) {
+    // The view may go by its selection. Only a backspace leaves the caret where it is; whatever
+    // else changes some other place, such as a forward delete, selects that place first.
+    accepted = view->replaceRange(change.range, replacement);
+  } else if (deletes && change.range.location == selection.location) {
+    accepted = view->deleteForward(change.range);
+  } else {
+    view->setSelectedRange(change.range);
+    accepted = view->replaceRange(change.range, replacement);
+  }
+  if (accepted && text() == now) {
+    view->setSelectedRange(rangeOf(caret, caret));
+  } else {
+    showText();
+  }
 }
 
-void TextInputItem::select(const QString& text, int start, int end) {
-  UITextInput* const view = input();
-  if (view == nullptr || text != shownText_ || view->hasMarkedText() || listening_) return;
+void TextInputItem::inputSelectionDidChange() {
+  UITextInput* const view = textInput();
+  if (view == nullptr || listening_ || handlingKey_) return;
+  if (view->hasMarkedText() || inputText() != text()) return;
   const QScopedValueRollback listening(listening_, true);
-  shownSelection_ = rangeOf(start, end);
-  view->setSelectedRange(shownSelection_);
+  view->setSelectedRange(inputSelection());
+}
+
+void TextInputItem::inputFocusDidChange() {
+  if (inputItem_->hasActiveFocus()) {
+    beginEditing();
+  } else if (!inputItem_->hasFocus() && textInput() != nullptr) {
+    textInput()->resignFirstResponder();
+  }
 }
 
 void TextInputItem::beginEditing() {
-  if (input() != nullptr) input()->becomeFirstResponder();
+  if (textInput() != nullptr) textInput()->becomeFirstResponder();
 }
-
-void TextInputItem::endEditing() {
-  if (input() != nullptr) input()->resignFirstResponder();
-}
-
-void TextInputItem::commit() { QGuiApplication::inputMethod()->commit(); }
 
 void TextInputItem::pressReturn() {
   if (auto* field = dynamic_cast<UITextField*>(view().get())) field->pressReturn();
 }
 
-void TextInputItem::viewDidChange() {
-  ViewItem::viewDidChange();
-  if (!listening_ && input() != nullptr && !input()->hasMarkedText()) resetUnlessShown();
+bool TextInputItem::eventFilter(QObject* watched, QEvent* event) {
+  UITextInput* const view = textInput();
+  if (event->type() != QEvent::KeyPress || view == nullptr) {
+    return ViewItem::eventFilter(watched, event);
+  }
+  const auto& key = static_cast<const QKeyEvent&>(*event);
+  const bool undoes = key.matches(QKeySequence::Undo);
+  if (undoes || key.matches(QKeySequence::Redo)) {
+    if (isSecure()) return true;  // what was typed in secret stays out of sight
+    if (undoes) {
+      view->undo();
+    } else {
+      view->redo();
+    }
+    return true;
+  }
+  {
+    // The input item may select what it is about to delete, which the user did not.
+    const QScopedValueRollback handling(handlingKey_, true);
+    watched->event(event);
+  }
+  inputSelectionDidChange();
+  return true;
 }
 
-void TextInputItem::resetUnlessShown() {
-  const QString wanted = text();
-  if (wanted == shownText_ && input()->selectedRange() == shownSelection_) return;
-  shownText_ = wanted;
-  shownSelection_ = input()->selectedRange();
+// --- What the view says ---
+
+void TextInputItem::viewDidChange() {
+  ViewItem::viewDidChange();
+  if (!listening_) showText();
+  moveKeyboard();
+}
+
+void TextInputItem::moveKeyboard() {
+  const UITextInput* const view = textInput();
+  if (inputItem_ == nullptr || view == nullptr) return;
+  if (view->isResponding() && !inputItem_->hasActiveFocus()) {
+    if (inputItem_->isEnabled()) {
+      inputItem_->forceActiveFocus();
+    } else {
+      inputItem_->setFocus(true);
+    }
+  } else if (!view->isResponding() && inputItem_->hasFocus()) {
+    // An input method decides on what it has composed.
+    QGuiApplication::inputMethod()->commit();
+    inputItem_->setFocus(false);
+  }
+}
+
+void TextInputItem::showText() {
+  const UITextInput* const view = textInput();
+  if (inputItem_ == nullptr || view == nullptr || view->hasMarkedText()) return;
   const QScopedValueRollback listening(listening_, true);
-  emit inputReset();
+  if (!inputPreedit().isEmpty()) dropPreedit();
+  if (inputText() != text()) inputItem_->setProperty("text", text());
+  const NSRange wanted = view->selectedRange();
+  if (inputSelection() == wanted) return;
+  QMetaObject::invokeMethod(inputItem_, "select", Q_ARG(int, static_cast<int>(wanted.location)),
+                            Q_ARG(int, static_cast<int>(wanted.end())));
+}
+
+void TextInputItem::dropPreedit() {
+  if (inputItem_->hasActiveFocus()) QGuiApplication::inputMethod()->reset();
+  QInputMethodEvent nothing;
+  QCoreApplication::sendEvent(inputItem_, &nothing);
+}
+
+// --- The input item ---
+
+QString TextInputItem::inputText() const { return inputItem_->property("text").toString(); }
+
+QString TextInputItem::inputPreedit() const {
+  return inputItem_->property("preeditText").toString();
+}
+
+int TextInputItem::inputCaret() const { return inputItem_->property("cursorPosition").toInt(); }
+
+NSRange TextInputItem::inputSelection() const {
+  return rangeOf(inputItem_->property("selectionStart").toInt(),
+                 inputItem_->property("selectionEnd").toInt());
 }
 
 }  // namespace kindora

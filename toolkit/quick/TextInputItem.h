@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QPointer>
 #include <QString>
 
 #include "toolkit/quick/ViewItem.h"
@@ -11,15 +12,16 @@ namespace kindora {
 
 class UITextField;
 
-/// Draws a text field or text view with an input item inside it, to which the user types. What the
-/// user does there is told to the view; what the view makes of it comes back as inputReset.
+/// Draws a text field or text view with an input item inside it, a TextField or TextArea, to which
+/// the user types. Whatever changes there, by keys, an input method or an assistive tool, is told
+/// to the view as an edit, and what the view makes of it is shown there: so the text is the view's.
+/// While an input method composes, the view has what is composed as marked text, and only what
+/// came of it is an edit. Keys that undo are the view's, too.
 class TextInputItem : public kindora::ViewItem {
   Q_OBJECT
   QML_ELEMENT
+  Q_PROPERTY(QQuickItem* inputItem READ inputItem WRITE setInputItem NOTIFY inputItemChanged)
   Q_PROPERTY(QString placeholder READ placeholder NOTIFY viewChanged)
-  Q_PROPERTY(bool editing READ isEditing NOTIFY viewChanged)
-  Q_PROPERTY(int selectionStart READ selectionStart NOTIFY viewChanged)
-  Q_PROPERTY(int selectionEnd READ selectionEnd NOTIFY viewChanged)
   Q_PROPERTY(Qt::InputMethodHints hints READ hints NOTIFY viewChanged)
   Q_PROPERTY(Qt::EnterKeyType enterKey READ enterKey NOTIFY viewChanged)
   Q_PROPERTY(bool secure READ isSecure NOTIFY viewChanged)
@@ -32,12 +34,11 @@ class TextInputItem : public kindora::ViewItem {
 
  public:
   using ViewItem::ViewItem;
+  ~TextInputItem() override { leaveInputItem(); }
 
+  [[nodiscard]] QQuickItem* inputItem() const { return inputItem_; }
+  void setInputItem(QQuickItem* item);
   [[nodiscard]] QString placeholder() const;
-  /// True while the view has the keyboard.
-  [[nodiscard]] bool isEditing() const;
-  [[nodiscard]] int selectionStart() const;
-  [[nodiscard]] int selectionEnd() const;
   [[nodiscard]] Qt::InputMethodHints hints() const;
   [[nodiscard]] Qt::EnterKeyType enterKey() const;
   /// Dots are shown in place of what is typed.
@@ -50,34 +51,39 @@ class TextInputItem : public kindora::ViewItem {
   [[nodiscard]] double bottomInset() const { return textInsets().bottom; }
   [[nodiscard]] double contentInset() const;
 
-  /// The input item holds that text now, with undecided text of an input method at the caret.
-  Q_INVOKABLE void edit(const QString& text, const QString& preedit, int caret);
-  /// The input item's selection; ignored while its text is not the view's.
-  Q_INVOKABLE void select(const QString& text, int start, int end);
-  /// The input item has the keyboard.
+  /// The keyboard goes to the view.
   Q_INVOKABLE void beginEditing();
-  /// The input item has given the keyboard up.
-  Q_INVOKABLE void endEditing();
-  /// Makes an input method decide on what it has composed.
-  Q_INVOKABLE static void commit();
   Q_INVOKABLE void pressReturn();
 
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  signals:
-  /// The input item is to show the view's text and selection.
-  void inputReset();
+  void inputItemChanged();
 
  protected:
   void viewDidChange() override;
 
- private:
-  [[nodiscard]] UITextInput* input() const;
-  [[nodiscard]] const UITextField* field() const;
-  [[nodiscard]] UIEdgeInsets textInsets() const;
-  void resetUnlessShown();
+ private slots:
+  void inputDidChange();
+  void inputSelectionDidChange();
 
-  QString shownText_;  // what the input item holds, without undecided text
-  NSRange shownSelection_;
+ private:
+  [[nodiscard]] UITextInput* textInput() const;
+  [[nodiscard]] const UITextField* textField() const;
+  [[nodiscard]] UIEdgeInsets textInsets() const;
+  [[nodiscard]] QString inputText() const;
+  [[nodiscard]] QString inputPreedit() const;
+  [[nodiscard]] int inputCaret() const;
+  [[nodiscard]] NSRange inputSelection() const;
+  void leaveInputItem();
+  void inputFocusDidChange();
+  void moveKeyboard();
+  void showText();
+  void dropPreedit();
+
+  QPointer<QQuickItem> inputItem_;
   bool listening_ = false;  // one side is telling the other, which need not tell it back
+  bool handlingKey_ = false;
 };
 
 /// The part of a text that was replaced to make another of it, and by what.

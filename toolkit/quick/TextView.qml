@@ -13,26 +13,7 @@ TextInputItem {
     readonly property bool inputFocus: area.activeFocus
 
     implicitHeight: 120
-
-    // The keyboard goes where the view says that it is.
-    function follow() {
-        if (root.editing && !area.activeFocus) {
-            if (area.enabled)
-                area.forceActiveFocus();
-            else
-                area.focus = true;
-        } else if (!root.editing && area.focus) {
-            root.commit();
-            area.focus = false;
-        }
-    }
-
-    onViewChanged: root.follow()
-    Component.onCompleted: root.follow()
-    onInputReset: {
-        area.text = root.text;
-        area.select(root.selectionStart, root.selectionEnd);
-    }
+    inputItem: area
 
     Flickable {
         anchors.fill: parent
@@ -53,22 +34,7 @@ TextInputItem {
             Accessible.name: root.label
             Accessible.description: root.placeholder
 
-            function tell() {
-                root.edit(area.text, area.preeditText, area.cursorPosition);
-            }
-
-            onTextChanged: area.tell()
-            onPreeditTextChanged: area.tell()
-            onSelectionStartChanged: root.select(area.text, area.selectionStart, area.selectionEnd)
-            onSelectionEndChanged: root.select(area.text, area.selectionStart, area.selectionEnd)
-            onCursorPositionChanged: root.select(area.text, area.selectionStart, area.selectionEnd)
-            onActiveFocusChanged: {
-                if (area.activeFocus)
-                    root.beginEditing();
-                else if (!area.focus)
-                    root.endEditing();
-            }
-            onEnabledChanged: if (area.enabled) root.follow()
+            Accessible.onPressAction: root.beginEditing()
             // Tab goes on to the next control, as everywhere.
             KeyNavigation.priority: KeyNavigation.BeforeItem
             Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)

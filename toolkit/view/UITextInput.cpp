@@ -3,8 +3,22 @@
 #include "toolkit/view/UITextInput.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kindora {
+namespace {
+
+// The byte behind the character that begins at that byte.
+std::size_t endOfCharacter(std::string_view text, std::size_t at) {
+  static_cast<void>(nextCharacter(text, at));
+  return at;
+}
+
+bool isOneCharacter(std::string_view text) {
+  return !text.empty() && endOfCharacter(text, 0) == text.size();
+}
+
+}  // namespace
 
 NSRange UITextInput::clamped(NSRange range) const {
   const std::size_t length = utf16Length(text_);
@@ -13,16 +27,22 @@ NSRange UITextInput::clamped(NSRange range) const {
 }
 
 std::string UITextInput::text() const {
-  if (marked_.empty()) return text_;
-  return stringByReplacingCharactersInRange(text_, {selection_.location, 0}, marked_);
+  if (!marked_) return text_;
+  return stringByReplacingCharactersInRange(text_, marked_->range, marked_->text);
 }
 
 void UITextInput::setText(std::string_view text) {
-  if (text_ == text && marked_.empty()) return;
+  if (text_ == text && !marked_) return;
   text_ = text;
-  marked_.clear();
+  marked_.reset();
   selection_ = {utf16Length(text_), 0};
+  if (!editing_) history_.clear();
   changed();
+}
+
+NSRange UITextInput::selectedRange() const {
+  if (!marked_) return selection_;
+  return {marked_->range.location + utf16Length(marked_->text), 0};
 }
 
 void UITextInput::setSelectedRange(NSRange range) {
@@ -60,25 +80,75 @@ bool UITextInput::resignFirstResponder() {
   return true;
 }
 
-bool UITextInput::replaceRange(NSRange range, std::string_view replacement) {
-  marked_.clear();
-  const NSRange replaced = clamped(range);
-  if (!shouldChange(replaced, replacement)) {
-    changed();
-    return false;
+bool UITextInput::carryOut(NSRange range, std::string_view replacement) {
+  const bool composed = std::exchange(marked_, std::nullopt).has_value();
+  editing_ = true;
+  const bool accepted = shouldChange(range, replacement);
+  editing_ = false;
+  if (accepted) {
+    text_ = stringByReplacingCharactersInRange(text_, range, replacement);
+    selection_ = clamped({range.location + utf16Length(replacement), 0});
   }
-  text_ = stringByReplacingCharactersInRange(text_, replaced, replacement);
-  selection_ = clamped({replaced.location + utf16Length(replacement), 0});
-  didChange();
-  changed();
-  return true;
+  if (accepted || composed) didChange();
+  return accepted;
 }
 
-void UITextInput::setMarkedText(std::string_view marked) {
-  if (marked_ == marked) return;
-  if (marked_.empty()) selection_.length = 0;
-  marked_ = marked;
+bool UITextInput::replaceRange(NSRange range, std::string_view replacement) {
+  const NSRange replaced = clamped(range);
+  TextHistory::State before{text_, selection_};
+  const bool accepted = carryOut(replaced, replacement);
+  if (text_ != before.text) {
+    history_.add(std::move(before), selection_,
+                 replaced.length == 0 && isOneCharacter(replacement));
+  }
+  changed();
+  return accepted;
+}
+
+bool UITextInput::deleteForward(NSRange range) {
+  const std::string before = text_;
+  NSRange deleted = clamped(range);
+  for (;;) {
+    setSelectedRange(deleted);
+    if (replaceRange(deleted, {})) return true;
+    // Only who lays the text out moves the caret.
+    const bool laidOut = selection_ != deleted && text_ == before;
+    const std::size_t next = utf8Offset(text_, deleted.end());
+    if (!laidOut || next == text_.size()) return false;
+    const std::size_t length = endOfCharacter(text_, next) - next;
+    deleted.length += utf16Length(std::string_view(text_).substr(next, length));
+  }
+}
+
+void UITextInput::setMarkedText(NSRange range, std::string_view marked) {
+  Marked wanted{clamped(range), std::string(marked)};
+  if (marked_ == wanted) return;
+  marked_ = std::move(wanted);
   didChange();
+  changed();
+}
+
+void UITextInput::discardMarkedText() {
+  if (!marked_) return;
+  marked_.reset();
+  didChange();
+  changed();
+}
+
+void UITextInput::undo() { restore(history_.back({text_, selection_})); }
+void UITextInput::redo() { restore(history_.forth({text_, selection_})); }
+
+void UITextInput::restore(const std::optional<TextHistory::State>& wanted) {
+  if (!wanted) return;
+  const TextHistory::State now{text_, selection_};
+  // A delegate may go by what is selected.
+  selection_ = {0, utf16Length(text_)};
+  carryOut(selection_, wanted->text);
+  if (text_ == wanted->text) {
+    selection_ = wanted->selection;
+  } else if (text_ == now.text) {
+    selection_ = now.selection;
+  }
   changed();
 }
 

@@ -318,9 +318,9 @@ TEST_F(CreateChallengeTableViewControllerTest, BlanksAreATextToo) {
 TEST_F(CreateChallengeTableViewControllerTest, TextThatAnInputMethodComposesCounts) {
   write(*description(), "Wave at a stranger.");
   pick({.editedImage = photo()});
-  title()->setMarkedText("に");
+  title()->setMarkedText({0, 0}, "に");
   EXPECT_TRUE(createEnabled());
-  title()->setMarkedText("");
+  title()->discardMarkedText();
   EXPECT_FALSE(createEnabled());
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/quick/TextInputItem.h"
 
+#include <QAccessible>
 #include <QInputMethodEvent>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -258,6 +259,33 @@ TEST_F(TextInputItemTest, UndoAndRedoAreEdits) {
   EXPECT_EQ(field->text(), "ab");
 }
 
+TEST_F(TextInputItemTest, WhatIsTypedInSecretIsNotTakenBack) {
+  field->setSecureTextEntry(true);
+  focus();
+  type("ab");
+  press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(field->text(), "ab");
+}
+
+TEST_F(TextInputItemTest, AnAssistiveToolsTextIsAnEdit) {
+  field->setText("hello");
+  QAccessible::queryAccessibleInterface(input)->setText(QAccessible::Value, QStringLiteral("help"));
+  EXPECT_EQ(field->text(), "help");
+  EXPECT_EQ(delegate->asked, std::vector<std::string>{"hello[3,2]3,2,p"});
+  delegate->accepts = false;
+  QAccessible::queryAccessibleInterface(input)->setText(QAccessible::Value, QStringLiteral("x"));
+  EXPECT_EQ(field->text(), "help");
+  EXPECT_EQ(shown(), "help");
+}
+
+TEST_F(TextInputItemTest, AnAssistiveToolMayPressIt) {
+  auto* const actions = QAccessible::queryAccessibleInterface(input)->actionInterface();
+  ASSERT_NE(actions, nullptr);
+  actions->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(field->isFirstResponder());
+  EXPECT_TRUE(input->hasActiveFocus());
+}
+
 TEST_F(TextInputItemTest, PastingIsOneEdit) {
   field->setText("hello");
   focus();
@@ -286,6 +314,31 @@ TEST_F(TextInputItemTest, DecidedTextIsOneEdit) {
   EXPECT_EQ(field->text(), "に");
   EXPECT_EQ(shown(), "に");
   EXPECT_EQ(delegate->asked, std::vector<std::string>{"[0,0]0,0,に"});
+}
+
+TEST_F(TextInputItemTest, TextDecidedWhileMoreIsComposedIsOneEditWithIt) {
+  field->setText("ab");
+  focus();
+  field->setSelectedRange({1, 0});
+  compose(QStringLiteral("n"));
+  compose(QStringLiteral("k"), QStringLiteral("に"));
+  EXPECT_EQ(field->text(), "aにkb");
+  EXPECT_TRUE(delegate->asked.empty());
+  compose(QString(), QStringLiteral("か"));
+  EXPECT_EQ(field->text(), "aにかb");
+  EXPECT_EQ(shown(), "aにかb");
+  EXPECT_EQ(delegate->asked, std::vector<std::string>{"ab[1,0]1,0,にか"});
+}
+
+TEST_F(TextInputItemTest, TextComposedOverASelectionReplacesIt) {
+  field->setText("abc");
+  focus();
+  field->setSelectedRange({1, 1});
+  compose(QStringLiteral("n"));
+  EXPECT_EQ(field->text(), "anc");
+  compose(QString(), QStringLiteral("に"));
+  EXPECT_EQ(field->text(), "aにc");
+  EXPECT_EQ(delegate->asked, std::vector<std::string>{"abc[1,1]1,1,に"});
 }
 
 TEST_F(TextInputItemTest, UndecidedTextGivenUpIsGone) {
@@ -341,12 +394,38 @@ TEST_F(TextInputItemTest, ATextViewTakesManyLines) {
   EXPECT_EQ(view->selectedRange(), (NSRange{9, 0}));
   press(Qt::Key_Backspace);
   EXPECT_EQ(view->text(), "Hello\nyo");
+  press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(view->text(), "Hello\nyou");
   view->setText("Bye");
   type("!");
   EXPECT_EQ(view->text(), "Bye!");
   view->resignFirstResponder();
   EXPECT_EQ(window.activeFocusItem() == nullptr || !other->isAncestorOf(window.activeFocusItem()),
             true);
+}
+
+TEST_F(TextInputItemTest, ATextViewTakesTextFromInputMethodsAndAssistiveTools) {
+  const auto view = owner.make<UITextView>("message");
+  view->setText("ab");
+  other = make("TextView", "message");
+  ASSERT_NE(other, nullptr);
+  view->becomeFirstResponder();
+  input = window.activeFocusItem();
+  view->setSelectedRange({0, 1});
+  compose(QStringLiteral("n"));
+  EXPECT_EQ(view->text(), "nb");
+  compose(QStringLiteral("k"), QStringLiteral("に"));
+  EXPECT_EQ(view->text(), "にkb");
+  compose(QString());
+  EXPECT_EQ(view->text(), "にb");
+  EXPECT_EQ(shown(), "にb");
+  compose(QStringLiteral("n"));
+  view->setText("c");
+  EXPECT_EQ(shown(), "c");
+  EXPECT_EQ(input->property("preeditText").toString(), QString());
+  QAccessible::queryAccessibleInterface(input)->setText(QAccessible::Value, QStringLiteral("d\ne"));
+  EXPECT_EQ(view->text(), "d\ne");
+  other->setFocus(false);
 }
 
 }  // namespace
