@@ -5,11 +5,30 @@
 #include "toolkit/controllers/Colors.h"
 
 namespace kindora {
+namespace {
 
-void UISearchBar::setText(const QString& text) {
-  if (text_ == text) return;
-  text_ = text;
-  emit textChanged();
+const UIFont kSearchFont{"AvenirNext-Medium", 16};
+
+// The return key puts the keyboard away; what was found stays.
+class SearchFieldDelegate final : public UITextFieldDelegate {
+ public:
+  bool textFieldShouldReturn(UITextField& field) override { return field.resignFirstResponder(); }
+};
+
+}  // namespace
+
+UISearchBar::UISearchBar() : fieldDelegate_(std::make_shared<SearchFieldDelegate>()) {
+  field_->setFont(kSearchFont);
+  field_->setPlaceholder(tr("Search").toStdString());
+  field_->setAutocorrectionType(UITextAutocorrectionType::no);
+  field_->setDelegate(fieldDelegate_);
+  field_->editingChanged = [this](UITextField&) { emit edited(); };
+}
+
+// Who draws the field may keep it longer.
+UISearchBar::~UISearchBar() {
+  field_->editingChanged = nullptr;
+  field_->resignFirstResponder();
 }
 
 void UISearchBar::setFrame(CGRect frame) {
@@ -28,18 +47,19 @@ void UISearchBar::setShowsCancelButton(bool shows) {
   emit showsCancelButtonChanged();
 }
 
-void UISearchBar::edit(const QString& text) {
-  if (text_ == text) return;
-  setText(text);
-  emit edited();
+void UISearchBar::press() {
+  field_->becomeFirstResponder();
+  emit pressed();
 }
 
-void UISearchBar::setFirstResponder(bool first) {
-  if (first) {
-    enterResponderChain();
-  } else {
-    leaveResponderChain();
-  }
+void UISearchBar::edit(const QString& text) {
+  if (this->text() == text) return;
+  field_->replaceRange({0, utf16Length(field_->decidedText())}, text.toStdString());
+}
+
+void UISearchBar::reportWidth(double width) {
+  if (frame_.size.width == width) return;
+  setFrame({frame_.origin, {width, frame_.size.height}});
 }
 
 QColor UISearchBar::background() const { return toQColor(backgroundColor_); }

@@ -5,9 +5,7 @@
 namespace kindora {
 
 UISearchController::UISearchController() {
-  connect(&searchBar_, &UISearchBar::firstResponderChanged, this, [this] {
-    if (searchBar_.isResponding()) setActive(true);
-  });
+  connect(&searchBar_, &UISearchBar::pressed, this, [this] { setActive(true); });
   connect(&searchBar_, &UISearchBar::edited, this, [this] {
     if (active_) {
       update();

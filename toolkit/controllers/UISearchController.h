@@ -23,8 +23,8 @@ class UISearchControllerDelegate {
   virtual void didDismissSearchController(UISearchController& /*controller*/) {}
 };
 
-/// A search over the screen that owns it: active from the moment at which its bar gets the keyboard
-/// until the user cancels or the program ends it, with an empty text again then.
+/// A search over the screen that owns it: active from the moment at which the user presses its bar
+/// or types into it until the user cancels or the program ends it, with an empty text again then.
 class UISearchController : public QObject {
   Q_OBJECT
 

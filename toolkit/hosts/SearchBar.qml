@@ -12,6 +12,7 @@ Rectangle {
 
     implicitHeight: root.bar.height
     color: root.bar.backgroundColor
+    onWidthChanged: root.bar.reportWidth(root.width)
 
     Rectangle {
         id: well
@@ -34,7 +35,7 @@ Rectangle {
             tint: Theme.glyph
         }
 
-        T.TextField {
+        TextField {
             id: field
             objectName: "searchField"
             anchors.left: lens.right
@@ -42,48 +43,29 @@ Rectangle {
             anchors.right: clear.left
             anchors.top: parent.top
             anchors.bottom: parent.bottom
-            verticalAlignment: TextInput.AlignVCenter
-            placeholderText: qsTr("Search")
-            font: Appearance.font(16)
-            color: Theme.ink
-            selectionColor: Appearance.tint
-            selectByMouse: true
-            clip: true
-            inputMethodHints: Qt.ImhNoPredictiveText
-            Accessible.name: field.placeholderText
-            Accessible.role: Accessible.EditableText
-
-            Component.onCompleted: field.text = root.bar.text
-            // What the input method is still composing counts, too.
-            onDisplayTextChanged: root.bar.edit(field.displayText)
-            onActiveFocusChanged: root.bar.setFirstResponder(field.activeFocus)
-            Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape
-            Keys.onEscapePressed: root.bar.cancel()
-            Keys.onReturnPressed: root.bar.setFirstResponder(false)
-
-            PlainText {
-                anchors.fill: parent
-                visible: field.displayText === ""
-                text: field.placeholderText
-                color: Theme.softInk
-                verticalAlignment: Text.AlignVCenter
-                Accessible.ignored: true
-            }
+            owner: null
+            outlet: ""
+            record: root.bar.searchTextField
+            label: field.placeholder
+            escapes: root.bar.showsCancelButton
+            onPressed: root.bar.press()
+            onEscaped: root.bar.cancel()
         }
 
         ButtonBase {
             id: clear
+            objectName: "clearButton"
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             width: visible ? 34 : 9
             height: 44
-            visible: field.displayText !== ""
+            visible: field.text !== ""
             // The field keeps the keyboard, whose keys can clear it, too.
             focusPolicy: Qt.NoFocus
             text: qsTr("Clear text")
             onClicked: {
-                field.clear();
-                field.forceActiveFocus();
+                root.bar.edit("");
+                root.bar.press();
             }
 
             contentItem: Item {
@@ -119,25 +101,6 @@ Rectangle {
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
             Accessible.ignored: true
-        }
-    }
-
-    Connections {
-        target: root.bar
-
-        // Writing what the field shows already would end a composition.
-        function onTextChanged() {
-            if (root.bar.text === "")
-                field.clear();
-            else if (root.bar.text !== field.displayText)
-                field.text = root.bar.text;
-        }
-
-        function onFirstResponderChanged() {
-            if (root.bar.firstResponder)
-                field.forceActiveFocus();
-            else
-                field.focus = false;
         }
     }
 }

@@ -10,7 +10,12 @@ TextInputItem {
 
     // What the field is called when it is read aloud.
     required property string label
+    // Esc ends what the field is for, instead of the page.
+    property bool escapes: false
     readonly property bool inputFocus: field.activeFocus
+
+    signal pressed
+    signal escaped
 
     implicitHeight: 56
     inputItem: field
@@ -36,7 +41,18 @@ TextInputItem {
         Accessible.description: root.placeholder !== root.label ? root.placeholder : ""
 
         onAccepted: root.pressReturn()
-        Accessible.onPressAction: root.beginEditing()
+        onReleased: root.pressed()
+        Accessible.onPressAction: {
+            root.beginEditing();
+            root.pressed();
+        }
+        Keys.onShortcutOverride: event =>
+            event.accepted = root.escapes && event.key === Qt.Key_Escape
+        Keys.onEscapePressed: event => {
+            event.accepted = root.escapes;
+            if (root.escapes)
+                root.escaped();
+        }
 
         PlainText {
             anchors.fill: parent
@@ -47,7 +63,7 @@ TextInputItem {
             visible: field.text === "" && field.preeditText === ""
             text: root.placeholder
             font: field.font
-            color: Theme.faintInk
+            color: Theme.softInk
             verticalAlignment: Text.AlignVCenter
             Accessible.ignored: true
         }

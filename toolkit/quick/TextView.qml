@@ -48,7 +48,7 @@ TextInputItem {
                 visible: area.text === "" && area.preeditText === ""
                 text: root.placeholder
                 points: 17
-                color: Theme.faintInk
+                color: Theme.softInk
                 Accessible.ignored: true
             }
         }

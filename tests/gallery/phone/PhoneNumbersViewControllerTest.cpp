@@ -24,7 +24,7 @@ class PhoneNumbersViewControllerTest : public GalleryFixture {
   // Searches for the country, of which there must be one, and takes it.
   void take(const std::string& name) {
     auto& choice = choose();
-    choice.searchController->searchBar()->setFirstResponder(true);
+    choice.searchController->searchBar()->press();
     choice.searchController->searchBar()->edit(QString::fromStdString(name));
     ASSERT_EQ(choice.tableViewNumberOfRowsInSection(0), 1);
     choice.tableView()->select(0);

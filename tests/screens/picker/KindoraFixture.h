@@ -73,7 +73,7 @@ class KindoraTableViewControllerTest : public AppFixture {
   }
   void press(int row) { screen->tableView()->select(row); }
   void search(const char* text) {
-    bar().setFirstResponder(true);
+    bar().press();
     bar().edit(QString::fromUtf8(text));
   }
   [[nodiscard]] PlaceholderTableViewCell& inviteRow() const {

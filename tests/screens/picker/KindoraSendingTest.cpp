@@ -43,7 +43,7 @@ class KindoraSendingTest : public KindoraTableViewControllerTest {
 };
 
 TEST_F(KindoraSendingTest, EndsTheEditing) {
-  bar().setFirstResponder(true);
+  bar().press();
   pressSend();
   EXPECT_FALSE(bar().isFirstResponder());
 }

@@ -216,7 +216,9 @@ TEST_F(KindoraTableViewControllerTest, LeavingDropsTheTicks) {
 // --- Searching ---
 
 TEST_F(KindoraTableViewControllerTest, AnActiveSearchWithoutTextShowsNobody) {
-  bar().setFirstResponder(true);
+  bar().searchTextField().becomeFirstResponder();
+  EXPECT_THAT(shown(), ElementsAre("Anna", "Diana", "Joe"));
+  bar().press();
   EXPECT_THAT(shown(), IsEmpty());
   EXPECT_EQ(inviteRow().messageLabel.lock()->text(), "Invite a Friend...");
 }

@@ -80,7 +80,7 @@ TEST_F(UIApplicationTest, AShakeIsHeardWhileATextFieldHasTheKeyboard) {
 TEST_F(UIApplicationTest, AShakeIsHeardWhileASearchBarHasTheKeyboard) {
   UISearchBar bar;
   listener.becomeFirstResponder();
-  bar.setFirstResponder(true);
+  bar.press();
   EXPECT_FALSE(listener.isFirstResponder());
   application.shake();
   EXPECT_EQ(listener.shakes, 1);

@@ -45,19 +45,19 @@ TEST_F(UISearchControllerTest, IsNotActiveAtTheStart) {
   EXPECT_EQ(log(), (Lines{}));
 }
 
-TEST_F(UISearchControllerTest, BeginsWhenTheBarGetsTheKeyboard) {
-  bar().setFirstResponder(true);
+TEST_F(UISearchControllerTest, BeginsWhenTheBarIsPressed) {
+  bar().press();
   EXPECT_TRUE(search.isActive());
   EXPECT_TRUE(bar().showsCancelButton());
 }
 
 TEST_F(UISearchControllerTest, AsksForTheResultsOfNoTextWhenItBegins) {
-  bar().setFirstResponder(true);
+  bar().press();
   EXPECT_EQ(log(), (Lines{"update "}));
 }
 
 TEST_F(UISearchControllerTest, AsksForResultsAtEveryEdit) {
-  bar().setFirstResponder(true);
+  bar().press();
   log();
   bar().edit(QStringLiteral("a"));
   bar().edit(QStringLiteral("an"));
@@ -72,7 +72,7 @@ TEST_F(UISearchControllerTest, BeginsAtAnEditToo) {
 }
 
 TEST_F(UISearchControllerTest, StaysActiveWithoutTheKeyboard) {
-  bar().setFirstResponder(true);
+  bar().press();
   bar().edit(QStringLiteral("an"));
   log();
   bar().resignFirstResponder();
@@ -81,16 +81,22 @@ TEST_F(UISearchControllerTest, StaysActiveWithoutTheKeyboard) {
   EXPECT_EQ(log(), (Lines{}));
 }
 
-TEST_F(UISearchControllerTest, TheKeyboardComingBackAsksForNothing) {
-  bar().setFirstResponder(true);
+TEST_F(UISearchControllerTest, TheKeyboardAloneBeginsNothing) {
+  bar().searchTextField().becomeFirstResponder();
+  EXPECT_FALSE(search.isActive());
+  EXPECT_EQ(log(), (Lines{}));
+}
+
+TEST_F(UISearchControllerTest, AnotherPressAsksForNothing) {
+  bar().press();
   bar().resignFirstResponder();
   log();
-  bar().setFirstResponder(true);
+  bar().press();
   EXPECT_EQ(log(), (Lines{}));
 }
 
 TEST_F(UISearchControllerTest, EndsWhenTheUserCancels) {
-  bar().setFirstResponder(true);
+  bar().press();
   bar().edit(QStringLiteral("an"));
   log();
   bar().cancel();
@@ -99,7 +105,7 @@ TEST_F(UISearchControllerTest, EndsWhenTheUserCancels) {
 }
 
 TEST_F(UISearchControllerTest, EndsWithAnEmptyBarThatHasNoKeyboard) {
-  bar().setFirstResponder(true);
+  bar().press();
   bar().edit(QStringLiteral("an"));
   search.setActive(false);
   EXPECT_TRUE(bar().text().isEmpty());
