@@ -56,9 +56,7 @@ class MainStoryboardLongTextsTest
     ASSERT_NE(area_, nullptr);
   }
   [[nodiscard]] QQuickItem& area() const { return *area_; }
-  [[nodiscard]] double contentHeight() const {
-    return area().property("contentHeight").toDouble();
-  }
+  [[nodiscard]] double contentHeight() const { return area().property("contentHeight").toDouble(); }
   [[nodiscard]] double scrolled() const { return area().property("contentY").toDouble(); }
   [[nodiscard]] QQuickItem* item(const char* name) const {
     return loader->findChild<QQuickItem*>(QLatin1String(name));
@@ -146,22 +144,21 @@ TEST_P(MainStoryboardLongTextsTest, TheButtonComesIntoSightWithTheKeyboard) {
 INSTANTIATE_TEST_SUITE_P(
     Pages, MainStoryboardLongTextsTest,
     ::testing::Combine(
-        ::testing::Values(
-            LongPage{"NewChallengeDetailViewController",
-                     withChallenge<NewChallengeDetailViewController>,
-                     {"senderLabel", "imageView", "challengeNameLabel",
-                      "challengeDescriptionLabel", "acceptButton"},
-                     "rejectButton"},
-            LongPage{"InProgressChallengeDetailViewController",
-                     withChallenge<InProgressChallengeDetailViewController>,
-                     {"senderLabel", "imageView", "challengeNameLabel",
-                      "challengeDescriptionLabel", "completeButton"},
-                     "completeButton"},
-            LongPage{"BadgeInfoViewController",
-                     withChallenge<BadgeInfoViewController>,
-                     {"imageView", "challengeNameLabel", "challengeDescriptionLabel", "infoLabel",
-                      "kindoraButton"},
-                     "kindoraButton"}),
+        ::testing::Values(LongPage{"NewChallengeDetailViewController",
+                                   withChallenge<NewChallengeDetailViewController>,
+                                   {"senderLabel", "imageView", "challengeNameLabel",
+                                    "challengeDescriptionLabel", "acceptButton"},
+                                   "rejectButton"},
+                          LongPage{"InProgressChallengeDetailViewController",
+                                   withChallenge<InProgressChallengeDetailViewController>,
+                                   {"senderLabel", "imageView", "challengeNameLabel",
+                                    "challengeDescriptionLabel", "completeButton"},
+                                   "completeButton"},
+                          LongPage{"BadgeInfoViewController",
+                                   withChallenge<BadgeInfoViewController>,
+                                   {"imageView", "challengeNameLabel", "challengeDescriptionLabel",
+                                    "infoLabel", "kindoraButton"},
+                                   "kindoraButton"}),
         ::testing::Values(Shape{"Tall", {390, 751}}, Shape{"Small", {320, 387}},
                           Shape{"Narrow", {320, 475}}, Shape{"Flat", {844, 297}})),
     [](const auto& test) {

@@ -31,8 +31,8 @@ class ShakeSourceTest : public QuickFixture {
   ShakeSourceTest() {
     QDir(folder.path()).mkpath(QStringLiteral("iio:device0"));
     hold({0, 9.81, 0});
-    source = std::make_unique<ShakeSource>(Accelerometer::find(folder.path()),
-                                           [this] { return now; });
+    source =
+        std::make_unique<ShakeSource>(Accelerometer::find(folder.path()), [this] { return now; });
     UIApplication::sharedApplication()->setApplicationSupportsShakeToEdit(true);
     ear.becomeFirstResponder();
     window.show();
