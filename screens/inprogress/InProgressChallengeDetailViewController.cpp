@@ -202,7 +202,7 @@ void InProgressChallengeDetailViewController::dropStamp() {
   const auto stamp = std::make_shared<UIImageView>();
   stamp->setImage(services().bundle->imageNamed(kStampImage));
   stamp->setContentMode(UIViewContentMode::scaleAspectFit);
-  stamp->setAccessibility(UIAccessibilityRole::alert, "Completed");
+  stamp->setAccessibility(UIAccessibilityRole::alert, tr("Completed").toStdString());
   stamp->setFrame(connected(imageView)->frame());
   stamp->setScaling(kStampScale);
   stamp->setAlpha(0);

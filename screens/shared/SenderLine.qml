@@ -4,14 +4,14 @@ import QtQuick
 import Kindora.Toolkit.Hosts
 
 // Who sent the challenge: the face and a line of text.
-Row {
+Item {
     id: root
 
     required property UIViewController controller
     required property real maximumWidth
 
+    width: sender.x + sender.width
     height: sender.height
-    spacing: 12
 
     ViewItem {
         id: face
@@ -44,7 +44,8 @@ Row {
         objectName: "senderLabel"
         owner: root.controller
         outlet: objectName
-        width: Math.min(senderText.implicitWidth, root.maximumWidth - 52)
+        x: 52
+        width: Math.min(senderText.implicitWidth, root.maximumWidth - sender.x)
         height: Math.max(40, senderText.implicitHeight)
 
         PlainText {

@@ -51,7 +51,6 @@ class MainStoryboardLongTextsTest
       fresh->setDoneScratching(true);
       time.advance(2);
     }
-    window.grabWindow();  // rows and columns place what is in them before a frame
     area_ = areaIn(*loader);
     ASSERT_NE(area_, nullptr);
   }

@@ -9,7 +9,7 @@ namespace kindora {
 
 void Announcer::announce(QQuickItem* item) {
   const auto tell = [this, item = QPointer(item)] {
-    if (!item || !item->isVisible()) return;
+    if (!item || item->window() == nullptr || !item->isVisible()) return;
     // Not every system knows alerts: on Linux an item of that role is read when it is shown.
     for (const QAccessible::Event type : {QAccessible::Alert, QAccessible::ObjectShow}) {
       QAccessibleEvent event(item, type);
