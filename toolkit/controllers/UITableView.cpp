@@ -155,6 +155,10 @@ UITableView::Row* UITableView::rowAt(int row) {
 void UITableView::select(int row) {
   const Row* pressed = rowAt(row);
   if (pressed == nullptr) return;
+  if (editingRow_ >= 0) {
+    closeRow();
+    return;
+  }
   selected_ = IndexPath{pressed->section, pressed->row};
   source_.tableViewDidSelectRowAtIndexPath(*selected_);
 }
@@ -179,6 +183,7 @@ void UITableView::setTableHeaderView(UISearchBar* header) {
 void UITableView::setHighlighted(int row, bool highlighted) {
   Row* pressed = rowAt(row);
   if (pressed == nullptr || !pressed->highlights) return;
+  if (highlighted && editingRow_ >= 0) return;
   pressed->cell->setHighlighted(highlighted, true);
 }
 

@@ -91,6 +91,7 @@ class UITableView : public QAbstractListModel {
   void setTableHeaderView(UISearchBar* header);
 
   // --- What the user does; rows count over the whole list, headers included ---
+  /// While a row is open, a press on any row closes that one and does nothing else.
   Q_INVOKABLE void select(int row);
   Q_INVOKABLE void setHighlighted(int row, bool highlighted);
   /// Swiped open, so that the delete button shows; closes another open row.

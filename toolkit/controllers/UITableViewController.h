@@ -7,7 +7,7 @@
 
 namespace kindora {
 
-/// A screen that is one table, and the table's data source.
+/// A screen that is one table, and the table's data source. Going back closes an open row first.
 class UITableViewController : public kindora::UIViewController, public UITableViewDataSource {
   Q_OBJECT
   QML_ELEMENT
@@ -16,6 +16,11 @@ class UITableViewController : public kindora::UIViewController, public UITableVi
 
  public:
   [[nodiscard]] UITableView* tableView() { return &tableView_; }
+  bool goBack() override {
+    if (tableView_.editingRow() < 0) return UIViewController::goBack();
+    tableView_.closeRow();
+    return true;
+  }
 
  private:
   UITableView tableView_{*this};

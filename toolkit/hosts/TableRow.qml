@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Kindora.Toolkit.Quick
 
-// One line of a table: a header, or a card that is pressed and, where it can be edited, swiped
-// aside.
+// One line of a table: a header, or a card that, where it does something, is pressed and, where it
+// can be edited, swiped aside. Buttons are made where they are of use: assistive tools read all that
+// there are.
 Item {
     id: root
 
@@ -22,10 +22,9 @@ Item {
 
     readonly property bool open: root.table.editingRow === root.index
     readonly property real openWidth: 104
+    readonly property TableCell look: prototype.item as TableCell
 
-    height: root.isHeader
-            ? 44
-            : content.implicitHeight + ((prototype.item as TableCell)?.spaceBelow ?? 0)
+    height: root.isHeader ? 44 : content.height + (root.look?.spaceBelow ?? 0)
 
     Loader {
         active: root.isHeader
@@ -50,79 +49,25 @@ Item {
         }
     }
 
-    T.Button {
-        id: remove
-        anchors.right: parent.right
-        anchors.rightMargin: 16
-        width: root.openWidth - 12
-        height: content.height
-        visible: content.x < 0
-        enabled: root.open
-        text: root.deleteTitle
-        focusPolicy: Qt.StrongFocus
-        Accessible.name: remove.text
-        onClicked: root.table.commitDelete(root.index)
-        Keys.onReturnPressed: remove.clicked()
-
-        background: Rectangle {
-            radius: Theme.cardRadius
-            color: remove.pressed ? Theme.dangerPressed : Theme.danger
-
-            FocusRing {
-                visible: remove.visualFocus
-                radius: 22
-            }
-        }
-
-        contentItem: PlainText {
-            text: remove.text
-            Accessible.ignored: true
-            font: Appearance.boldFont(16)
-            color: Theme.inkOnColor
-            horizontalAlignment: Text.AlignHCenter
-            verticalAlignment: Text.AlignVCenter
-        }
-    }
-
-    T.AbstractButton {
+    Item {
         id: content
-        objectName: "row" + root.index
         width: root.width
-        implicitHeight: prototype.implicitHeight
-        visible: !root.isHeader
-        enabled: !root.isHeader
-        focusPolicy: root.pressable ? Qt.StrongFocus : Qt.NoFocus
-        hoverEnabled: false
-        text: (prototype.item as TableCell)?.spoken ?? ""
-        Accessible.role: root.pressable ? Accessible.Button : Accessible.StaticText
-        Accessible.name: content.text
-        Accessible.checkable: (prototype.item as TableCell)?.checkable ?? false
-        Accessible.checked: (prototype.item as TableCell)?.checked ?? false
+        height: prototype.implicitHeight
+        Accessible.role: Accessible.StaticText
+        Accessible.name: root.look?.spoken ?? ""
+        Accessible.ignored: root.isHeader || root.pressable
 
-        onDownChanged: root.table.setHighlighted(root.index, content.down)
-        onClicked: {
-            if (root.open)
-                root.table.closeRow();
-            else
-                root.table.select(root.index);
-        }
-        onPressAndHold: root.table.openRow(root.index)
-        Keys.onReturnPressed: content.clicked()
-        Keys.onEnterPressed: content.clicked()
-        Keys.onDeletePressed: root.table.commitDelete(root.index)
-        Keys.onMenuPressed: root.table.openRow(root.index)
-
-        contentItem: Loader {
+        Loader {
             id: prototype
+            width: parent.width
             sourceComponent: root.prototypes[root.reuseIdentifier] ?? null
             onLoaded: item.cell = Qt.binding(() => root.cell)
         }
 
-        FocusRing {
-            visible: content.visualFocus
-            anchors.leftMargin: 14
-            anchors.rightMargin: 14
-            radius: 22
+        Loader {
+            anchors.fill: parent
+            active: root.pressable && !root.isHeader
+            sourceComponent: button
         }
 
         Binding {
@@ -137,29 +82,105 @@ Item {
             enabled: !swipe.active
             NumberAnimation { duration: 220; easing.type: Easing.OutCubic }
         }
+    }
 
-        DragHandler {
-            id: swipe
-            // Also where there is nothing to swipe open: a swipe is no tap.
-            enabled: !root.isHeader
-            yAxis.enabled: false
-            xAxis.minimum: root.canEdit ? -root.openWidth * 1.25 : 0
-            xAxis.maximum: 0
-            dragThreshold: 10
-            cursorShape: Qt.ArrowCursor
-            onActiveChanged: {
-                if (active)
-                    return;
-                if (content.x < -root.openWidth / 2)
-                    root.table.openRow(root.index);
-                else if (root.open)
-                    root.table.closeRow();
+    Loader {
+        anchors.right: parent.right
+        anchors.rightMargin: 16
+        width: -content.x - 12
+        height: content.height
+        active: root.canEdit && width > 0
+        sourceComponent: remove
+    }
+
+    Component {
+        id: button
+
+        ButtonBase {
+            id: press
+            objectName: "row" + root.index
+            hoverEnabled: false
+            text: root.look?.spoken ?? ""
+            checkable: root.look?.checkable ?? false
+            checked: root.look?.checked ?? false
+            ring.anchors.leftMargin: 14
+            ring.anchors.rightMargin: 14
+            ring.radius: 22
+            Accessible.role: Accessible.Button
+
+            onDownChanged: root.table.setHighlighted(root.index, press.down)
+            onClicked: {
+                root.table.select(root.index);
+                // The cell says whether it is ticked; a press may have come to nothing.
+                press.checked = Qt.binding(() => root.look?.checked ?? false);
+            }
+            Keys.onDeletePressed: root.table.commitDelete(root.index)
+            Keys.onMenuPressed: root.table.openRow(root.index)
+
+            Loader {
+                active: root.canEdit
+                sourceComponent: Connections {
+                    target: press.Accessible
+
+                    function onScrollLeftAction() {
+                        root.table.openRow(root.index);
+                    }
+                }
             }
         }
+    }
 
-        TapHandler {
-            acceptedButtons: Qt.RightButton
-            onTapped: root.table.openRow(root.index)
+    Component {
+        id: remove
+
+        ButtonBase {
+            id: reject
+            enabled: root.open
+            text: root.deleteTitle
+            ring.radius: 22
+            onClicked: root.table.commitDelete(root.index)
+
+            background: Rectangle {
+                radius: Theme.cardRadius
+                color: reject.pressed ? Theme.dangerPressed : Theme.danger
+            }
+
+            // Its word comes when there is room for it.
+            contentItem: PlainText {
+                text: reject.text
+                Accessible.ignored: true
+                opacity: Math.max(0, Math.min(1, (reject.width - implicitWidth) / 16))
+                font: Appearance.boldFont(16)
+                color: Theme.inkOnColor
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+            }
         }
+    }
+
+    // Not inside the button, where it would take the finger from the list that scrolls.
+    DragHandler {
+        id: swipe
+        target: content
+        // Also where there is nothing to swipe open: a swipe is no tap.
+        enabled: !root.isHeader
+        yAxis.enabled: false
+        xAxis.minimum: root.canEdit ? -root.openWidth * 1.25 : 0
+        xAxis.maximum: 0
+        dragThreshold: 10
+        cursorShape: Qt.ArrowCursor
+        onActiveChanged: {
+            if (active)
+                return;
+            if (content.x < -root.openWidth / 2)
+                root.table.openRow(root.index);
+            else if (root.open)
+                root.table.closeRow();
+        }
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: root.table.openRow(root.index)
     }
 }

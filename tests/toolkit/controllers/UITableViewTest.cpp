@@ -437,6 +437,18 @@ TEST_F(UITableViewTest, TheUserClosesTheOpenRow) {
   EXPECT_EQ(table.editingRow(), -1);
 }
 
+TEST_F(UITableViewTest, APressOnAnyRowOnlyClosesTheOpenOne) {
+  for (const int row : {5, 2, 6}) {
+    table.openRow(5);
+    table.setHighlighted(row, true);
+    EXPECT_FALSE(reader.cell(row)->isHighlighted());
+    table.select(row);
+    EXPECT_EQ(table.editingRow(), -1);
+    EXPECT_EQ(source.calls, (Lines{}));
+    EXPECT_EQ(table.indexPathForSelectedRow(), std::nullopt);
+  }
+}
+
 TEST_F(UITableViewTest, EndingTheEditingClosesTheOpenRow) {
   table.openRow(5);
   table.setEditing(false, true);

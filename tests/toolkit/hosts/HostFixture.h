@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QFile>
+#include <QPointingDevice>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QTemporaryDir>
@@ -39,12 +40,9 @@ class HostFixture : public QuickFixture {
 
   HostFixture() {
     QAccessible::setActive(true);
-    QFile file(folder_.filePath(QStringLiteral("Page.qml")));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(R"(
-import QtQuick
-import Kindora.Toolkit.Hosts
-
+    // Each move of a finger counts, not only the last before a frame.
+    qputenv("QML_NO_TOUCH_COMPRESSION", "1");
+    page_ = page(QStringLiteral("Page.qml"), R"(
 Rectangle {
     id: root
     required property UIViewController controller
@@ -56,7 +54,6 @@ Rectangle {
         onPressed: ++root.presses
     }
 })");
-    page_ = QUrl::fromLocalFile(file.fileName());
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     window.resize(kWidth, kHeight);
     window.show();
@@ -66,6 +63,14 @@ Rectangle {
 
   std::shared_ptr<UIViewController> screen(const QString& title) {
     return makeViewController<PressCounter>(page_, title);
+  }
+
+  /// A file with that QML text.
+  [[nodiscard]] QUrl page(const QString& name, const QByteArray& text) const {
+    QFile file(folder_.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("import QtQuick\nimport Kindora.Toolkit.Hosts\n" + text);
+    return QUrl::fromLocalFile(file.fileName());
   }
 
   /// Makes the host from its QML text, with these properties besides its size.
@@ -102,6 +107,22 @@ Rectangle {
     QAccessibleInterface* reached = accessible(name);
     return reached != nullptr ? reached->role() : QAccessible::NoRole;
   }
+  /// What an assistive tool may do with it.
+  [[nodiscard]] QStringList actions(const QString& name) {
+    QAccessibleInterface* reached = accessible(name);
+    QAccessibleActionInterface* able = reached != nullptr ? reached->actionInterface() : nullptr;
+    return able != nullptr ? able->actionNames() : QStringList();
+  }
+  void act(const QString& name, const QString& action) {
+    ASSERT_TRUE(actions(name).contains(action)) << name.toStdString();
+    accessible(name)->actionInterface()->doAction(action);
+  }
+  /// The names of all that have that role, shown or not, in the order in which they are read aloud.
+  [[nodiscard]] QStringList namesOf(QAccessible::Role role) {
+    QStringList names;
+    collectNames(QAccessible::queryAccessibleInterface(&window), role, names);
+    return names;
+  }
   /// What assistive tools are told of it.
   [[nodiscard]] QAccessible::State state(const QString& name) {
     QAccessibleInterface* reached = accessible(name);
@@ -128,7 +149,26 @@ Rectangle {
     ASSERT_NE(reached->actionInterface(), nullptr) << name.toStdString();
     reached->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   }
-  /// A finger that is put down, drawn along a line and lifted.
+  /// What has the keyboard is read aloud by that name.
+  [[nodiscard]] QString focusName() const {
+    QAccessibleInterface* focused = QAccessible::queryAccessibleInterface(window.activeFocusItem());
+    return focused != nullptr ? focused->text(QAccessible::Name) : QString();
+  }
+  /// A finger on the screen that is put down, drawn along a line and, unless it stays, lifted.
+  void swipe(QPoint from, QPoint to, bool stays = false) {
+    constexpr int kSteps = 10;
+    QTest::touchEvent(&window, touchScreen.get()).press(0, from);
+    for (int i = 1; i <= kSteps; ++i) {
+      QTest::touchEvent(&window, touchScreen.get()).move(0, from + (to - from) * i / kSteps);
+    }
+    if (!stays) lift(to);
+  }
+  void lift(QPoint at) { QTest::touchEvent(&window, touchScreen.get()).release(0, at); }
+  void tap(QPoint at) {
+    QTest::touchEvent(&window, touchScreen.get()).press(0, at);
+    lift(at);
+  }
+  /// The pointer, pressed, drawn along a line and released.
   void drag(QPoint from, QPoint to) {
     constexpr int kSteps = 10;
     QTest::mousePress(&window, Qt::LeftButton, {}, from);
@@ -141,6 +181,7 @@ Rectangle {
   const FakeServices fakes = installFakeServices();
   ManualTime time{fakes.mainQueue};
   QQmlEngine engine;
+  const std::unique_ptr<QPointingDevice> touchScreen{QTest::createTouchDevice()};
   std::unique_ptr<QQuickItem> host;
 
  private:
@@ -162,6 +203,12 @@ Rectangle {
       if (QAccessibleInterface* reached = accessible(from->child(i), name)) return reached;
     }
     return nullptr;
+  }
+
+  static void collectNames(QAccessibleInterface* from, QAccessible::Role role, QStringList& names) {
+    if (from == nullptr) return;
+    if (from->role() == role) names.append(from->text(QAccessible::Name));
+    for (int i = 0; i < from->childCount(); ++i) collectNames(from->child(i), role, names);
   }
 
   const QTemporaryDir folder_;

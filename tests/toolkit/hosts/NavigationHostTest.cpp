@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-#include "tests/toolkit/hosts/HostFixture.h"
+#include "tests/toolkit/hosts/TableFixture.h"
 #include "toolkit/controllers/UINavigationController.h"
 #include "toolkit/view/UILabel.h"
 
@@ -170,6 +170,31 @@ TEST_F(NavigationHostTest, ASwipeThatBeginsElsewhereDoesNotGoBack) {
   drag({40, 300}, {300, 300});
   time.advance(0.5);
   EXPECT_EQ(depth(), 2U);
+}
+
+TEST_F(NavigationHostTest, AFingerSwipesBackFromTheRowsOfATable) {
+  const auto table = makeViewController<NamesController>();
+  table->drawnBy = page(QStringLiteral("Table.qml"), R"(
+TableList {
+    prototypes: ({ "cell": look })
+    Component {
+        id: look
+        TableCell { implicitHeight: 60; spoken: cell?.objectName ?? "" }
+    }
+})");
+  table->editable = {1};
+  table->tableView()->reloadData();
+  for (const char* name : {"Anna", "Bob"}) {
+    navigation->pushViewController(table, false);
+    time.settle();
+    QQuickItem* row = spoken(QString::fromLatin1(name));
+    ASSERT_NE(row, nullptr);
+    swipe({3, middle(row).y()}, {250, middle(row).y()});
+    time.advance(0.5);
+    EXPECT_EQ(depth(), 1U) << name;
+  }
+  EXPECT_TRUE(table->selected.empty());
+  host.reset();
 }
 
 TEST_F(NavigationHostTest, ASwipeDoesNotGoBackWhereTheWayIsHidden) {

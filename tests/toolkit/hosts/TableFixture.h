@@ -17,6 +17,8 @@ class NamesController final : public UITableViewController {
   std::vector<std::string> names{"Anna", "Bob", "Cleo"};
   std::set<int> editable;
   std::set<int> mute;  ///< rows that do nothing when pressed
+  std::set<int> ticked;
+  QUrl drawnBy;
   std::vector<int> selected;
   std::vector<int> deleted;
 
@@ -24,6 +26,7 @@ class NamesController final : public UITableViewController {
     setTitle(QStringLiteral("Names"));
     tableView()->registerCell("cell", [] { return std::make_shared<UITableViewCell>(); });
   }
+  [[nodiscard]] QUrl page() const override { return drawnBy; }
   [[nodiscard]] int numberOfSectionsInTableView() override { return 1; }
   [[nodiscard]] int tableViewNumberOfRowsInSection(int /*section*/) override {
     return static_cast<int>(names.size());
@@ -34,10 +37,12 @@ class NamesController final : public UITableViewController {
   [[nodiscard]] UITableViewCellRef tableViewCellForRowAtIndexPath(IndexPath path) override {
     auto cell = tableView()->dequeueReusableCell("cell");
     cell->setObjectName(QString::fromStdString(names.at(static_cast<std::size_t>(path.row))));
+    cell->setAccessoryType(ticked.contains(path.row) ? UITableViewCellAccessoryType::checkmark
+                                                     : UITableViewCellAccessoryType::none);
     return cell;
   }
   [[nodiscard]] const void* tableViewIdentityForRowAtIndexPath(IndexPath path) override {
-    return &names.at(static_cast<std::size_t>(path.row));
+    return &*known_.insert(names.at(static_cast<std::size_t>(path.row))).first;
   }
   [[nodiscard]] bool tableViewShouldHighlightRowAtIndexPath(IndexPath path) override {
     return !mute.contains(path.row);
@@ -54,6 +59,9 @@ class NamesController final : public UITableViewController {
                                                     IndexPath path) override {
     deleted.push_back(path.row);
   }
+
+ private:
+  std::set<std::string> known_;
 };
 
 /// The table of names; each row is 60 points high and has 8 below it.
@@ -81,11 +89,26 @@ class TableFixture : public HostFixture {
   [[nodiscard]] UITableView& table() const { return *controller->tableView(); }
   /// The row of that name in the window.
   [[nodiscard]] QRectF row(const char* name) { return place(spoken(QString::fromLatin1(name))); }
-  void swipe(const char* name, int by) {
+  void swipeRow(const char* name, int by) {
+    const QPoint from = row(name).center().toPoint();
+    swipe(from, from + QPoint(by, 0));
+    time.advance(0.5);
+  }
+  void dragRow(const char* name, int by) {
     const QPoint from = row(name).center().toPoint();
     drag(from, from + QPoint(by, 0));
     time.advance(0.5);
   }
+  /// As many rows as fill the window several times, called "0" and so on.
+  void showMany(int count = 40) {
+    controller->names.clear();
+    for (int i = 0; i < count; ++i) controller->names.push_back(std::to_string(i));
+    show();
+  }
+  void focus(const char* name) {
+    spoken(QString::fromLatin1(name))->forceActiveFocus(Qt::TabFocusReason);
+  }
+  [[nodiscard]] double scrolled() const { return host->property("contentY").toDouble(); }
 
   const std::shared_ptr<NamesController> controller = makeViewController<NamesController>();
 };
