@@ -38,8 +38,16 @@ Rectangle {
         model: root.controller.files
         boundsBehavior: contentHeight > height ? Flickable.DragAndOvershootBounds
                                                : Flickable.StopAtBounds
+        keyNavigationEnabled: false
         Accessible.role: Accessible.List
         Accessible.name: root.controller.title
+        Accessible.onScrollDownAction: reach.turnPage(1)
+        Accessible.onScrollUpAction: reach.turnPage(-1)
+
+        KeyboardReach {
+            id: reach
+            area: list
+        }
 
         delegate: ButtonBase {
             id: file

@@ -54,8 +54,16 @@ Rectangle {
         model: root.controller.photos
         boundsBehavior: contentHeight > height ? Flickable.DragAndOvershootBounds
                                                : Flickable.StopAtBounds
+        keyNavigationEnabled: false
         Accessible.role: Accessible.List
         Accessible.name: root.controller.title
+        Accessible.onScrollDownAction: reach.turnPage(1)
+        Accessible.onScrollUpAction: reach.turnPage(-1)
+
+        KeyboardReach {
+            id: reach
+            area: grid
+        }
 
         delegate: ButtonBase {
             id: photo

@@ -16,12 +16,12 @@ Flickable {
     clip: true
     boundsBehavior: Flickable.DragAndOvershootBounds
     Accessible.role: Accessible.List
+    Accessible.onScrollDownAction: reach.turnPage(1)
+    Accessible.onScrollUpAction: reach.turnPage(-1)
 
-    function show(item) {
-        if (item.y - 10 < root.contentY)
-            root.contentY = Math.max(0, item.y - 10);
-        else if (item.y + item.height + 10 > root.contentY + root.height)
-            root.contentY = Math.min(root.contentHeight, item.y + item.height + 10) - root.height;
+    KeyboardReach {
+        id: reach
+        area: root
     }
 
     CollectionViewItem {
@@ -44,7 +44,6 @@ Flickable {
 
             onDownChanged: content.cell.setHighlighted(content.down, true)
             onClicked: cells.select(content.cell)
-            onActiveFocusChanged: if (content.activeFocus) root.show(content)
 
             contentItem: Loader {
                 id: look

@@ -19,8 +19,17 @@ ListView {
     // Rows ahead of the visible ones would come by a pause that Qt cannot end without a warning
     // when nothing else is animated.
     cacheBuffer: 0
+    // A list would move a current row.
+    keyNavigationEnabled: false
     Accessible.role: Accessible.List
     Accessible.name: root.controller.title
+    Accessible.onScrollDownAction: reach.turnPage(1)
+    Accessible.onScrollUpAction: reach.turnPage(-1)
+
+    KeyboardReach {
+        id: reach
+        area: root
+    }
 
     delegate: TableRow {
         table: root.controller.tableView

@@ -40,6 +40,7 @@ class CollectionGridTest : public HostFixture {
     view.registerCell("cell", [] { return std::make_shared<UICollectionViewCell>(); });
     view.setDataSource(&source);
     draw(R"(CollectionGrid {
+              Accessible.name: "Cells"
               prototype: Component {
                 CollectionCell {
                   spoken: cell?.objectName ?? ""
@@ -110,10 +111,59 @@ TEST_F(CollectionGridTest, ADragScrollsAndSelectsNothing) {
   EXPECT_THAT(source.selected, IsEmpty());
 }
 
+TEST_F(CollectionGridTest, AFingerScrollsAndSelectsNothing) {
+  swipe({160, 400}, {160, 200});
+  EXPECT_GT(offset(), 100);
+  time.advance(2);
+  EXPECT_THAT(source.selected, IsEmpty());
+}
+
+TEST_F(CollectionGridTest, ATapAndAnAssistiveToolSelect) {
+  tap(cell(3).center().toPoint());
+  act(QStringLiteral("cell 2"), QAccessibleActionInterface::pressAction());
+  EXPECT_THAT(source.selected, ElementsAre(3, 2));
+}
+
+TEST_F(CollectionGridTest, TabGoesThroughAllCells) {
+  for (int i = 0; i < Source::kCount; ++i) {
+    press(Qt::Key_Tab);
+    ASSERT_EQ(focusName(), QStringLiteral("cell %1").arg(i));
+    ASSERT_TRUE(QRectF(0, 0, kWidth, kHeight).contains(cell(i)));
+  }
+}
+
+TEST_F(CollectionGridTest, KeysGoToTheCellThatLiesThere) {
+  spoken(QStringLiteral("cell 0"))->forceActiveFocus(Qt::TabFocusReason);
+  const auto goesTo = [this](Qt::Key key, int index) {
+    press(key);
+    EXPECT_EQ(focusName(), QStringLiteral("cell %1").arg(index));
+    EXPECT_TRUE(QRectF(0, 0, kWidth, kHeight).contains(place(window.activeFocusItem())));
+  };
+  goesTo(Qt::Key_Left, 0);
+  goesTo(Qt::Key_Right, 1);
+  goesTo(Qt::Key_Right, 1);
+  goesTo(Qt::Key_Down, 3);
+  goesTo(Qt::Key_Left, 2);
+  goesTo(Qt::Key_Up, 0);
+  goesTo(Qt::Key_PageDown, 6);
+  goesTo(Qt::Key_PageUp, 0);
+  goesTo(Qt::Key_End, 29);
+  goesTo(Qt::Key_Down, 29);
+  goesTo(Qt::Key_Up, 27);
+  goesTo(Qt::Key_Home, 0);
+}
+
+TEST_F(CollectionGridTest, AnAssistiveToolScrolls) {
+  act(QStringLiteral("Cells"), QAccessibleActionInterface::scrollDownAction());
+  EXPECT_NEAR(offset(), kHeight, 80);
+  act(QStringLiteral("Cells"), QAccessibleActionInterface::scrollUpAction());
+  EXPECT_EQ(offset(), 0);
+}
+
 TEST_F(CollectionGridTest, ACellThatGetsTheKeyboardComesIntoSight) {
   ASSERT_GT(cell(8).bottom(), kHeight);
   spoken(QStringLiteral("cell 8"))->forceActiveFocus(Qt::TabFocusReason);
-  EXPECT_EQ(cell(8).bottom(), kHeight - 10);
+  EXPECT_EQ(cell(8).bottom(), kHeight - 60);
   host->setProperty("contentY", 60);
   spoken(QStringLiteral("cell 0"))->forceActiveFocus(Qt::TabFocusReason);
   EXPECT_EQ(offset(), 0);

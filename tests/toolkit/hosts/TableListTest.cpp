@@ -64,5 +64,134 @@ TEST_F(TableListTest, ScrollingClosesTheOpenRow) {
   EXPECT_EQ(table().editingRow(), -1);
 }
 
+// --- By keys and assistive tools ---
+
+class TableKeysTest : public TableFixture {
+ protected:
+  [[nodiscard]] bool focusIsInSight() const {
+    return QRectF(0, 0, kWidth, kHeight).contains(place(window.activeFocusItem()));
+  }
+  // Presses the key as long as it brings the keyboard to another row, and tells to which.
+  QStringList walk(Qt::Key key) {
+    QStringList names;
+    for (;;) {
+      press(key);
+      time.settle();
+      if (names.contains(focusName()) || focusName().isEmpty()) return names;
+      names.append(focusName());
+      EXPECT_TRUE(focusIsInSight()) << focusName().toStdString();
+    }
+  }
+  static QStringList numbers(int first, int last) {
+    QStringList names;
+    for (int i = first; i != last; i += first < last ? 1 : -1) names.append(QString::number(i));
+    names.append(QString::number(last));
+    return names;
+  }
+};
+
+TEST_F(TableKeysTest, TabGoesThroughAllRows) {
+  showMany();
+  EXPECT_EQ(walk(Qt::Key_Tab), numbers(0, 39));
+}
+
+TEST_F(TableKeysTest, TabGoesBackThroughAllRows) {
+  showMany();
+  focus("0");
+  press(Qt::Key_End);
+  EXPECT_EQ(walk(Qt::Key_Backtab), numbers(38, 0));
+}
+
+TEST_F(TableKeysTest, TabGoesBackThroughAllRowsToTheSearchField) {
+  UISearchController search;
+  search.searchBar()->setFrame({{0, 0}, {0, 44}});
+  table().setTableHeaderView(search.searchBar());
+  showMany(20);
+  focus("0");
+  press(Qt::Key_End);
+  EXPECT_EQ(walk(Qt::Key_Backtab), numbers(18, 0) << QStringLiteral("Search"));
+  host.reset();
+}
+
+TEST_F(TableKeysTest, DownAndUpGoThroughAllRows) {
+  showMany();
+  EXPECT_EQ(walk(Qt::Key_Down), numbers(0, 39));
+  press(Qt::Key_Down);
+  EXPECT_EQ(focusName(), QStringLiteral("39"));
+  EXPECT_EQ(walk(Qt::Key_Up), numbers(38, 0));
+}
+
+TEST_F(TableKeysTest, RowsThatDoNothingArePassedOver) {
+  for (int i = 1; i < 39; ++i) controller->mute.insert(i);
+  showMany();
+  focus("0");
+  press(Qt::Key_Down);
+  EXPECT_EQ(focusName(), QStringLiteral("39"));
+  press(Qt::Key_Backtab);
+  EXPECT_EQ(focusName(), QStringLiteral("0"));
+}
+
+TEST_F(TableKeysTest, EndAndHomeGoToTheLastAndTheFirstRow) {
+  showMany();
+  focus("3");
+  press(Qt::Key_End);
+  EXPECT_EQ(focusName(), QStringLiteral("39"));
+  EXPECT_TRUE(focusIsInSight());
+  press(Qt::Key_Home);
+  EXPECT_EQ(focusName(), QStringLiteral("0"));
+  EXPECT_EQ(row("0").top(), 44);
+}
+
+TEST_F(TableKeysTest, PageDownAndPageUpGoByWhatIsInSight) {
+  showMany();
+  focus("0");
+  press(Qt::Key_PageDown);
+  EXPECT_GE(focusName().toInt(), 3);
+  EXPECT_LE(focusName().toInt(), 7);
+  EXPECT_TRUE(focusIsInSight());
+  for (int i = 0; i < 20; ++i) press(Qt::Key_PageDown);
+  EXPECT_EQ(focusName(), QStringLiteral("39"));
+  for (int i = 0; i < 20; ++i) press(Qt::Key_PageUp);
+  EXPECT_EQ(focusName(), QStringLiteral("0"));
+  EXPECT_TRUE(focusIsInSight());
+}
+
+TEST_F(TableKeysTest, ARowThatAnAssistiveToolFocusesComesIntoSight) {
+  showMany();
+  const QString last = namesOf(QAccessible::Button).last();
+  ASSERT_NE(last, QStringLiteral("39"));
+  act(last, QAccessibleActionInterface::setFocusAction());
+  EXPECT_EQ(focusName(), last);
+  EXPECT_TRUE(focusIsInSight());
+  EXPECT_GT(namesOf(QAccessible::Button).last().toInt(), last.toInt());
+}
+
+TEST_F(TableKeysTest, AnAssistiveToolScrolls) {
+  showMany();
+  act(QStringLiteral("Names"), QAccessibleActionInterface::scrollDownAction());
+  EXPECT_NEAR(scrolled(), kHeight, 80);
+  act(QStringLiteral("Names"), QAccessibleActionInterface::scrollUpAction());
+  EXPECT_NEAR(scrolled(), 0, 1);
+}
+
+TEST_F(TableKeysTest, APressOnARowAtTheEdgeScrollsNothing) {
+  showMany();
+  clickAt({160, kHeight - 5});
+  EXPECT_EQ(controller->selected.size(), 1U);
+  EXPECT_EQ(scrolled(), 0);
+}
+
+TEST_F(TableKeysTest, NewRowsAreReadAndReachedWhereTheyStand) {
+  show();
+  controller->names = {"Zoe", "Anna", "Yves", "Bob", "Cleo"};
+  table().reloadSections({0}, UITableViewRowAnimation::automatic);
+  static_cast<void>(drawn());  // the list begins to move its rows with the next frame
+  time.advance(1);
+  const QStringList order =
+      QStringLiteral("Zoe Anna Yves Bob Cleo").split(QLatin1Char(' '), Qt::SkipEmptyParts);
+  EXPECT_EQ(namesOf(QAccessible::Button), order);
+  EXPECT_EQ(walk(Qt::Key_Tab), order);
+}
+
 }  // namespace
 }  // namespace kindora
