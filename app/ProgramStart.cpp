@@ -5,10 +5,10 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <memory>
+#include <utility>
 
 #include "app/AppPhoneFormatEnvironment.h"
 #include "app/Translations.h"
-#include "platform/qt/QtServices.h"
 #include "toolkit/quick/QtViewServices.h"
 
 namespace kindora {
@@ -18,13 +18,13 @@ void leaveNothingBehind() {
   qputenv("QML_DISABLE_DISK_CACHE", "1");
 }
 
-void startProgram(const ProgramIdentity& identity) {
+void startProgram(const ProgramIdentity& identity, Services installed) {
   QGuiApplication::setApplicationName(identity.name);
   QGuiApplication::setApplicationDisplayName(identity.displayName);
   QGuiApplication::setDesktopFileName(identity.desktopFileName);
   QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/kindora/images/appIcon.svg")));
   installTranslations(identity.name, QLocale(), translationFolders());
-  installServices(makeQtServices());
+  installServices(std::move(installed));
   installViewServices(makeQtViewServices());
   installPhoneFormatEnvironment(std::make_shared<AppPhoneFormatEnvironment>());
 }

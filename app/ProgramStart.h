@@ -13,6 +13,9 @@
 #include <QString>
 #include <QUrl>
 
+#include "platform/qt/QtServices.h"
+#include "platform/services/Services.h"
+
 namespace kindora {
 
 struct ProgramIdentity {
@@ -26,7 +29,7 @@ void leaveNothingBehind();
 
 /// Names the program, gives it the icon and the user's language, and installs the services and the
 /// phone formats. Once, in a QGuiApplication, before anything else of the program is made.
-void startProgram(const ProgramIdentity& identity);
+void startProgram(const ProgramIdentity& identity, Services installed = makeQtServices());
 
 /// Draws the windows that are visible with a QML file whose root is a PhoneWindow. False, with what
 /// is wrong on standard error, when it cannot be drawn.

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "main/Launch.h"
 
+#include <memory>
+#include <utility>
+
 #include "app/AppDelegate.h"
 #include "app/ProgramStart.h"
 #include "main/MainStoryboard.h"
@@ -9,10 +12,11 @@
 
 namespace kindora {
 
-bool launch(QQmlApplicationEngine& engine) {
+bool launch(QQmlApplicationEngine& engine, Services installed) {
   startProgram({.name = QStringLiteral("kindora"),
                 .displayName = QStringLiteral("Kindora"),
-                .desktopFileName = QStringLiteral("org.kindora.Kindora")});
+                .desktopFileName = QStringLiteral("org.kindora.Kindora")},
+               std::move(installed));
 
   AppDelegate& delegate = AppDelegate::sharedDelegate();
   delegate.window = std::make_shared<UIWindow>();

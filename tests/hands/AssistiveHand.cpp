@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/hands/AssistiveHand.h"
+
+#include <algorithm>
+
+namespace kindora {
+
+using Actions = QAccessibleActionInterface;
+
+bool AssistiveHand::act(const Thing& thing, const QStringList& actions) {
+  QAccessibleInterface* interface = thing.interface();
+  Actions* offered = interface != nullptr ? interface->actionInterface() : nullptr;
+  if (offered == nullptr) return false;
+  for (const QString& action : actions) {
+    if (!offered->actionNames().contains(action)) continue;
+    offered->doAction(action);
+    program().frame();
+    return true;
+  }
+  return false;
+}
+
+void AssistiveHand::pressInReach(const Thing& thing) {
+  if (!act(thing, {Actions::pressAction(), Actions::toggleAction()})) {
+    giveUp("\"" + thing.name + "\" offers no press");
+  }
+}
+
+// A list is read page by page; where it does not offer that, by going to its last row.
+void AssistiveHand::scrollTo(const std::string& name) {
+  constexpr int kMostPages = 60;
+  std::string before;
+  for (int i = 0; i < kMostPages; ++i) {
+    if (find(name).item) return;
+    const std::vector<Thing> all = things();
+    const std::string now = described(all);
+    if (now == before) break;
+    before = now;
+    bool moved = false;
+    for (const Thing& thing : all) {
+      moved = moved || (thing.role == QAccessible::List &&
+                        act(thing, {Actions::nextPageAction(), Actions::scrollDownAction()}));
+    }
+    const auto row = std::ranges::max_element(all, {}, [](const Thing& thing) {
+      return thing.isPressable() && thing.role != QAccessible::PageTab ? thing.rect.bottom() : -1;
+    });
+    if (!moved && row != all.end()) act(*row, {Actions::setFocusAction()});
+    program().rest();
+  }
+  giveUp("\"" + name + "\" does not come into the tree");
+}
+
+void AssistiveHand::write(const std::string& field, const QString& text) {
+  const Thing thing = findField(field);
+  if (!thing.item) giveUp("there is no field \"" + field + "\"");
+  QAccessibleInterface* interface = thing.interface();
+  act(thing, {Actions::setFocusAction()});
+  if (QAccessibleEditableTextInterface* editable = interface->editableTextInterface()) {
+    editable->replaceText(0, interface->textInterface()->characterCount(), text);
+  } else {
+    interface->setText(QAccessible::Value, text);
+  }
+  program().frame();
+}
+
+void AssistiveHand::type(const std::string& field, const std::string& text) {
+  waits([&] { return findField(field).item != nullptr; });
+  write(field, QString::fromStdString(textOf(field) + text));
+}
+
+void AssistiveHand::eraseAt(const std::string& field, int position) {
+  write(field, QString::fromStdString(textOf(field)).remove(position, 1));
+}
+
+void AssistiveHand::back() { press("Back"); }
+
+void AssistiveHand::rejectRow(const std::string& row) {
+  scrollTo(row);
+  const Thing thing = sees(row);
+  if (!act(thing, {Actions::showMenuAction(), Actions::scrollLeftAction()})) {
+    giveUp("\"" + thing.name + "\" offers nothing that leads to its rejection");
+  }
+  press("Reject");
+}
+
+void AssistiveHand::zoomIn(const std::string& square) {
+  for (int i = 0; i < 8; ++i) {
+    if (!act(sees(square), {Actions::increaseAction()})) {
+      giveUp("\"" + square + "\" offers no increase");
+    }
+  }
+}
+
+void AssistiveHand::increase(const std::string& slider) {
+  scrollTo(slider);
+  if (!act(sees(slider), {Actions::increaseAction()})) {
+    giveUp("\"" + slider + "\" offers no increase");
+  }
+}
+
+}  // namespace kindora

@@ -1,0 +1,179 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/hands/FingerHand.h"
+
+#include <QGuiApplication>
+#include <QStyleHints>
+#include <QTest>
+#include <algorithm>
+
+namespace kindora {
+
+FingerHand::FingerHand(Program& program) : Hand(program), screen_(QTest::createTouchDevice()) {}
+
+void FingerHand::tap(QPointF at) {
+  QTest::touchEvent(&program().window(), screen_.get()).press(0, at.toPoint());
+  program().frame();
+  QTest::touchEvent(&program().window(), screen_.get()).release(0, at.toPoint());
+  program().frame();
+}
+
+void FingerHand::drag(QPointF from, QPointF to, Pace pace) {
+  QQuickWindow* window = &program().window();
+  QTest::touchEvent(window, screen_.get()).press(0, from.toPoint());
+  program().frame();
+  for (int i = 1; i <= pace.steps; ++i) {
+    // The speed of a finger is told by Qt's own clock.
+    QTest::qSleep(pace.milliseconds);
+    QTest::touchEvent(window, screen_.get())
+        .move(0, (from + (to - from) * i / pace.steps).toPoint());
+    program().frame();
+  }
+  QTest::touchEvent(window, screen_.get()).release(0, to.toPoint());
+  program().rest();
+}
+
+void FingerHand::pressInReach(const Thing& thing) { tap(thing.seen().center()); }
+
+void FingerHand::pressLong(const std::string& name) {
+  scrollTo(name);
+  const QPoint at = sees(name).seen().center().toPoint();
+  QTest::touchEvent(&program().window(), screen_.get()).press(0, at);
+  program().frame();
+  QTest::qWait(QGuiApplication::styleHints()->mousePressAndHoldInterval() + 50);
+  program().frame();
+  QTest::touchEvent(&program().window(), screen_.get()).release(0, at);
+  program().rest();
+}
+
+// Drags what lies under the middle of the window, or of what the thing is seen through, down to its
+// end and up again, until the thing comes.
+void FingerHand::scrollTo(const std::string& name) {
+  constexpr int kMostDrags = 60;
+  double direction = -1;  // the finger goes up, what is below comes
+  int ends = 0;
+  std::string before;
+  for (int i = 0; i < kMostDrags && ends < 3; ++i) {
+    const Thing thing = find(name);
+    if (thing.item && makesOut(thing)) return;
+    const QSizeF size = program().window().size();
+    QRectF area(0, size.height() * 0.2, size.width(), size.height() * 0.6);
+    if (thing.item) {
+      if (!thing.clip.isEmpty()) area = thing.clip & area;
+      if (thing.clip.isEmpty() || area.isEmpty()) area = QRectF(QPointF(), size);
+      const double aside = thing.rect.center().x() - thing.clip.center().x();
+      if (thing.rect.right() <= thing.clip.left() || thing.rect.left() >= thing.clip.right()) {
+        const QPointF middle(thing.clip.center().x(), thing.rect.center().y());
+        const QPointF way(thing.clip.width() * (aside > 0 ? -0.35 : 0.35), 0);
+        draw(middle - way, middle + way);
+        continue;
+      }
+      direction = thing.rect.center().y() > thing.clip.center().y() ? -1 : 1;
+    }
+    const QPointF way(0, direction * area.height() * 0.4);
+    draw(area.center() - way, area.center() + way);
+    const std::string now = described(things());
+    if (now == before) {
+      ++ends;
+      direction = -direction;
+    }
+    before = now;
+  }
+  giveUp("no finger brings \"" + name + "\" into sight");
+}
+
+void FingerHand::touchField(const std::string& field) {
+  waits([&] { return findField(field).item != nullptr; });
+  if (!findField(field).item) giveUp("there is no field \"" + field + "\"");
+  if (focusedThing(program().window()).isCalled(field)) return;
+  if (!findField(field).inSight()) scrollTo(field);
+  tap(findField(field).seen().center());
+  program().rest();
+  if (!focusedThing(program().window()).isCalled(field)) {
+    giveUp("a touch does not bring the keyboard into \"" + field + "\"");
+  }
+}
+
+void FingerHand::send(QInputMethodEvent& event) {
+  QObject* target = QGuiApplication::focusObject();
+  if (target == nullptr) giveUp("nothing takes what the keyboard on the screen sends");
+  QCoreApplication::sendEvent(target, &event);
+  program().frame();
+}
+
+void FingerHand::placeCaret(int position) {
+  QInputMethodEvent event(
+      QString(), {QInputMethodEvent::Attribute(QInputMethodEvent::Selection, position, 0)});
+  send(event);
+}
+
+void FingerHand::type(const std::string& field, const std::string& text) {
+  touchField(field);
+  placeCaret(static_cast<int>(QString::fromStdString(textOf(field)).size()));
+  for (const QChar character : QString::fromStdString(text)) {
+    QInputMethodEvent event;
+    event.setCommitString(character);
+    send(event);
+  }
+}
+
+void FingerHand::eraseAt(const std::string& field, int position) {
+  touchField(field);
+  placeCaret(position);
+  QInputMethodEvent event;
+  event.setCommitString(QString(), 0, 1);
+  send(event);
+}
+
+void FingerHand::back() {
+  program().rest();
+  const QSizeF size = program().window().size();
+  const double width = std::min(size.width(), 480.0);
+  const double left = (size.width() - width) / 2;
+  draw({left + 4, size.height() * 0.6}, {left + width * 0.8, size.height() * 0.6});
+}
+
+void FingerHand::rejectRow(const std::string& row) {
+  scrollTo(row);
+  const QRectF place = sees(row).seen();
+  draw({place.right() - 40, place.center().y()}, {place.right() - 220, place.center().y()});
+  press("Reject");
+}
+
+// Rubs over the cover to and fro, line by line.
+void FingerHand::uncover() {
+  const double bottom = sees("Scratch the cover away").rect.top() - 12;
+  const double middle = program().window().width() / 2.0;
+  for (int i = 0; canSee("Scratch the cover away") && i < 14; ++i) {
+    const double y = bottom - 16 - i * 24;
+    drag({middle - 150, y}, {middle + 150, y}, {.steps = 14, .milliseconds = 1});
+  }
+}
+
+void FingerHand::zoomIn(const std::string& square) {
+  const QPoint middle = sees(square).seen().center().toPoint();
+  QQuickWindow* window = &program().window();
+  for (int apart = 30; apart <= 110; apart += 8) {
+    const QPoint half(apart, 0);
+    auto fingers = QTest::touchEvent(window, screen_.get());
+    if (apart == 30) {
+      fingers.press(0, middle - half).press(1, middle + half);
+    } else {
+      fingers.move(0, middle - half).move(1, middle + half);
+    }
+    fingers.commit();
+    program().frame();
+  }
+  QTest::touchEvent(window, screen_.get())
+      .release(0, middle - QPoint(110, 0))
+      .release(1, middle + QPoint(110, 0));
+  program().rest();
+}
+
+void FingerHand::increase(const std::string& slider) {
+  scrollTo(slider);
+  const QRectF place = sees(slider).seen();
+  draw(place.center(), {place.right() + 10, place.center().y()});
+}
+
+}  // namespace kindora
