@@ -13,12 +13,12 @@ using ShakeTime = ShakeRecognizer::Time;
 
 constexpr std::size_t kSwings = 4;
 constexpr ShakeTime kWindow{1000};  // that holds them
-constexpr ShakeTime kRest{500};     // that ends a gesture
+constexpr ShakeTime kRest{500};     // that ends a shake
 
 }  // namespace
 
 void ShakeRecognizer::beginAnewAfterRest(Time time) {
-  if (!lastSwing_ || time - *lastSwing_ < kRest) return;
+  if (!told_ || time - *lastSwing_ < kRest) return;
   axes_.assign(axes_.size(), {});
   lastSwing_.reset();
   told_ = false;

@@ -40,7 +40,7 @@ class ShakeRecognizer final {
 
   double threshold_;
   std::vector<Axis> axes_;
-  std::optional<Time> lastSwing_;  // of the gesture under way, along any axis
+  std::optional<Time> lastSwing_;  // along any axis
   bool told_ = false;              // that this gesture is a shake
 };
 
