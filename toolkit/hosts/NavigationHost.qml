@@ -87,6 +87,8 @@ FocusScope {
             property real speed: 0
 
             target: null
+            // Also from the swipe of a row on which the finger lies.
+            grabPermissions: PointerHandler.CanTakeOverFromAnything
             yAxis.enabled: false
             onActiveChanged: {
                 if (active) {

@@ -4,8 +4,8 @@ import QtQuick
 import Kindora.Toolkit.Quick
 
 // One line of a table: a header, or a card that, where it does something, is pressed and, where it
-// can be edited, swiped aside. Buttons are made where they are of use: assistive tools read all that
-// there are.
+// can be edited, swiped aside. Buttons are made where they are of use, since assistive tools read
+// all that there are.
 Item {
     id: root
 
@@ -101,18 +101,17 @@ Item {
             objectName: "row" + root.index
             hoverEnabled: false
             text: root.look?.spoken ?? ""
-            checkable: root.look?.checkable ?? false
-            checked: root.look?.checked ?? false
             ring.anchors.leftMargin: 14
             ring.anchors.rightMargin: 14
             ring.radius: 22
             Accessible.role: Accessible.Button
 
             onDownChanged: root.table.setHighlighted(root.index, press.down)
-            onClicked: {
-                root.table.select(root.index);
-                // The cell says whether it is ticked; a press may have come to nothing.
-                press.checked = Qt.binding(() => root.look?.checked ?? false);
+            onClicked: root.table.select(root.index)
+            // A button tells of its own ticks when it is complete, and has none.
+            Component.onCompleted: {
+                press.Accessible.checkable = Qt.binding(() => root.look?.checkable ?? false);
+                press.Accessible.checked = Qt.binding(() => root.look?.checked ?? false);
             }
             Keys.onDeletePressed: root.table.commitDelete(root.index)
             Keys.onMenuPressed: root.table.openRow(root.index)
@@ -180,6 +179,8 @@ Item {
     }
 
     TapHandler {
+        // A finger has no other button, and would press it by every tap.
+        acceptedDevices: PointerDevice.Mouse
         acceptedButtons: Qt.RightButton
         onTapped: root.table.openRow(root.index)
     }

@@ -189,7 +189,10 @@ TableList {
     time.settle();
     QQuickItem* row = spoken(QString::fromLatin1(name));
     ASSERT_NE(row, nullptr);
-    swipe({3, middle(row).y()}, {250, middle(row).y()});
+    const QPoint to(250, middle(row).y());
+    swipe({3, to.y()}, to, true);
+    time.advance(0.15);
+    HostFixture::lift(to);
     time.advance(0.5);
     EXPECT_EQ(depth(), 1U) << name;
   }

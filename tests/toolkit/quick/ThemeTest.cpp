@@ -16,7 +16,7 @@ TEST(Theme, PagesReadWhatRecordsRead) {
   engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
   QQmlComponent component(&engine);
   component.setData(R"(
-    import QtQml
+    import QtQuick
     import Kindora.Toolkit.Quick
     QtObject {
       property color danger: Theme.danger
