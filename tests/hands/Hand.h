@@ -21,8 +21,8 @@ class CannotGoOn final : public std::runtime_error {
 };
 
 /// What a user does with a program, whatever the user has to do it with. Things are called by the
-/// names that they show or that are read aloud; "Joe" is also found as "Joe, selected". What cannot
-/// be done throws CannotGoOn.
+/// names that they show or that are read aloud; "Two actions" is also found as "Two actions, Side
+/// by side". What cannot be done throws CannotGoOn.
 class Hand {
  public:
   explicit Hand(Program& program) : program_(program) {}

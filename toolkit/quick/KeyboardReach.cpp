@@ -232,6 +232,8 @@ void KeyboardReach::focusAt(const QRectF& place) {
 void KeyboardReach::showFocus() {
   const QQuickItem* item = window_->activeFocusItem();
   if (item == nullptr || !content_ || !content_->isAncestorOf(item)) return;
+  // A row that a finger has moved out of sight may hand the keyboard on, which moves nothing back.
+  if (area_->property("moving").toBool()) return;
   // What is under a finger stays there.
   if (item->property("focusReason").toInt() != Qt::MouseFocusReason) show(placeOf(*item));
 }

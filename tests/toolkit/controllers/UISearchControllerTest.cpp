@@ -11,7 +11,7 @@
 namespace kindora {
 namespace {
 
-using Lines = std::vector<std::string>;
+using Told = std::vector<std::string>;
 
 // A search that writes down what it is told: "update an".
 class UISearchControllerTest : public ::testing::Test,
@@ -31,10 +31,10 @@ class UISearchControllerTest : public ::testing::Test,
     activeAtDismissal = controller.isActive();
   }
   [[nodiscard]] UISearchBar& bar() { return *search.searchBar(); }
-  Lines log() { return std::exchange(told, {}); }
+  Told log() { return std::exchange(told, {}); }
 
   UISearchController search;
-  Lines told;
+  Told told;
   bool activeAtDismissal = true;
 };
 
@@ -42,7 +42,7 @@ TEST_F(UISearchControllerTest, IsNotActiveAtTheStart) {
   EXPECT_FALSE(search.isActive());
   EXPECT_TRUE(search.dimsBackgroundDuringPresentation);
   EXPECT_TRUE(search.hidesNavigationBarDuringPresentation);
-  EXPECT_EQ(log(), (Lines{}));
+  EXPECT_EQ(log(), (Told{}));
 }
 
 TEST_F(UISearchControllerTest, BeginsWhenTheBarIsPressed) {
@@ -53,7 +53,7 @@ TEST_F(UISearchControllerTest, BeginsWhenTheBarIsPressed) {
 
 TEST_F(UISearchControllerTest, AsksForTheResultsOfNoTextWhenItBegins) {
   bar().press();
-  EXPECT_EQ(log(), (Lines{"update "}));
+  EXPECT_EQ(log(), (Told{"update "}));
 }
 
 TEST_F(UISearchControllerTest, AsksForResultsAtEveryEdit) {
@@ -62,13 +62,13 @@ TEST_F(UISearchControllerTest, AsksForResultsAtEveryEdit) {
   bar().edit(QStringLiteral("a"));
   bar().edit(QStringLiteral("an"));
   bar().edit(QString());
-  EXPECT_EQ(log(), (Lines{"update a", "update an", "update "}));
+  EXPECT_EQ(log(), (Told{"update a", "update an", "update "}));
 }
 
 TEST_F(UISearchControllerTest, BeginsAtAnEditToo) {
   bar().edit(QStringLiteral("a"));
   EXPECT_TRUE(search.isActive());
-  EXPECT_EQ(log(), (Lines{"update a"}));
+  EXPECT_EQ(log(), (Told{"update a"}));
 }
 
 TEST_F(UISearchControllerTest, StaysActiveWithoutTheKeyboard) {
@@ -78,13 +78,13 @@ TEST_F(UISearchControllerTest, StaysActiveWithoutTheKeyboard) {
   bar().resignFirstResponder();
   EXPECT_TRUE(search.isActive());
   EXPECT_EQ(bar().text(), QStringLiteral("an"));
-  EXPECT_EQ(log(), (Lines{}));
+  EXPECT_EQ(log(), (Told{}));
 }
 
 TEST_F(UISearchControllerTest, TheKeyboardAloneBeginsNothing) {
   bar().searchTextField().becomeFirstResponder();
   EXPECT_FALSE(search.isActive());
-  EXPECT_EQ(log(), (Lines{}));
+  EXPECT_EQ(log(), (Told{}));
 }
 
 TEST_F(UISearchControllerTest, AnotherPressAsksForNothing) {
@@ -92,7 +92,7 @@ TEST_F(UISearchControllerTest, AnotherPressAsksForNothing) {
   bar().resignFirstResponder();
   log();
   bar().press();
-  EXPECT_EQ(log(), (Lines{}));
+  EXPECT_EQ(log(), (Told{}));
 }
 
 TEST_F(UISearchControllerTest, EndsWhenTheUserCancels) {
@@ -101,7 +101,7 @@ TEST_F(UISearchControllerTest, EndsWhenTheUserCancels) {
   log();
   bar().cancel();
   EXPECT_FALSE(search.isActive());
-  EXPECT_EQ(log(), (Lines{"dismissed "}));
+  EXPECT_EQ(log(), (Told{"dismissed "}));
 }
 
 TEST_F(UISearchControllerTest, EndsWithAnEmptyBarThatHasNoKeyboard) {
@@ -119,18 +119,18 @@ TEST_F(UISearchControllerTest, TellsItsEndOnce) {
   log();
   search.setActive(false);
   search.setActive(false);
-  EXPECT_EQ(log(), (Lines{"dismissed "}));
+  EXPECT_EQ(log(), (Told{"dismissed "}));
 }
 
 TEST_F(UISearchControllerTest, WithoutHavingBegunThereIsNothingToEnd) {
   search.setActive(false);
   bar().cancel();
-  EXPECT_EQ(log(), (Lines{}));
+  EXPECT_EQ(log(), (Told{}));
 }
 
 TEST_F(UISearchControllerTest, TheProgramMayBeginIt) {
   search.setActive(true);
-  EXPECT_EQ(log(), (Lines{"update "}));
+  EXPECT_EQ(log(), (Told{"update "}));
   EXPECT_TRUE(bar().showsCancelButton());
 }
 
@@ -140,7 +140,7 @@ TEST_F(UISearchControllerTest, NobodyNeedsToListen) {
   bar().edit(QStringLiteral("a"));
   search.setActive(false);
   EXPECT_FALSE(search.isActive());
-  EXPECT_EQ(log(), (Lines{}));
+  EXPECT_EQ(log(), (Told{}));
 }
 
 }  // namespace

@@ -16,7 +16,7 @@
 namespace kindora {
 namespace {
 
-using Lines = std::vector<std::string>;
+using Told = std::vector<std::string>;
 
 class TextCell final : public UITableViewCell {
  public:
@@ -40,7 +40,7 @@ class Source final : public UITableViewDataSource {
   bool hasIdentities = true;
   UITableView* table = nullptr;
   int filled = 0;
-  Lines calls;
+  Told calls;
 
   int numberOfSectionsInTableView() override { return 2; }
   int tableViewNumberOfRowsInSection(int section) override {
@@ -98,8 +98,8 @@ class UITableViewTest : public ::testing::Test {
     table.reloadData();
   }
 
-  [[nodiscard]] Lines shown() const {
-    Lines lines;
+  [[nodiscard]] Told shown() const {
+    Told lines;
     for (int row = 0; row < reader.count(); ++row) {
       lines.push_back(reader.isHeader(row) ? "# " + *reader.header(row)->textLabel.lock()->text()
                                            : reader.cell<TextCell>(row)->text);
@@ -128,7 +128,7 @@ TEST_F(UITableViewTest, IsEmptyBeforeItsFirstReload) {
 }
 
 TEST_F(UITableViewTest, ListsEverySectionUnderItsHeader) {
-  EXPECT_EQ(shown(), (Lines{"# first", "a", "b", "c", "# second", "d", "e"}));
+  EXPECT_EQ(shown(), (Told{"# first", "a", "b", "c", "# second", "d", "e"}));
 }
 
 TEST_F(UITableViewTest, LetsTheSourceDressTheHeaders) {
@@ -179,7 +179,7 @@ TEST_F(UITableViewTest, ReusesTheCellsOfRowsThatLeft) {
   source.data[0] = {a, record("f"), record("g")};
   table.reloadData();
   EXPECT_EQ(made, 5);
-  EXPECT_EQ(shown(), (Lines{"# first", "a", "f", "g", "# second", "d", "e"}));
+  EXPECT_EQ(shown(), (Told{"# first", "a", "f", "g", "# second", "d", "e"}));
 }
 
 TEST_F(UITableViewTest, NoTwoRowsShareACell) {
@@ -223,7 +223,7 @@ TEST_F(UITableViewTest, ANewRowComesAndTheOthersStay) {
   TableEar ear(table);
   source.data[0].insert(source.data[0].begin(), record("new"));
   reloadBoth();
-  EXPECT_EQ(shown(), (Lines{"# first", "new", "a", "b", "c", "# second", "d", "e"}));
+  EXPECT_EQ(shown(), (Told{"# first", "new", "a", "b", "c", "# second", "d", "e"}));
   EXPECT_EQ(ear.inserted, 1);
   EXPECT_EQ(ear.removed + ear.moved, 0);
   EXPECT_EQ(reader.cell(2), cell);
@@ -233,7 +233,7 @@ TEST_F(UITableViewTest, ARowThatLeavesGoesAndTheOthersStay) {
   TableEar ear(table);
   source.data[0] = {a, c};
   reloadBoth();
-  EXPECT_EQ(shown(), (Lines{"# first", "a", "c", "# second", "d", "e"}));
+  EXPECT_EQ(shown(), (Told{"# first", "a", "c", "# second", "d", "e"}));
   EXPECT_EQ(ear.removed, 1);
   EXPECT_EQ(ear.inserted + ear.moved, 0);
 }
@@ -243,7 +243,7 @@ TEST_F(UITableViewTest, ARowThatMovesIsKept) {
   TableEar ear(table);
   source.data[0] = {c, a, b};
   reloadBoth();
-  EXPECT_EQ(shown(), (Lines{"# first", "c", "a", "b", "# second", "d", "e"}));
+  EXPECT_EQ(shown(), (Told{"# first", "c", "a", "b", "# second", "d", "e"}));
   EXPECT_EQ(ear.moved, 1);
   EXPECT_EQ(ear.inserted + ear.removed, 0);
   EXPECT_EQ(reader.cell(1), cell);
@@ -253,7 +253,7 @@ TEST_F(UITableViewTest, ARecordThatChangesItsSectionIsAnotherRow) {
   TableEar ear(table);
   source.data = {{{b, c}, {d, e, a}}};
   reloadBoth();
-  EXPECT_EQ(shown(), (Lines{"# first", "b", "c", "# second", "d", "e", "a"}));
+  EXPECT_EQ(shown(), (Told{"# first", "b", "c", "# second", "d", "e", "a"}));
   EXPECT_EQ(ear.removed, 1);
   EXPECT_EQ(ear.inserted, 1);
 }
@@ -269,7 +269,7 @@ TEST_F(UITableViewTest, EqualRecordsAreDifferentRows) {
 TEST_F(UITableViewTest, ARecordMayBeListedTwice) {
   source.data[0] = {a, b, a};
   reloadBoth();
-  EXPECT_EQ(shown(), (Lines{"# first", "a", "b", "a", "# second", "d", "e"}));
+  EXPECT_EQ(shown(), (Told{"# first", "a", "b", "a", "# second", "d", "e"}));
 }
 
 TEST_F(UITableViewTest, OfARecordListedTwiceOneMayLeave) {
@@ -277,7 +277,7 @@ TEST_F(UITableViewTest, OfARecordListedTwiceOneMayLeave) {
   reloadBoth();
   source.data[0] = {b, a};
   reloadBoth();
-  EXPECT_EQ(shown(), (Lines{"# first", "b", "a", "# second", "d", "e"}));
+  EXPECT_EQ(shown(), (Told{"# first", "b", "a", "# second", "d", "e"}));
 }
 
 TEST_F(UITableViewTest, OfTheLastRecordListedTwiceOneMayLeave) {
@@ -285,16 +285,16 @@ TEST_F(UITableViewTest, OfTheLastRecordListedTwiceOneMayLeave) {
   reloadBoth();
   source.data[1] = {e};
   reloadBoth();
-  EXPECT_EQ(shown(), (Lines{"# first", "a", "b", "c", "# second", "e"}));
+  EXPECT_EQ(shown(), (Told{"# first", "a", "b", "c", "# second", "e"}));
 }
 
 TEST_F(UITableViewTest, ASectionMayBecomeEmptyAndFillAgain) {
   source.data[0].clear();
   reloadBoth();
-  EXPECT_EQ(shown(), (Lines{"# first", "# second", "d", "e"}));
+  EXPECT_EQ(shown(), (Told{"# first", "# second", "d", "e"}));
   source.data[0] = {c};
   reloadBoth();
-  EXPECT_EQ(shown(), (Lines{"# first", "c", "# second", "d", "e"}));
+  EXPECT_EQ(shown(), (Told{"# first", "c", "# second", "d", "e"}));
 }
 
 TEST_F(UITableViewTest, RowsWithoutIdentityAreToldByTheirPlace) {
@@ -303,7 +303,7 @@ TEST_F(UITableViewTest, RowsWithoutIdentityAreToldByTheirPlace) {
   TableEar ear(table);
   source.data[0] = {c, b};
   reloadBoth();
-  EXPECT_EQ(shown(), (Lines{"# first", "c", "b", "# second", "d", "e"}));
+  EXPECT_EQ(shown(), (Told{"# first", "c", "b", "# second", "d", "e"}));
   EXPECT_EQ(ear.removed, 1);
   EXPECT_EQ(ear.inserted + ear.moved, 0);
 }
@@ -317,7 +317,7 @@ TEST_F(UITableViewTest, AnyListTurnsIntoAnyOther) {
       reloadBoth();
       source.data[0] = after;
       reloadBoth();
-      Lines expected{"# first"};
+      Told expected{"# first"};
       for (const auto& item : after) expected.push_back(item->text);
       expected.insert(expected.end(), {"# second", "d", "e"});
       ASSERT_EQ(shown(), expected);
@@ -330,7 +330,7 @@ TEST_F(UITableViewTest, ReloadingOneSectionLeavesTheOtherAlone) {
   source.filled = 0;
   TableEar ear(table);
   table.reloadSections({1}, UITableViewRowAnimation::automatic);
-  EXPECT_EQ(shown(), (Lines{"# first", "a", "b", "c", "# second", "e"}));
+  EXPECT_EQ(shown(), (Told{"# first", "a", "b", "c", "# second", "e"}));
   EXPECT_EQ(source.filled, 1);
   EXPECT_EQ(ear.changed, 2);
 }
@@ -360,7 +360,7 @@ TEST_F(UITableViewTest, IsAnimatedBeforeTheFirstRowMoves) {
 TEST_F(UITableViewTest, SelectingTellsTheSource) {
   table.select(2);
   table.select(6);
-  EXPECT_EQ(source.calls, (Lines{"select 0,1", "select 1,1"}));
+  EXPECT_EQ(source.calls, (Told{"select 0,1", "select 1,1"}));
   EXPECT_EQ(table.indexPathForSelectedRow(), (IndexPath{1, 1}));
 }
 
@@ -372,7 +372,7 @@ TEST_F(UITableViewTest, TheSelectionIsKnownWhenTheSourceHearsOfIt) {
 
 TEST_F(UITableViewTest, HeadersAndStrangersCannotBeSelected) {
   for (const int row : {0, 4, -1, 7}) table.select(row);
-  EXPECT_EQ(source.calls, (Lines{}));
+  EXPECT_EQ(source.calls, (Told{}));
   EXPECT_EQ(table.indexPathForSelectedRow(), std::nullopt);
 }
 
@@ -444,7 +444,7 @@ TEST_F(UITableViewTest, APressOnAnyRowOnlyClosesTheOpenOne) {
     EXPECT_FALSE(reader.cell(row)->isHighlighted());
     table.select(row);
     EXPECT_EQ(table.editingRow(), -1);
-    EXPECT_EQ(source.calls, (Lines{}));
+    EXPECT_EQ(source.calls, (Told{}));
     EXPECT_EQ(table.indexPathForSelectedRow(), std::nullopt);
   }
 }
@@ -474,14 +474,14 @@ TEST_F(UITableViewTest, AReloadClosesTheOpenRow) {
 TEST_F(UITableViewTest, PressingTheDeleteButtonAsksTheSource) {
   table.openRow(6);
   table.commitDelete(6);
-  EXPECT_EQ(source.calls, (Lines{"delete 1,1"}));
+  EXPECT_EQ(source.calls, (Told{"delete 1,1"}));
   EXPECT_EQ(table.editingRow(), 6);
   EXPECT_EQ(shown().back(), "e");
 }
 
 TEST_F(UITableViewTest, ARowThatCannotBeEditedIsNotDeleted) {
   for (const int row : {0, 1, 4, -1, 7}) table.commitDelete(row);
-  EXPECT_EQ(source.calls, (Lines{}));
+  EXPECT_EQ(source.calls, (Told{}));
 }
 
 // --- Sections without headers, and a view above all rows ---
@@ -489,14 +489,14 @@ TEST_F(UITableViewTest, ARowThatCannotBeEditedIsNotDeleted) {
 TEST_F(UITableViewTest, ASectionWithoutATitleHasNoHeader) {
   source.hasHeaders = false;
   table.reloadData();
-  EXPECT_EQ(shown(), (Lines{"a", "b", "c", "d", "e"}));
+  EXPECT_EQ(shown(), (Told{"a", "b", "c", "d", "e"}));
 }
 
 TEST_F(UITableViewTest, WithoutHeadersRowsKeepTheirPaths) {
   source.hasHeaders = false;
   table.reloadData();
   table.select(3);
-  EXPECT_EQ(source.calls, (Lines{"select 1,0"}));
+  EXPECT_EQ(source.calls, (Told{"select 1,0"}));
 }
 
 TEST_F(UITableViewTest, FindsTheCellThatShowsARow) {
