@@ -51,7 +51,13 @@ class TypicalChallenge(ChallengeTest):
 
     def challenge_title(self):
         """What the revealed challenge is called: the label right above its description."""
-        labels = [node for node in self.app.find_all(role="label") if node.extents[1] > 100]
+        # It is told as an alert while it is announced.
+        labels = [
+            node
+            for role in ("label", "alert")
+            for node in self.app.find_all(role=role)
+            if node.extents[1] > 100
+        ]
         return min(labels, key=lambda node: node.extents[1]).name
 
 

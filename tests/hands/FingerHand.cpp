@@ -47,13 +47,13 @@ void FingerHand::pressLong(const std::string& name) {
 }
 
 // Drags what lies under the middle of the window, or of what the thing is seen through, down to its
-// end and up again, until the thing comes.
+// end and up again, until the thing comes; more than once, since a fling may carry it past.
 void FingerHand::scrollTo(const std::string& name) {
-  constexpr int kMostDrags = 60;
+  constexpr int kMostDrags = 200;
   double direction = -1;  // the finger goes up, what is below comes
   int ends = 0;
   std::string before;
-  for (int i = 0; i < kMostDrags && ends < 3; ++i) {
+  for (int i = 0; i < kMostDrags && ends < 8; ++i) {
     const Thing thing = find(name);
     if (thing.item && makesOut(thing)) return;
     const QSizeF size = program().window().size();
@@ -70,7 +70,7 @@ void FingerHand::scrollTo(const std::string& name) {
       }
       direction = thing.rect.center().y() > thing.clip.center().y() ? -1 : 1;
     }
-    const QPointF way(0, direction * area.height() * 0.4);
+    const QPointF way(0, direction * area.height() * 0.25);
     draw(area.center() - way, area.center() + way);
     const std::string now = described(things());
     if (now == before) {

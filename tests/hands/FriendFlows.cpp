@@ -65,9 +65,9 @@ void manyBadges(Hand& hand) {
 void manyFriends(Hand& hand) {
   findManyFriends();
   openPicker(hand);
-  hand.press("Friend 40");
-  hand.sees("1 Friend Selected");
   hand.press("Friend 23");
+  hand.sees("1 Friend Selected");
+  hand.press("Friend 40");
   hand.sees("2 Friends Selected");
   hand.press("Friend 40");
   hand.sees("1 Friend Selected");

@@ -20,10 +20,6 @@ const std::vector<HandKind> kAllHands{HandKind::finger, HandKind::keys, HandKind
 // A flow stands with what stops a hand first.
 const std::vector<KnownFailures>& knownFailures() {
   static const std::vector<KnownFailures> table{
-      {"a row above those in sight is not found again",
-       {HandKind::finger, HandKind::assistive, HandKind::inputMethod},
-       {"ManyFriends"}},
-      {"a badge above those in sight is not found again", {HandKind::assistive}, {"ManyBadges"}},
       {"the keyboard does not reach each cell of a grid",
        {HandKind::keys},
        {"ManyBadges", "GridPage"}},

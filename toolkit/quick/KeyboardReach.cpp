@@ -230,10 +230,16 @@ void KeyboardReach::focusAt(const QRectF& place) {
 }
 
 void KeyboardReach::showFocus() {
-  const QQuickItem* item = window_->activeFocusItem();
-  if (item == nullptr || !content_ || !content_->isAncestorOf(item)) return;
-  // A row that a finger has moved out of sight may hand the keyboard on, which moves nothing back.
-  if (area_->property("moving").toBool()) return;
+  QQuickItem* const item = window_->activeFocusItem();
+  if (!content_) return;
+  // A row that has left for being out of sight hands the keyboard on, which is to move nothing
+  // back.
+  const bool handedOn =
+      hadFocus_ && !(focused_ && focused_->isVisible() && content_->isAncestorOf(focused_));
+  const bool inside = item != nullptr && content_->isAncestorOf(item);
+  if (inside) focused_ = item;
+  if (item != nullptr) hadFocus_ = inside || (handedOn && item->isAncestorOf(content_));
+  if (!inside || handedOn || area_->property("moving").toBool()) return;
   // What is under a finger stays there.
   if (item->property("focusReason").toInt() != Qt::MouseFocusReason) show(placeOf(*item));
 }

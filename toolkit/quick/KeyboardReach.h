@@ -73,6 +73,8 @@ class KeyboardReach : public QObject {
   QPointer<QQuickItem> content_;
   QPointer<QQuickWindow> window_;
   QMetaObject::Connection focus_;
+  QPointer<QQuickItem> focused_;  // the last one inside that had the keyboard
+  bool hadFocus_ = false;         // whether it was inside until now
   bool ordersSoon_ = false;
 };
 
