@@ -28,24 +28,32 @@ void AssistiveHand::pressInReach(const Thing& thing) {
 }
 
 // A list is read page by page; where it does not offer that, by going to its last row.
+// Down to the end and up again, until the thing comes.
 void AssistiveHand::scrollTo(const std::string& name) {
   constexpr int kMostPages = 60;
+  bool down = true;
   std::string before;
   for (int i = 0; i < kMostPages; ++i) {
     if (find(name).item) return;
     const std::vector<Thing> all = things();
     const std::string now = described(all);
-    if (now == before) break;
+    if (now == before) {
+      if (!down) break;
+      down = false;
+    }
     before = now;
     bool moved = false;
     for (const Thing& thing : all) {
-      moved = moved || (thing.role == QAccessible::List &&
-                        act(thing, {Actions::nextPageAction(), Actions::scrollDownAction()}));
+      moved = moved ||
+              (thing.role == QAccessible::List &&
+               act(thing,
+                   down ? QStringList{Actions::nextPageAction(), Actions::scrollDownAction()}
+                        : QStringList{Actions::previousPageAction(), Actions::scrollUpAction()}));
     }
     const auto row = std::ranges::max_element(all, {}, [](const Thing& thing) {
       return thing.isPressable() && thing.role != QAccessible::PageTab ? thing.rect.bottom() : -1;
     });
-    if (!moved && row != all.end()) act(*row, {Actions::setFocusAction()});
+    if (!moved && down && row != all.end()) act(*row, {Actions::setFocusAction()});
     program().rest();
   }
   giveUp("\"" + name + "\" does not come into the tree");
