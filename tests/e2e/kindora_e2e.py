@@ -491,6 +491,16 @@ class App:
         wait_until(settled, lambda: f"{node} comes to rest", deadline)
         return node
 
+    def wait_settled(self):
+        """Waits until everything has stayed where it is for some frames, after a page came in."""
+        seen = []
+
+        def settled():
+            seen.append(tuple((node.name, *node.extents) for node in self.find_all()))
+            return len(seen) > 6 and len(set(seen[-6:])) == 1
+
+        wait_until(settled, lambda: f"everything comes to rest in\n{self.tree()}")
+
     def _last_words(self):
         return "" if self.running else f"\nthe app has ended: {self.output()!r}"
 

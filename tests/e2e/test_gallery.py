@@ -30,8 +30,8 @@ class Gallery(kindora_e2e.AppTest):
 
     def open(self, page):
         self.app.click(self.app.wait_still(self.row(page)))
-        self.app.wait_still(self.app.wait_for(page, role="heading"))
-        self.app.wait_gone("Gallery", role="list")
+        self.app.wait_for(page, role="heading")
+        self.app.wait_settled()
 
     def back(self):
         self.app.key("Escape")

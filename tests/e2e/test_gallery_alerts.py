@@ -9,8 +9,8 @@ class GalleryAlerts(kindora_e2e.AppTest):
     def setUp(self):
         super().setUp()
         self.app.click(self.app.wait_still(self.row("Alerts")))
-        self.app.wait_still(self.app.wait_for("Alerts", role="heading"))
-        self.app.wait_gone("Gallery", role="list")
+        self.app.wait_for("Alerts", role="heading")
+        self.app.wait_settled()
 
     def find_row(self, title):
         buttons = self.app.find_all(role="push button")
@@ -23,16 +23,24 @@ class GalleryAlerts(kindora_e2e.AppTest):
         """Brings the row above the line at the bottom, and returns it."""
         app = self.app
         caption = app.geometry()[3] - 48
+        way = 1
+        seen = None
 
         def in_sight():
+            nonlocal way, seen
+            app.wait_settled()
+            # Only rows near what is in sight are there.
             row = self.find_row(title)
-            down = True
             if row is not None:
-                _, y, _, height = app.wait_still(row).extents
+                _, y, _, height = row.extents
                 if 44 <= y and y + height <= caption:
                     return row
-                down = y >= 44
-            app.wheel((200, caption - 100), 1 if down else -1)
+                way = 1 if y >= 44 else -1
+            places = [node.extents for node in app.find_all(role="push button")]
+            if places == seen:
+                way = -way
+            seen = places
+            app.wheel((200, caption - 100), way if row else 3 * way)
             return None
 
         return kindora_e2e.wait_until(in_sight, f"the row of {title} is in sight")
