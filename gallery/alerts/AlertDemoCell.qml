@@ -16,25 +16,18 @@ TableCell {
         color: root.cell?.showsSelection ? Theme.pressed : Theme.card
     }
 
-    ViewItem {
+    LabelOutlet {
         id: title
         owner: root.cell
         outlet: "titleLabel"
         x: 32
         width: parent.width - 64
         anchors.bottom: parent.verticalCenter
-        implicitHeight: titleText.implicitHeight
-
-        PlainText {
-            id: titleText
-            width: parent.width
-            text: title.text
-            points: 17
-            Accessible.ignored: true
-        }
+        points: 17
+        silent: true
     }
 
-    ViewItem {
+    LabelOutlet {
         id: detail
         owner: root.cell
         outlet: "detailLabel"
@@ -42,16 +35,9 @@ TableCell {
         width: parent.width - 64
         anchors.top: parent.verticalCenter
         anchors.topMargin: 2
-        implicitHeight: detailText.implicitHeight
-
-        PlainText {
-            id: detailText
-            width: parent.width
-            text: detail.text
-            points: 13
-            color: Theme.softInk
-            Accessible.ignored: true
-        }
+        points: 13
+        color: Theme.softInk
+        silent: true
     }
 
     Rectangle {

@@ -22,21 +22,15 @@ CollectionCell {
             NumberAnimation { duration: Theme.pressDuration }
         }
 
-        ViewItem {
+        LabelOutlet {
             id: number
             owner: root.cell
             outlet: "numberLabel"
             anchors.fill: parent
-
-            PlainText {
-                anchors.fill: parent
-                text: number.text
-                points: 17
-                color: Qt.alpha(Theme.dim, 0.62)
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                Accessible.ignored: true
-            }
+            points: 17
+            color: Qt.alpha(Theme.dim, 0.62)
+            alignment: Text.AlignHCenter
+            silent: true
         }
     }
 }

@@ -20,7 +20,7 @@ TableCell {
         border.color: Theme.cardBorder
     }
 
-    ViewItem {
+    PictureOutlet {
         id: picture
         owner: root.cell
         outlet: "pictureView"
@@ -28,13 +28,8 @@ TableCell {
         width: 48
         height: 48
         anchors.verticalCenter: parent.verticalCenter
-
-        PictureItem {
-            anchors.fill: parent
-            radius: Theme.panelRadius
-            image: picture.image
-            ground: Theme.pictureGround
-        }
+        radius: Theme.panelRadius
+        ground: Theme.pictureGround
     }
 
     Column {
@@ -45,37 +40,23 @@ TableCell {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 4
 
-        ViewItem {
+        LabelOutlet {
             id: title
             owner: root.cell
             outlet: "titleLabel"
             width: parent.width
-            implicitHeight: titleText.implicitHeight
-
-            PlainText {
-                id: titleText
-                width: parent.width
-                text: title.text
-                points: 17
-                Accessible.ignored: true
-            }
+            points: 17
+            silent: true
         }
 
-        ViewItem {
+        LabelOutlet {
             id: detail
             owner: root.cell
             outlet: "detailLabel"
             width: parent.width
-            implicitHeight: detailText.implicitHeight
-
-            PlainText {
-                id: detailText
-                width: parent.width
-                text: detail.text
-                points: 13
-                color: Theme.softInk
-                Accessible.ignored: true
-            }
+            points: 13
+            color: Theme.softInk
+            silent: true
         }
     }
 

@@ -28,7 +28,7 @@ TableCell {
         visible: root.checked
     }
 
-    ViewItem {
+    LabelOutlet {
         id: name
         owner: root.cell
         outlet: "nameLabel"
@@ -37,16 +37,10 @@ TableCell {
         anchors.right: code.left
         anchors.rightMargin: 8
         height: parent.height
-
-        PlainText {
-            anchors.fill: parent
-            text: name.text
-            verticalAlignment: Text.AlignVCenter
-            Accessible.ignored: true
-        }
+        silent: true
     }
 
-    ViewItem {
+    LabelOutlet {
         id: code
         owner: root.cell
         outlet: "codeLabel"
@@ -54,15 +48,9 @@ TableCell {
         anchors.rightMargin: 16
         width: 56
         height: parent.height
-
-        PlainText {
-            anchors.fill: parent
-            text: code.text
-            color: Theme.softInk
-            horizontalAlignment: Text.AlignRight
-            verticalAlignment: Text.AlignVCenter
-            Accessible.ignored: true
-        }
+        color: Theme.softInk
+        alignment: Text.AlignRight
+        silent: true
     }
 
     Rectangle {

@@ -16,7 +16,7 @@ FormPage {
         width: parent.width
         height: picture.height + 32
 
-        ViewItem {
+        PictureOutlet {
             id: picture
             owner: root.controller
             outlet: "imageView"
@@ -24,20 +24,16 @@ FormPage {
             anchors.horizontalCenter: parent.horizontalCenter
             width: Math.max(192, Math.min(root.width - 48, 320, root.height - 240))
             height: width
+            radius: Theme.cardRadius
 
             ShadowItem {
+                z: -1
                 anchors.fill: parent
                 anchors.topMargin: 3
                 anchors.bottomMargin: -3
                 radius: Theme.cardRadius
                 blur: 8
                 opacity: 0.3
-            }
-
-            PictureItem {
-                anchors.fill: parent
-                radius: Theme.cardRadius
-                image: picture.image
             }
         }
 

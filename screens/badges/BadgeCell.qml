@@ -24,27 +24,21 @@ CollectionCell {
             height: parent.height
             x: container.shadowOffset.x
             y: container.shadowOffset.y
-            radius: Theme.tileRadius
+            radius: container.shadowRadius
             blur: 6
             opacity: container.shadowOpacity
         }
 
-        ViewItem {
-            id: picture
+        PictureOutlet {
             owner: root.cell
             outlet: "badgeImageView"
             anchors.fill: parent
-
-            PictureItem {
-                anchors.fill: parent
-                radius: Theme.tileRadius
-                image: picture.image
-                ground: Theme.pictureGround
-            }
+            radius: Theme.tileRadius
+            ground: Theme.pictureGround
         }
     }
 
-    ViewItem {
+    LabelOutlet {
         id: name
         owner: root.cell
         outlet: "badgeLabel"
@@ -52,16 +46,10 @@ CollectionCell {
         anchors.topMargin: 8
         anchors.bottom: parent.bottom
         width: parent.width
-
-        PlainText {
-            width: parent.width
-            text: name.text
-            points: 12
-            color: name.textColor
-            wrapMode: Text.Wrap
-            maximumLineCount: 2
-            horizontalAlignment: Text.AlignHCenter
-            Accessible.ignored: true
-        }
+        points: 12
+        lines: 2
+        alignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignTop
+        silent: true
     }
 }

@@ -39,24 +39,16 @@ Rectangle {
             }
         }
 
-        ViewItem {
-            id: stamp
+        PictureOutlet {
             owner: root.controller
             outlet: "stampImageView"
             anchors.fill: picture
-
-            PictureItem {
-                anchors.fill: parent
-                image: stamp.image
-                fits: stamp.imageFits
-            }
         }
 
         FadingLabel {
             id: name
-            objectName: "challengeNameLabel"
             owner: root.controller
-            outlet: objectName
+            outlet: "challengeNameLabel"
             anchors.top: picture.bottom
             anchors.topMargin: 20
             x: 24
@@ -66,9 +58,8 @@ Rectangle {
 
         FadingLabel {
             id: description
-            objectName: "challengeDescriptionLabel"
             owner: root.controller
-            outlet: objectName
+            outlet: "challengeDescriptionLabel"
             anchors.top: name.bottom
             anchors.topMargin: 8
             x: 24
@@ -78,9 +69,8 @@ Rectangle {
 
         FadingLabel {
             id: info
-            objectName: "infoLabel"
             owner: root.controller
-            outlet: objectName
+            outlet: "infoLabel"
             anchors.top: description.bottom
             anchors.topMargin: 24
             x: 24
@@ -96,7 +86,7 @@ Rectangle {
             anchors.bottom: parent.bottom
             anchors.bottomMargin: 24
             width: 272
-            text: "Kindora!"
+            text: qsTr("Kindora!")
             onClicked: root.controller.kindoraTapped()
         }
     }

@@ -26,34 +26,27 @@ Rectangle {
         }
     }
 
-    ViewItem {
-        id: empty
-        owner: root.controller
-        outlet: "emptyLabel"
+    Column {
         anchors.centerIn: parent
         width: parent.width - 64
-        height: shelf.height
+        spacing: 24
+        visible: empty.shown
 
-        Column {
-            id: shelf
+        PictureItem {
+            width: 240
+            height: 180
+            anchors.horizontalCenter: parent.horizontalCenter
+            imageName: "emptyBadges"
+        }
+
+        LabelOutlet {
+            id: empty
+            owner: root.controller
+            outlet: "emptyLabel"
             width: parent.width
-            spacing: 24
-
-            PictureItem {
-                width: 240
-                height: 180
-                anchors.horizontalCenter: parent.horizontalCenter
-                imageName: "emptyBadges"
-            }
-
-            PlainText {
-                width: parent.width
-                text: empty.text
-                color: Theme.softInk
-                wrapMode: Text.Wrap
-                lineHeight: 1.2
-                horizontalAlignment: Text.AlignHCenter
-            }
+            color: Theme.softInk
+            lines: 0
+            alignment: Text.AlignHCenter
         }
     }
 }

@@ -35,7 +35,7 @@ TableCell {
             height: parent.height
             x: frame.shadowOffset.x
             y: frame.shadowOffset.y
-            radius: width / 2
+            radius: frame.shadowRadius
             blur: 5
             opacity: frame.shadowOpacity
         }
@@ -46,19 +46,13 @@ TableCell {
             color: Theme.card
         }
 
-        ViewItem {
-            id: picture
+        PictureOutlet {
             owner: root.cell
             outlet: "profileImageView"
             anchors.fill: parent
             anchors.margins: 2
-
-            PictureItem {
-                anchors.fill: parent
-                radius: width / 2
-                image: picture.image
-                ground: Theme.pictureGround
-            }
+            radius: width / 2
+            ground: Theme.pictureGround
         }
     }
 
@@ -70,37 +64,24 @@ TableCell {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        ViewItem {
+        LabelOutlet {
             id: name
             owner: root.cell
             outlet: "challengeLabel"
             width: parent.width
-            implicitHeight: nameText.implicitHeight
-
-            PlainText {
-                id: nameText
-                width: parent.width
-                text: name.text
-                points: 17
-                Accessible.ignored: true
-            }
+            points: 17
+            silent: true
         }
 
-        ViewItem {
+        LabelOutlet {
             id: detail
             owner: root.cell
             outlet: "senderLabel"
             width: parent.width
-            implicitHeight: text === "" ? 0 : detailText.implicitHeight
-
-            PlainText {
-                id: detailText
-                width: parent.width
-                text: detail.text
-                points: 13
-                color: Theme.softInk
-                Accessible.ignored: true
-            }
+            height: text === "" ? 0 : implicitHeight
+            points: 13
+            color: Theme.softInk
+            silent: true
         }
     }
 }

@@ -10,17 +10,13 @@ TableCell {
     implicitHeight: 60
     spoken: message.text
 
-    ViewItem {
+    LabelOutlet {
         id: message
         owner: root.cell
         outlet: "messageLabel"
         anchors.fill: parent
-
-        PlainText {
-            anchors.centerIn: parent
-            text: message.text
-            color: Theme.softInk
-            Accessible.ignored: true
-        }
+        color: Theme.softInk
+        alignment: Text.AlignHCenter
+        silent: true
     }
 }

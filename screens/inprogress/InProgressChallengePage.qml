@@ -53,9 +53,8 @@ Rectangle {
 
         FadingLabel {
             id: name
-            objectName: "challengeNameLabel"
             owner: root.controller
-            outlet: objectName
+            outlet: "challengeNameLabel"
             anchors.top: picture.bottom
             anchors.topMargin: 16
             x: 24
@@ -65,9 +64,8 @@ Rectangle {
 
         FadingLabel {
             id: description
-            objectName: "challengeDescriptionLabel"
             owner: root.controller
-            outlet: objectName
+            outlet: "challengeDescriptionLabel"
             anchors.top: name.bottom
             anchors.topMargin: 8
             x: 24
@@ -75,7 +73,7 @@ Rectangle {
             color: Theme.softInk
         }
 
-        ViewItem {
+        PillOutlet {
             id: complete
 
             readonly property bool finished: complete.text === ""
@@ -86,21 +84,12 @@ Rectangle {
             anchors.bottom: parent.bottom
             anchors.bottomMargin: 24
             width: Math.max(root.side, 272)
-            height: 50
             // The ceremony is seen from the picture on.
             onFinishedChanged: if (complete.finished) area.scrollTo(0)
-
-            PillButton {
-                objectName: "completeButton"
-                anchors.fill: parent
-                // The finished mark is drawn in the tint, which does not show on itself.
-                filled: !complete.finished
-                text: complete.text
-                picture: complete.image
-                pictureTint: complete.imageTint
-                Accessible.name: complete.finished ? qsTr("Completed") : complete.text
-                onClicked: root.controller.completePressed()
-            }
+            // The finished mark is drawn in the tint, which does not show on itself.
+            filled: !complete.finished
+            name: complete.finished ? qsTr("Completed") : complete.text
+            onClicked: root.controller.completePressed()
         }
     }
 

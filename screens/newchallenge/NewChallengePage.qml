@@ -107,9 +107,8 @@ Rectangle {
 
             FadingLabel {
                 id: name
-                objectName: "challengeNameLabel"
                 owner: root.controller
-                outlet: objectName
+                outlet: "challengeNameLabel"
                 anchors.top: picture.bottom
                 anchors.topMargin: 16
                 x: 24
@@ -119,9 +118,8 @@ Rectangle {
 
             FadingLabel {
                 id: description
-                objectName: "challengeDescriptionLabel"
                 owner: root.controller
-                outlet: objectName
+                outlet: "challengeDescriptionLabel"
                 anchors.top: name.bottom
                 anchors.topMargin: 8
                 x: 24
@@ -129,7 +127,7 @@ Rectangle {
                 color: Theme.softInk
             }
 
-            ViewItem {
+            PillOutlet {
                 id: accept
                 owner: root.controller
                 outlet: "acceptButton"
@@ -138,36 +136,19 @@ Rectangle {
                 anchors.right: parent.horizontalCenter
                 anchors.rightMargin: 8
                 width: root.buttonWidth
-                height: 50
-
-                PillButton {
-                    objectName: "acceptButton"
-                    anchors.fill: parent
-                    text: accept.text
-                    Accessible.ignored: !accept.shown
-                    onClicked: root.controller.accepted()
-                }
+                onClicked: root.controller.accepted()
             }
 
-            ViewItem {
-                id: reject
+            PillOutlet {
                 owner: root.controller
                 outlet: "rejectButton"
                 anchors.top: accept.top
                 anchors.left: parent.horizontalCenter
                 anchors.leftMargin: 8
                 width: root.buttonWidth
-                height: 50
-
-                PillButton {
-                    objectName: "rejectButton"
-                    anchors.fill: parent
-                    filled: false
-                    textColor: Theme.danger
-                    text: reject.text
-                    Accessible.ignored: !reject.shown
-                    onClicked: root.controller.rejected()
-                }
+                filled: false
+                textColor: Theme.danger
+                onClicked: root.controller.rejected()
             }
         }
     }

@@ -18,7 +18,7 @@ TableCell {
         color: root.cell?.showsSelection ? Theme.pressed : Theme.card
     }
 
-    ViewItem {
+    PictureOutlet {
         id: picture
         owner: root.cell
         outlet: "friendImageView"
@@ -26,16 +26,11 @@ TableCell {
         width: 44
         height: 44
         anchors.verticalCenter: parent.verticalCenter
-
-        PictureItem {
-            anchors.fill: parent
-            radius: width / 2
-            image: picture.image
-            ground: Theme.pictureGround
-        }
+        radius: width / 2
+        ground: Theme.pictureGround
     }
 
-    ViewItem {
+    LabelOutlet {
         id: name
         owner: root.cell
         outlet: "nameLabel"
@@ -44,14 +39,8 @@ TableCell {
         anchors.right: tick.left
         anchors.rightMargin: 12
         height: parent.height
-
-        PlainText {
-            anchors.fill: parent
-            text: name.text
-            points: 17
-            verticalAlignment: Text.AlignVCenter
-            Accessible.ignored: true
-        }
+        points: 17
+        silent: true
     }
 
     PictureItem {

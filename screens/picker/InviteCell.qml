@@ -16,18 +16,12 @@ TableCell {
         color: Theme.card
     }
 
-    ViewItem {
+    LabelOutlet {
         id: message
         owner: root.cell
         outlet: "messageLabel"
         anchors.fill: parent
-
-        PlainText {
-            anchors.centerIn: parent
-            text: message.text
-            font: message.textFont
-            color: message.textColor
-            Accessible.ignored: true
-        }
+        alignment: Text.AlignHCenter
+        silent: true
     }
 }

@@ -4,16 +4,9 @@ import QtQuick
 import Kindora.Toolkit.Hosts
 
 // The challenge's picture as a card with rounded corners.
-ViewItem {
-    id: root
-
-    objectName: "imageView"
-    outlet: objectName
-
-    PictureItem {
-        anchors.fill: parent
-        radius: Theme.cardRadius
-        image: root.image
-        ground: Theme.pictureGround
-    }
+PictureOutlet {
+    objectName: outlet
+    outlet: "imageView"
+    radius: Theme.cardRadius
+    ground: Theme.pictureGround
 }

@@ -13,16 +13,18 @@ Item {
     width: sender.x + sender.width
     height: sender.height
 
-    ViewItem {
-        id: face
-        objectName: "senderImageView"
+    PictureOutlet {
+        objectName: outlet
         owner: root.controller
-        outlet: objectName
+        outlet: "senderImageView"
         width: 40
         height: 40
         anchors.verticalCenter: parent.verticalCenter
+        radius: Theme.cardRadius
+        ground: Theme.pictureGround
 
         ShadowItem {
+            z: -1
             anchors.fill: parent
             anchors.topMargin: 2
             anchors.bottomMargin: -2
@@ -30,31 +32,17 @@ Item {
             blur: 4
             opacity: 0.35
         }
-
-        PictureItem {
-            anchors.fill: parent
-            radius: Theme.cardRadius
-            image: face.image
-            ground: Theme.pictureGround
-        }
     }
 
-    ViewItem {
+    LabelOutlet {
         id: sender
-        objectName: "senderLabel"
+        objectName: outlet
         owner: root.controller
-        outlet: objectName
+        outlet: "senderLabel"
         x: 52
-        width: Math.min(senderText.implicitWidth, root.maximumWidth - sender.x)
-        height: Math.max(40, senderText.implicitHeight)
-
-        PlainText {
-            id: senderText
-            width: parent.width
-            anchors.verticalCenter: parent.verticalCenter
-            text: sender.text
-            points: 17
-            wrapMode: Text.Wrap
-        }
+        width: Math.min(implicitWidth, root.maximumWidth - x)
+        height: Math.max(40, implicitHeight)
+        points: 17
+        lines: 0
     }
 }

@@ -6,6 +6,7 @@
 
 #include <QStringList>
 #include <QtGlobal>
+#include <utility>
 
 namespace kindora {
 
@@ -18,6 +19,9 @@ class QtWarnings final {
     qInstallMessageHandler(before_);
     EXPECT_EQ(heard().join(u'\n').toStdString(), "");
   }
+  /// What was warned of so far, which no longer fails the test.
+  [[nodiscard]] static QStringList take() { return std::exchange(heard(), {}); }
+
   QtWarnings(const QtWarnings&) = delete;
   QtWarnings& operator=(const QtWarnings&) = delete;
 

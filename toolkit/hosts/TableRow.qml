@@ -30,21 +30,15 @@ Item {
         active: root.isHeader
         width: root.width
         height: 44
-        sourceComponent: ViewItem {
-            id: label
-            owner: root.header
-            outlet: "textLabel"
-
-            PlainText {
+        sourceComponent: Item {
+            LabelOutlet {
+                owner: root.header
+                outlet: "textLabel"
                 x: 16
                 width: parent.width - 32
                 anchors.bottom: parent.bottom
                 anchors.bottomMargin: 10
-                text: label.text
-                points: 16
-                color: label.textColor
-                horizontalAlignment: label.textCentered ? Text.AlignHCenter : Text.AlignLeft
-                Accessible.role: Accessible.Heading
+                role: Accessible.Heading
             }
         }
     }

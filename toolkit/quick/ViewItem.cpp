@@ -127,14 +127,28 @@ QColor ViewItem::textColor() const {
   return color ? toQColor(*color) : QColor();
 }
 
-QFont ViewItem::textFont() const {
+bool ViewItem::hasTextFont() const {
   const auto* label = dynamic_cast<const UILabel*>(view_.get());
-  return label != nullptr && label->font() ? resolvedFont(*label->font()) : Appearance::font(16);
+  return label != nullptr && label->font().has_value();
 }
 
-bool ViewItem::isTextCentered() const {
+QFont ViewItem::textFont() const {
+  return hasTextFont() ? resolvedFont(*static_cast<const UILabel&>(*view_).font())
+                       : Appearance::font(16);
+}
+
+int ViewItem::textAlignment() const {
   const auto* label = dynamic_cast<const UILabel*>(view_.get());
-  return label != nullptr && label->textAlignment() == NSTextAlignment::center;
+  if (label == nullptr || !label->textAlignment()) return 0;
+  switch (*label->textAlignment()) {
+    case NSTextAlignment::left:
+      return Qt::AlignLeft;
+    case NSTextAlignment::center:
+      return Qt::AlignHCenter;
+    case NSTextAlignment::right:
+      return Qt::AlignRight;
+  }
+  return 0;
 }
 
 ImageHandle ViewItem::image() const {
@@ -167,6 +181,11 @@ QPointF ViewItem::shadowOffset() const {
   if (!view_) return {};
   const CGSize offset = view_->presentation().shadowOffset;
   return {offset.width, offset.height};
+}
+
+double ViewItem::shadowRadius() const {
+  if (!view_) return 0;
+  return view_->shadowPathRadius() >= 0 ? view_->shadowPathRadius() : cornerRadius();
 }
 
 QPointF ViewItem::translation() const {

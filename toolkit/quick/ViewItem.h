@@ -37,14 +37,16 @@ class ViewItem : public QQuickItem, private UIViewRenderer {
   Q_PROPERTY(kindora::ViewHandle record READ record WRITE setRecord NOTIFY recordChanged)
   Q_PROPERTY(QString text READ text NOTIFY viewChanged)
   Q_PROPERTY(QColor textColor READ textColor NOTIFY viewChanged)
+  Q_PROPERTY(bool hasTextFont READ hasTextFont NOTIFY viewChanged)
   Q_PROPERTY(QFont textFont READ textFont NOTIFY viewChanged)
-  Q_PROPERTY(bool textCentered READ isTextCentered NOTIFY viewChanged)
+  Q_PROPERTY(int textAlignment READ textAlignment NOTIFY viewChanged)
   Q_PROPERTY(kindora::ImageHandle image READ image NOTIFY viewChanged)
   Q_PROPERTY(QColor imageTint READ imageTint NOTIFY viewChanged)
   Q_PROPERTY(bool imageFits READ imageFits NOTIFY viewChanged)
   Q_PROPERTY(bool shown READ isShown NOTIFY viewChanged)
   Q_PROPERTY(double shadowOpacity READ shadowOpacity NOTIFY viewChanged)
   Q_PROPERTY(QPointF shadowOffset READ shadowOffset NOTIFY viewChanged)
+  Q_PROPERTY(double shadowRadius READ shadowRadius NOTIFY viewChanged)
   Q_PROPERTY(QPointF translation READ translation NOTIFY viewChanged)
   Q_PROPERTY(double cornerRadius READ cornerRadius NOTIFY viewChanged)
   Q_PROPERTY(QString spoken READ spoken NOTIFY viewChanged)
@@ -68,8 +70,11 @@ class ViewItem : public QQuickItem, private UIViewRenderer {
 
   [[nodiscard]] QString text() const;
   [[nodiscard]] QColor textColor() const;  ///< invalid when the storyboard is to choose
-  [[nodiscard]] QFont textFont() const;    ///< 16 points when the storyboard is to choose
-  [[nodiscard]] bool isTextCentered() const;
+  /// False when the storyboard is to choose; then `textFont` has 16 points.
+  [[nodiscard]] bool hasTextFont() const;
+  [[nodiscard]] QFont textFont() const;
+  /// A horizontal Qt::AlignmentFlag; 0 when the storyboard is to choose.
+  [[nodiscard]] int textAlignment() const;
   [[nodiscard]] ImageHandle image() const;
   /// Of a template image; invalid for any other.
   [[nodiscard]] QColor imageTint() const;
@@ -80,6 +85,8 @@ class ViewItem : public QQuickItem, private UIViewRenderer {
   [[nodiscard]] bool isShown() const;
   [[nodiscard]] double shadowOpacity() const;
   [[nodiscard]] QPointF shadowOffset() const;
+  /// Corner radius of what casts the shadow, in points.
+  [[nodiscard]] double shadowRadius() const;
   [[nodiscard]] QPointF translation() const;
   [[nodiscard]] double cornerRadius() const;
   /// What is read aloud for the view; empty when it does not say.

@@ -186,12 +186,35 @@ TEST_F(ViewItemTest, AColourThatIsNotSetIsInvalid) {
   EXPECT_EQ(item->textColor(), QColor(Qt::yellow));
 }
 
-TEST_F(ViewItemTest, KnowsACentredText) {
+TEST_F(ViewItemTest, AnAlignmentThatIsNotSetIsNone) {
   const auto label = owner.make<UILabel>("label");
   draw("label");
-  EXPECT_FALSE(item->isTextCentered());
+  EXPECT_EQ(item->textAlignment(), 0);
+  label->setTextAlignment(NSTextAlignment::left);
+  EXPECT_EQ(item->textAlignment(), Qt::AlignLeft);
   label->setTextAlignment(NSTextAlignment::center);
-  EXPECT_TRUE(item->isTextCentered());
+  EXPECT_EQ(item->textAlignment(), Qt::AlignHCenter);
+  label->setTextAlignment(NSTextAlignment::right);
+  EXPECT_EQ(item->textAlignment(), Qt::AlignRight);
+}
+
+TEST_F(ViewItemTest, AFontThatIsNotSetHas16Points) {
+  const auto label = owner.make<UILabel>("label");
+  draw("label");
+  EXPECT_FALSE(item->hasTextFont());
+  EXPECT_EQ(item->textFont(), Appearance::font(16));
+  label->setFont(UIFont::systemFontOfSize(20));
+  EXPECT_TRUE(item->hasTextFont());
+  EXPECT_EQ(item->textFont().pixelSize(), 20);
+}
+
+TEST_F(ViewItemTest, AShadowHasTheCornersOfItsPathElseThoseOfTheView) {
+  const auto view = owner.make<UIView>("card");
+  draw("card");
+  view->setCornerRadius(6);
+  EXPECT_EQ(item->shadowRadius(), 6);
+  view->setShadowPathRadius(16);
+  EXPECT_EQ(item->shadowRadius(), 16);
 }
 
 TEST_F(ViewItemTest, PassesTheImageOn) {
