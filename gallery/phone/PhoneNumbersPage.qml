@@ -56,11 +56,10 @@ FormPage {
         section: 1
         highlighted: number.inputFocus
 
-        TextField {
+        FieldOutlet {
             id: number
-            objectName: "numberField"
             owner: root.controller
-            outlet: objectName
+            outlet: "numberField"
             label: root.controller.sectionTitles[1]
             width: parent.width
         }

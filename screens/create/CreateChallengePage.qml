@@ -15,11 +15,10 @@ FormPage {
         section: 0
         highlighted: title.inputFocus
 
-        TextField {
+        FieldOutlet {
             id: title
-            objectName: "challengeTitleField"
             owner: root.controller
-            outlet: objectName
+            outlet: "challengeTitleField"
             label: root.controller.sectionTitles[0]
             width: parent.width
         }
@@ -30,11 +29,10 @@ FormPage {
         section: 1
         highlighted: description.inputFocus
 
-        TextField {
+        FieldOutlet {
             id: description
-            objectName: "challengeDescriptionField"
             owner: root.controller
-            outlet: objectName
+            outlet: "challengeDescriptionField"
             label: root.controller.sectionTitles[1]
             width: parent.width
         }

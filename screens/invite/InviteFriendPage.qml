@@ -15,11 +15,10 @@ FormPage {
         section: 0
         highlighted: name.inputFocus
 
-        TextField {
+        FieldOutlet {
             id: name
-            objectName: "nameField"
             owner: root.controller
-            outlet: objectName
+            outlet: "nameField"
             label: root.controller.sectionTitles[0]
             width: parent.width
         }
@@ -30,11 +29,10 @@ FormPage {
         section: 1
         highlighted: number.inputFocus
 
-        TextField {
+        FieldOutlet {
             id: number
-            objectName: "numberField"
             owner: root.controller
-            outlet: objectName
+            outlet: "numberField"
             label: root.controller.sectionTitles[1]
             width: parent.width
         }
@@ -46,11 +44,10 @@ FormPage {
         rowHeight: 120
         highlighted: message.inputFocus
 
-        TextView {
+        TextViewOutlet {
             id: message
-            objectName: "messageField"
             owner: root.controller
-            outlet: objectName
+            outlet: "messageField"
             label: root.controller.sectionTitles[2]
             anchors.fill: parent
             anchors.topMargin: 16

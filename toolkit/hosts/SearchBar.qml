@@ -42,8 +42,6 @@ Rectangle {
             anchors.right: clear.left
             anchors.top: parent.top
             anchors.bottom: parent.bottom
-            owner: null
-            outlet: ""
             record: root.bar.searchTextField
             label: field.placeholder
             escapes: root.bar.showsCancelButton

@@ -28,10 +28,10 @@ bool hasEffects(const QObject& item) {
 
 }  // namespace
 
-BlurItem::BlurItem(QQuickItem* parent) : ViewItem(parent) {}
+BlurItem::BlurItem(QQuickItem* parent) : FaceItem(parent) {}
 
 void BlurItem::itemChange(ItemChange change, const ItemChangeData& data) {
-  ViewItem::itemChange(change, data);
+  FaceItem::itemChange(change, data);
   if (change == ItemSceneChange || change == ItemVisibleHasChanged) watch();
 }
 

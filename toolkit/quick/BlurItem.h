@@ -7,13 +7,13 @@
 #include <QRectF>
 #include <QVariantList>
 
-#include "toolkit/quick/ViewItem.h"
+#include "toolkit/quick/FaceItem.h"
 
 namespace kindora {
 
 /// Tells a visual effect view's panel what lies behind it and whether that can be blurred: not by
 /// the software renderer, and not where the effects module is missing.
-class BlurItem : public kindora::ViewItem {
+class BlurItem : public kindora::FaceItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(bool blurs READ blurs NOTIFY backdropChanged)

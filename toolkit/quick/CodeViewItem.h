@@ -17,7 +17,7 @@ class GroundItem;
 class PageCurlItem;
 class PictureItem;
 class ShadowItem;
-class ViewItem;
+class FaceItem;
 
 /// Draws a view that was made in code, with all inside it: ground, border, shadow, and what its
 /// class shows: a picture, text, a field to type into, a blurred panel, what scrolls. A view with a
@@ -75,8 +75,8 @@ class CodeViewItem final : public QQuickItem {
   GroundItem* border_ = nullptr;  // above a picture
   PictureItem* picture_ = nullptr;
   PageCurlItem* curl_ = nullptr;
-  std::unique_ptr<ViewItem> face_;
-  std::unique_ptr<ViewItem> button_;
+  std::unique_ptr<FaceItem> face_;
+  std::unique_ptr<FaceItem> button_;
   DrawnSubviews drawn_;
   Surroundings told_;
   Subscription subscription_;

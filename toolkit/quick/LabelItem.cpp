@@ -19,7 +19,7 @@ constexpr double kOverhang = 2;  // points by which a letter may reach beyond it
 
 }  // namespace
 
-LabelItem::LabelItem(QQuickItem* parent) : ViewItem(parent) { setFlag(ItemHasContents); }
+LabelItem::LabelItem(QQuickItem* parent) : FaceItem(parent) { setFlag(ItemHasContents); }
 
 QString LabelItem::name() const { return spoken().isEmpty() ? text() : spoken(); }
 
@@ -50,7 +50,7 @@ TextLines LabelItem::lines() const {
 }
 
 void LabelItem::viewDidChange() {
-  ViewItem::viewDidChange();
+  FaceItem::viewDidChange();
   if (Look now = look(); now != drawn_) {
     drawn_ = std::move(now);
     redraw();
@@ -63,12 +63,12 @@ void LabelItem::redraw() {
 }
 
 void LabelItem::geometryChange(const QRectF& now, const QRectF& before) {
-  ViewItem::geometryChange(now, before);
+  FaceItem::geometryChange(now, before);
   if (now.size() != before.size()) redraw();
 }
 
 void LabelItem::itemChange(ItemChange change, const ItemChangeData& data) {
-  ViewItem::itemChange(change, data);
+  FaceItem::itemChange(change, data);
   if (change == ItemDevicePixelRatioHasChanged) redraw();
 }
 

@@ -4,14 +4,14 @@
 
 #include <optional>
 
+#include "toolkit/quick/FaceItem.h"
 #include "toolkit/quick/TextLines.h"
-#include "toolkit/quick/ViewItem.h"
 
 namespace kindora {
 
 /// Draws a label that was made in code, in its middle from top to bottom: line for line what the
 /// text measurer has measured for the label's width.
-class LabelItem : public kindora::ViewItem {
+class LabelItem : public kindora::FaceItem {
   Q_OBJECT
   QML_ELEMENT
   /// What is read aloud.

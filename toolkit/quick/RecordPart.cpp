@@ -36,17 +36,15 @@ QQmlComponent& componentOf(QQmlEngine& engine, const QString& type) {
 
 }  // namespace
 
-std::unique_ptr<ViewItem> makeRecordPart(const QString& type, const UIViewRef& view,
+std::unique_ptr<FaceItem> makeRecordPart(const QString& type, const UIViewRef& view,
                                          QQuickItem& parent) {
   QQmlComponent& component = componentOf(engineOf(parent), type);
   QObject* made = component.createWithInitialProperties(
-      {{QStringLiteral("owner"), QVariant::fromValue<QObject*>(nullptr)},
-       {QStringLiteral("outlet"), QString()},
-       {QStringLiteral("record"), QVariant::fromValue(ViewHandle{view})},
+      {{QStringLiteral("record"), QVariant::fromValue(ViewHandle{view})},
        {QStringLiteral("parent"), QVariant::fromValue(&parent)},
        {QStringLiteral("width"), parent.width()},
        {QStringLiteral("height"), parent.height()}});
-  std::unique_ptr<ViewItem> part(qobject_cast<ViewItem*>(made));
+  std::unique_ptr<FaceItem> part(qobject_cast<FaceItem*>(made));
   if (!part) fatalError("cannot show: " + component.errorString().toStdString());
   part->setParent(&parent);
   return part;

@@ -4,14 +4,14 @@
 
 #include <memory>
 
-#include "toolkit/quick/ViewItem.h"
+#include "toolkit/quick/FaceItem.h"
 
 namespace kindora {
 
-/// Makes an item of this module's QML type of that name, a ViewItem, which shows the view and fills
+/// Makes an item of this module's QML type of that name, a FaceItem, which shows the view and fills
 /// the parent. The parent's QML engine makes it; where there is none, one that all such parts
 /// share.
-[[nodiscard]] std::unique_ptr<ViewItem> makeRecordPart(const QString& type, const UIViewRef& view,
+[[nodiscard]] std::unique_ptr<FaceItem> makeRecordPart(const QString& type, const UIViewRef& view,
                                                        QQuickItem& parent);
 
 }  // namespace kindora

@@ -4,7 +4,7 @@ import QtQuick
 import Kindora.Toolkit.Quick
 
 // What is read aloud for a view made in code that shows nothing of its own.
-ViewItem {
+FaceItem {
     id: root
 
     readonly property bool speaks: root.announced && root.shown

@@ -44,19 +44,19 @@ void ScrollViewItem::scrolled(double x, double y) {
 }
 
 void ScrollViewItem::viewDidChange() {
-  ViewItem::viewDidChange();
+  FaceItem::viewDidChange();
   if (scrollView() == nullptr || scrollView()->contentOffset() == shown_) return;
   shown_ = scrollView()->contentOffset();
   emit offsetReset();
 }
 
 void ScrollViewItem::geometryChange(const QRectF& now, const QRectF& before) {
-  ViewItem::geometryChange(now, before);
+  FaceItem::geometryChange(now, before);
   if (now.size() != before.size()) revealFocus();
 }
 
 void ScrollViewItem::itemChange(ItemChange change, const ItemChangeData& data) {
-  ViewItem::itemChange(change, data);
+  FaceItem::itemChange(change, data);
   if (change != ItemSceneChange) return;
   disconnect(focusChanges_);
   if (data.window == nullptr) return;

@@ -5,14 +5,14 @@
 #include <QPointF>
 #include <QSizeF>
 
-#include "toolkit/quick/ViewItem.h"
+#include "toolkit/quick/FaceItem.h"
 #include "toolkit/view/UIScrollView.h"
 
 namespace kindora {
 
 /// Joins a scroll view with the item that the user scrolls: each follows the other. What has the
 /// keyboard inside is scrolled into sight.
-class ScrollViewItem : public kindora::ViewItem {
+class ScrollViewItem : public kindora::FaceItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QSizeF contentSize READ contentSize NOTIFY viewChanged)
@@ -22,7 +22,7 @@ class ScrollViewItem : public kindora::ViewItem {
   Q_PROPERTY(QQuickItem* content MEMBER content_)
 
  public:
-  using ViewItem::ViewItem;
+  using FaceItem::FaceItem;
 
   [[nodiscard]] QSizeF contentSize() const;
   [[nodiscard]] QPointF contentOffset() const;

@@ -94,7 +94,7 @@ bool TextInputItem::isSecure() const {
 }
 
 QFont TextInputItem::fieldFont() const {
-  const bool own = textField() != nullptr && (textField()->font() || record().view);
+  const bool own = textField() != nullptr && (textField()->font() || textField()->isMadeInCode());
   return own ? resolvedFont(textField()->shownFont()) : Appearance::font(17);
 }
 
@@ -189,7 +189,7 @@ void TextInputItem::pressReturn() {
 bool TextInputItem::eventFilter(QObject* watched, QEvent* event) {
   UITextInput* const view = textInput();
   if (event->type() != QEvent::KeyPress || view == nullptr) {
-    return ViewItem::eventFilter(watched, event);
+    return FaceItem::eventFilter(watched, event);
   }
   const auto& key = static_cast<const QKeyEvent&>(*event);
   const bool undoes = key.matches(QKeySequence::Undo);
@@ -214,7 +214,7 @@ bool TextInputItem::eventFilter(QObject* watched, QEvent* event) {
 // --- What the view says ---
 
 void TextInputItem::viewDidChange() {
-  ViewItem::viewDidChange();
+  FaceItem::viewDidChange();
   if (!listening_) showText();
   moveKeyboard();
 }

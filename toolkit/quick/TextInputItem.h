@@ -5,7 +5,7 @@
 #include <QPointer>
 #include <QString>
 
-#include "toolkit/quick/ViewItem.h"
+#include "toolkit/quick/FaceItem.h"
 #include "toolkit/view/UITextInput.h"
 
 namespace kindora {
@@ -17,7 +17,7 @@ class UITextField;
 /// to the view as an edit, and what the view makes of it is shown there: so the text is the view's.
 /// While an input method composes, the view has what is composed as marked text, and only what
 /// came of it is an edit. Keys that undo are the view's, too.
-class TextInputItem : public kindora::ViewItem {
+class TextInputItem : public kindora::FaceItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QQuickItem* inputItem READ inputItem WRITE setInputItem NOTIFY inputItemChanged)
@@ -33,7 +33,7 @@ class TextInputItem : public kindora::ViewItem {
   Q_PROPERTY(double contentInset READ contentInset NOTIFY viewChanged)
 
  public:
-  using ViewItem::ViewItem;
+  using FaceItem::FaceItem;
   ~TextInputItem() override { leaveInputItem(); }
 
   [[nodiscard]] QQuickItem* inputItem() const { return inputItem_; }

@@ -38,17 +38,17 @@ class FormPageTest : public HostFixture {
               FormSection {
                 controller: form.controller
                 section: 0
-                TextField { owner: form.controller; outlet: "first"; label: "Name field"; width: 200 }
+                FieldOutlet { owner: form.controller; outlet: "first"; label: "Name field"; width: 200 }
               }
               FormSection {
                 controller: form.controller
                 section: 1
-                TextField { owner: form.controller; outlet: "second"; label: "Number field"; width: 200 }
+                FieldOutlet { owner: form.controller; outlet: "second"; label: "Number field"; width: 200 }
               }
               FormSection {
                 controller: form.controller
                 section: 2
-                TextField { owner: form.controller; outlet: "third"; label: "Message field"; width: 200 }
+                FieldOutlet { owner: form.controller; outlet: "third"; label: "Message field"; width: 200 }
               }
               FormSection {
                 controller: form.controller

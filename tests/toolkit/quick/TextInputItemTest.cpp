@@ -103,8 +103,7 @@ class TextInputItemTest : public QuickFixture {
     component.setData(QByteArray("import Kindora.Toolkit.Quick\n") + type + " { label: \"Label\" }",
                       {});
     QObject* made = component.createWithInitialProperties(
-        {{QStringLiteral("owner"), QVariant::fromValue<QObject*>(&owner)},
-         {QStringLiteral("outlet"), QString::fromLatin1(outlet)},
+        {{QStringLiteral("record"), QVariant::fromValue(ViewHandle{owner.outlet(outlet)})},
          {QStringLiteral("width"), 100},
          {QStringLiteral("parent"), QVariant::fromValue(window.contentItem())}});
     EXPECT_NE(made, nullptr) << component.errorString().toStdString();
