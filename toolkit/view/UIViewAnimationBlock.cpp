@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/view/UIViewAnimationBlock.h"
 
-#include <utility>
-
 #include "platform/FatalError.h"
 #include "toolkit/view/UIViewAnimatable.h"
 
@@ -19,7 +17,7 @@ UIViewAnimationBlock::UIViewAnimationBlock(const std::function<void()>& animatio
   running = this;
   animations();
   running = nullptr;
-  for (auto& [key, track] : tracks_) {
+  for (Track& track : tracks_) {
     if (const auto view = track.view.lock()) {
       track.to = view->state();
       track.revision = view->stateRevision();
@@ -30,14 +28,11 @@ UIViewAnimationBlock::UIViewAnimationBlock(const std::function<void()>& animatio
 UIViewAnimationBlock* UIViewAnimationBlock::current() { return running; }
 
 void UIViewAnimationBlock::willChange(const std::shared_ptr<UIViewAnimatable>& view) {
-  Track track{view, view->presentation(), {}, 0};
-  const auto [known, isNew] = tracks_.try_emplace(view.get(), track);
-  // Another view may have gone from this address meanwhile.
-  if (!isNew && known->second.view.expired()) known->second = std::move(track);
+  if (known_.insert(view).second) tracks_.push_back({view, view->presentation(), {}, 0});
 }
 
 void UIViewAnimationBlock::show(double fraction) const {
-  for (const auto& [key, track] : tracks_) {
+  for (const Track& track : tracks_) {
     const auto view = track.view.lock();
     // A state that was set since belongs to a later change.
     if (!view || view->stateRevision() != track.revision) continue;

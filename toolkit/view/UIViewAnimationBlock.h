@@ -4,8 +4,9 @@
 
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <memory>
+#include <set>
+#include <vector>
 
 #include "toolkit/view/UIViewState.h"
 
@@ -22,7 +23,8 @@ class UIViewAnimationBlock {
   /// Runs the closure and records every view that it changes. Blocks do not nest.
   explicit UIViewAnimationBlock(const std::function<void()>& animations);
 
-  /// Shows every caught view at the fraction of its way, 0 to 1 (springs overshoot).
+  /// Shows every caught view, in the order of their first changes, at the fraction of its way, 0 to
+  /// 1 (springs overshoot).
   void show(double fraction) const;
 
   /// The block whose closure runs now; null outside.
@@ -37,7 +39,9 @@ class UIViewAnimationBlock {
     UIViewState to;
     std::uint64_t revision = 0;  // of the view's state when the closure had run
   };
-  std::map<const UIViewAnimatable*, Track> tracks_;
+  std::vector<Track> tracks_;
+  // By owner: another view may come to lie where one has gone.
+  std::set<std::weak_ptr<UIViewAnimatable>, std::owner_less<>> known_;
 };
 
 }  // namespace kindora

@@ -4,32 +4,26 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <memory>
+#include <new>
+#include <vector>
 
+#include "platform/Subscription.h"
 #include "toolkit/view/NSLayoutConstraint.h"
 #include "toolkit/view/UIView.h"
 
 namespace kindora {
 namespace {
 
-// Memory for one object at a time, so that the next lies where the one before did.
-template <typename T>
-class OnePlace {
- public:
-  using value_type = T;
-  OnePlace() = default;
-  template <typename U>
-  explicit OnePlace(const OnePlace<U>& /*other*/) {}
-  T* allocate(std::size_t count) {
-    alignas(std::max_align_t) static std::array<std::byte, 4096> place;
-    EXPECT_LE(count * sizeof(T), place.size());
-    return reinterpret_cast<T*>(place.data());
-  }
-  void deallocate(T* /*where*/, std::size_t /*count*/) {}
-  bool operator==(const OnePlace& /*other*/) const { return true; }
-};
+// A view that lies where the one before did.
+UIViewRef viewAtOnePlace() {
+  alignas(UIView) static std::array<std::byte, sizeof(UIView)> place;
+  return {new (place.data()) UIView, std::destroy_at<UIView>};
+}
 
 class UIViewAnimationBlockTest : public ::testing::Test {
  protected:
@@ -140,14 +134,37 @@ TEST_F(UIViewAnimationBlockTest, DoesNotKeepItsViews) {
   block.show(1);
 }
 
+TEST_F(UIViewAnimationBlockTest, ShowsViewsInTheOrderOfTheirFirstChanges) {
+  constexpr int kViews = 50;
+  std::vector<UIViewRef> views;
+  for (int i = 0; i < kViews; ++i) views.push_back(std::make_shared<UIView>());
+  // As they lie in memory, from the last to the first.
+  std::ranges::sort(views, std::greater());
+  std::vector<const UIView*> expected;
+  std::vector<const UIView*> shown;
+  std::vector<Subscription> subscriptions;
+  const UIViewAnimationBlock block([&] {
+    for (const UIViewRef& each : views) {
+      each->setAlpha(0);
+      expected.push_back(each.get());
+    }
+    views.front()->setCornerRadius(3);
+  });
+  for (const UIViewRef& each : views) {
+    subscriptions.push_back(each->observe([&, seen = each.get()] { shown.push_back(seen); }));
+  }
+  block.show(0.5);
+  EXPECT_EQ(shown, expected);
+}
+
 TEST_F(UIViewAnimationBlockTest, KnowsAViewFromOneThatHasGoneFromItsPlace) {
   UIViewRef second;
   const UIViewAnimationBlock block([&] {
-    auto first = std::allocate_shared<UIView>(OnePlace<UIView>());
+    UIViewRef first = viewAtOnePlace();
     const UIView* const place = first.get();
     first->setAlpha(0.5);
     first.reset();
-    second = std::allocate_shared<UIView>(OnePlace<UIView>());
+    second = viewAtOnePlace();
     ASSERT_EQ(second.get(), place);
     second->setAlpha(0);
   });
