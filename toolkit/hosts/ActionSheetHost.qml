@@ -4,24 +4,10 @@ import QtQuick
 import Kindora.Toolkit.Quick
 
 // Draws an action sheet: rows that rise from below, the cancelling one in a block of its own.
-FocusScope {
+DimmedLayer {
     id: root
 
-    required property UIAlertController controller
-    readonly property real progress: root.controller.presentationProgress
-
-    Rectangle {
-        anchors.fill: parent
-        color: Theme.dim
-        opacity: 0.4 * root.progress
-    }
-
-    MouseArea {
-        anchors.fill: parent
-        hoverEnabled: true
-        onClicked: root.controller.goBack()
-        onWheel: wheel => wheel.accepted = true
-    }
+    onClickedBeside: root.controller.goBack()
 
     Column {
         id: sheet
@@ -39,31 +25,15 @@ FocusScope {
             radius: Theme.panelRadius
             color: Theme.raised
 
-            Column {
+            AlertTexts {
                 id: texts
                 width: parent.width
-                padding: 14
-                spacing: 4
-
-                PlainText {
-                    width: parent.width - 28
-                    visible: text !== ""
-                    text: root.controller.alertTitle
-                    font: Appearance.boldFont(13)
-                    color: Theme.softInk
-                    wrapMode: Text.Wrap
-                    horizontalAlignment: Text.AlignHCenter
-                }
-
-                PlainText {
-                    width: parent.width - 28
-                    visible: text !== ""
-                    text: root.controller.alertMessage
-                    points: 13
-                    color: Theme.softInk
-                    wrapMode: Text.Wrap
-                    horizontalAlignment: Text.AlignHCenter
-                }
+                topPadding: 14
+                bottomPadding: 14
+                margin: 14
+                titlePoints: 13
+                color: Theme.softInk
+                controller: root.controller
             }
         }
 

@@ -4,25 +4,13 @@ import QtQuick
 import Kindora.Toolkit.Quick
 
 // Draws an alert: a card in the middle of the dimmed window.
-FocusScope {
+DimmedLayer {
     id: root
 
-    required property UIAlertController controller
-    readonly property real progress: root.controller.presentationProgress
     readonly property bool sideBySide: root.controller.actionTitles.length === 2
+    property bool arrived: false
 
-    Rectangle {
-        anchors.fill: parent
-        color: Theme.dim
-        opacity: 0.4 * root.progress
-    }
-
-    // Nothing below may be touched.
-    MouseArea {
-        anchors.fill: parent
-        hoverEnabled: true
-        onWheel: wheel => wheel.accepted = true
-    }
+    onProgressChanged: if (root.progress >= 1) root.arrived = true
 
     Rectangle {
         id: card
@@ -33,7 +21,8 @@ FocusScope {
         radius: Theme.panelRadius
         color: Theme.raised
         opacity: root.progress
-        scale: 1.12 - 0.12 * root.progress
+        // It settles as it comes, and only fades as it goes.
+        scale: root.arrived ? 1 : 1.12 - 0.12 * root.progress
         Accessible.role: Accessible.AlertMessage
         Accessible.name: root.controller.alertTitle
 
@@ -46,34 +35,13 @@ FocusScope {
             boundsBehavior: Flickable.StopAtBounds
             clip: interactive
 
-            Column {
+            AlertTexts {
                 id: texts
                 width: parent.width
                 topPadding: 20
                 bottomPadding: 20
-                spacing: 4
-
-                PlainText {
-                    x: 16
-                    width: parent.width - 32
-                    visible: text !== ""
-                    text: root.controller.alertTitle
-                    Accessible.ignored: true
-                    font: Appearance.boldFont(17)
-                    wrapMode: Text.Wrap
-                    horizontalAlignment: Text.AlignHCenter
-                }
-
-                PlainText {
-                    x: 16
-                    width: parent.width - 32
-                    visible: text !== ""
-                    text: root.controller.alertMessage
-                    points: 13
-                    wrapMode: Text.Wrap
-                    lineHeight: 1.1
-                    horizontalAlignment: Text.AlignHCenter
-                }
+                controller: root.controller
+                titleSilent: true
             }
         }
 

@@ -9,13 +9,7 @@ FocusScope {
 
     required property UIViewController controller
 
-    // Nothing below may be touched.
-    MouseArea {
-        anchors.fill: parent
-        hoverEnabled: true
-        acceptedButtons: Qt.AllButtons
-        onWheel: wheel => wheel.accepted = true
-    }
+    UntouchableArea {}
 
     RecordItem {
         objectName: "presentationContainer"

@@ -105,7 +105,9 @@ bool ViewLookItem::isShown() const {
   return view_ && !view_->isRemoved() && !view_->isHidden() && view_->presentation().alpha > 0;
 }
 
-double ViewLookItem::shadowOpacity() const { return view_ ? view_->presentation().shadowOpacity : 0; }
+double ViewLookItem::shadowOpacity() const {
+  return view_ ? view_->presentation().shadowOpacity : 0;
+}
 
 QPointF ViewLookItem::shadowOffset() const {
   if (!view_) return {};

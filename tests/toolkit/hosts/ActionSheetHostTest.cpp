@@ -91,6 +91,15 @@ TEST_F(ActionSheetHostTest, APressBesideItCancels) {
   EXPECT_THAT(chosen, ElementsAre("Cancel"));
 }
 
+TEST_F(ActionSheetHostTest, OnlyTheLeftButtonCancels) {
+  present();
+  addAction("Cancel", UIAlertActionStyle::cancel);
+  showFully();
+  QTest::mouseClick(&window, Qt::RightButton, Qt::NoModifier, {160, 20});
+  time.advance(0.5);
+  EXPECT_THAT(chosen, IsEmpty());
+}
+
 TEST_F(ActionSheetHostTest, WithoutACancellingRowAPressBesideItDoesNothing) {
   present();
   showFully();

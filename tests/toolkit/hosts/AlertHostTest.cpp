@@ -48,6 +48,15 @@ TEST_F(AlertHostTest, ComesInWithTheWindowDimmed) {
   EXPECT_EQ(pixel(5, 5), QColor(153, 153, 153));
 }
 
+TEST_F(AlertHostTest, OnlyFadesAsItGoes) {
+  presentFully({"OK"});
+  base->dismissViewController(true);
+  time.advance(0.1);
+  EXPECT_LT(found(kCard)->opacity(), 1);
+  EXPECT_GT(found(kCard)->opacity(), 0);
+  EXPECT_EQ(found(kCard)->scale(), 1);
+}
+
 TEST_F(AlertHostTest, StandsInTheMiddle) {
   presentFully({"OK"});
   const QRectF card = place(found(kCard));

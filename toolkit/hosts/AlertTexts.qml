@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Kindora developers
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Kindora.Toolkit.Quick
+
+// The title and the message of an alert or a sheet, in the middle.
+Column {
+    id: root
+
+    required property UIAlertController controller
+    property real margin: 16
+    property real titlePoints: 17
+    property color color: Theme.ink
+    // The title is the name of what the texts lie on.
+    property bool titleSilent: false
+
+    spacing: 4
+
+    PlainText {
+        x: root.margin
+        width: root.width - 2 * root.margin
+        visible: text !== ""
+        text: root.controller.alertTitle
+        font: Appearance.boldFont(root.titlePoints)
+        color: root.color
+        wrapMode: Text.Wrap
+        horizontalAlignment: Text.AlignHCenter
+        Accessible.ignored: root.titleSilent
+    }
+
+    PlainText {
+        x: root.margin
+        width: root.width - 2 * root.margin
+        visible: text !== ""
+        text: root.controller.alertMessage
+        points: 13
+        color: root.color
+        wrapMode: Text.Wrap
+        lineHeight: 1.1
+        horizontalAlignment: Text.AlignHCenter
+    }
+}
