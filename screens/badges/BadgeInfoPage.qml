@@ -11,22 +11,29 @@ Rectangle {
 
     required property BadgeInfoViewController controller
 
-    readonly property real side: Math.max(120, Math.min(width - 48, 220, height - 300))
-
     color: Theme.ground
+
+    ChallengeColumns {
+        id: shape
+        page: Qt.size(root.width, root.height)
+        textHeight: 300
+        smallestSide: 120
+        largestSide: sideBySide ? 320 : 220
+    }
 
     ScrollArea {
         anchors.fill: parent
         focus: true
-        contentHeight: Math.max(height, info.y + info.height + 24 + kindora.height + 24)
+        contentHeight: Math.max(height, picture.y + picture.height + 16,
+                                info.y + info.height + 24 + kindora.height + 24)
 
         PictureCard {
             id: picture
             owner: root.controller
-            width: root.side
-            height: root.side
-            anchors.horizontalCenter: parent.horizontalCenter
-            y: 32
+            x: shape.pictureX
+            y: shape.sideBySide ? shape.pictureY : 32
+            width: shape.side
+            height: shape.side
 
             ShadowItem {
                 z: -1
@@ -49,10 +56,8 @@ Rectangle {
             id: name
             owner: root.controller
             outlet: "challengeNameLabel"
-            anchors.top: picture.bottom
-            anchors.topMargin: 20
-            x: 24
-            width: root.width - 48
+            columns: shape
+            y: picture.y + (shape.sideBySide ? 0 : picture.height + 20)
             points: 24
         }
 
@@ -61,9 +66,8 @@ Rectangle {
             owner: root.controller
             outlet: "challengeDescriptionLabel"
             anchors.top: name.bottom
+            columns: shape
             anchors.topMargin: 8
-            x: 24
-            width: root.width - 48
             color: Theme.softInk
         }
 
@@ -72,9 +76,8 @@ Rectangle {
             owner: root.controller
             outlet: "infoLabel"
             anchors.top: description.bottom
+            columns: shape
             anchors.topMargin: 24
-            x: 24
-            width: root.width - 48
             points: 17
             color: Appearance.tintedText
         }
@@ -82,10 +85,10 @@ Rectangle {
         PillButton {
             id: kindora
             objectName: "kindoraButton"
-            anchors.horizontalCenter: parent.horizontalCenter
+            x: shape.sideBySide ? shape.textX : (parent.width - width) / 2
             anchors.bottom: parent.bottom
             anchors.bottomMargin: 24
-            width: 272
+            width: shape.sideBySide ? Math.min(shape.textWidth, 272) : 272
             text: qsTr("Kindora!")
             onClicked: root.controller.kindoraTapped()
         }

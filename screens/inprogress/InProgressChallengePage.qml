@@ -11,34 +11,37 @@ Rectangle {
 
     required property InProgressChallengeDetailViewController controller
 
-    readonly property real side: Math.max(140, Math.min(width - 48, 320, height - 300))
-
     color: Theme.ground
+
+    ChallengeColumns {
+        id: shape
+        page: Qt.size(root.width, root.height)
+        textHeight: 300
+    }
 
     ScrollArea {
         id: area
         anchors.fill: parent
         focus: true
         interactive: overflows && !complete.finished
-        contentHeight: Math.max(height, description.y + description.height + 24 + complete.height
-                                        + 24)
+        contentHeight: Math.max(height, picture.y + picture.height + 16,
+                                description.y + description.height + 24 + complete.height + 24)
 
         SenderLine {
             id: sender
-            anchors.horizontalCenter: parent.horizontalCenter
+            x: shape.sideBySide ? shape.textX : (parent.width - width) / 2
             y: 16
-            maximumWidth: root.width - 32
+            maximumWidth: shape.sideBySide ? shape.textWidth : root.width - 32
             controller: root.controller
         }
 
         PictureCard {
             id: picture
             owner: root.controller
-            width: root.side
-            height: root.side
-            anchors.horizontalCenter: parent.horizontalCenter
-            anchors.top: sender.bottom
-            anchors.topMargin: 32
+            x: shape.pictureX
+            y: shape.sideBySide ? shape.pictureY : sender.y + sender.height + 32
+            width: shape.side
+            height: shape.side
 
             ShadowItem {
                 z: -1
@@ -55,10 +58,9 @@ Rectangle {
             id: name
             owner: root.controller
             outlet: "challengeNameLabel"
-            anchors.top: picture.bottom
+            columns: shape
+            anchors.top: shape.sideBySide ? sender.bottom : picture.bottom
             anchors.topMargin: 16
-            x: 24
-            width: root.width - 48
             points: 24
         }
 
@@ -67,9 +69,8 @@ Rectangle {
             owner: root.controller
             outlet: "challengeDescriptionLabel"
             anchors.top: name.bottom
+            columns: shape
             anchors.topMargin: 8
-            x: 24
-            width: root.width - 48
             color: Theme.softInk
         }
 
@@ -80,10 +81,11 @@ Rectangle {
 
             owner: root.controller
             outlet: "completeButton"
-            anchors.horizontalCenter: parent.horizontalCenter
+            x: shape.sideBySide ? shape.textX : (parent.width - width) / 2
             anchors.bottom: parent.bottom
             anchors.bottomMargin: 24
-            width: Math.max(root.side, 272)
+            width: shape.sideBySide ? Math.min(shape.textWidth, 272)
+                                      : Math.max(shape.side, 272)
             // The ceremony is seen from the picture on.
             onFinishedChanged: if (complete.finished) area.scrollTo(0)
             // The finished mark is drawn in the tint, which does not show on itself.

@@ -22,7 +22,7 @@ CGRect frameForTabInTabBar(const UIView& tabBar, int index) {
     services().console->printLine("Oh no");
     return {};
   }
-  std::ranges::sort(frames, {}, [](const CGRect& frame) { return frame.origin.x; });
+  std::ranges::stable_sort(frames, {}, [](const CGRect& frame) { return frame.origin.x; });
   if (index < 0 || static_cast<std::size_t>(index) >= frames.size()) {
     fatalError("there is no tab " + std::to_string(index));
   }

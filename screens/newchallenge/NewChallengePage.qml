@@ -7,36 +7,44 @@ import Kindora.Screens.NewChallenge
 import Kindora.Screens.Shared
 
 // A new challenge. Before the reveal the covered card stands in the middle of the page; the reveal
-// closes the page up, so that card, texts and buttons form one block.
+// closes the page up, so that card, texts and buttons form one block. On a flat page the card
+// stands beside the texts all the time.
 Rectangle {
     id: root
 
     required property NewChallengeDetailViewController controller
 
-    readonly property real side: Math.max(140, Math.min(width - 48, 320, height - 256))
-    readonly property real buttonWidth: Math.max(side, 272) / 2 - 8
+    readonly property real buttonWidth: (shape.sideBySide ? Math.min(shape.textWidth, 320)
+                                                            : Math.max(shape.side, 272)) / 2 - 8
     readonly property real blockTop: sender.y + sender.height + 16
-    readonly property real blockHeight: side + 16 + name.height + 8 + description.height + 16 + 50
-    readonly property real centredY: Math.max(blockTop, (height - side) / 2)
+    readonly property real blockHeight: shape.side + 16 + name.height + 8 + description.height
+                                        + 16 + 50
+    readonly property real centredY: Math.max(blockTop, (height - shape.side) / 2)
     readonly property real closedY: blockTop
                                     + Math.max(0, (height - blockTop - blockHeight - 24) * 0.4)
 
-    readonly property real lowest: page.layoutProgress > 0 ? closedY + blockHeight
+    readonly property real lowest: page.layoutProgress > 0 ? accept.y + accept.height
                                                            : scratch.y + scratch.height
 
     color: Theme.ground
+
+    ChallengeColumns {
+        id: shape
+        page: Qt.size(root.width, root.height)
+        textHeight: 256
+    }
 
     ScrollArea {
         id: area
         anchors.fill: parent
         focus: true
-        contentHeight: Math.max(height, root.lowest + 24)
+        contentHeight: Math.max(height, picture.y + picture.height + 16, root.lowest + 24)
 
         SenderLine {
             id: sender
-            anchors.horizontalCenter: parent.horizontalCenter
-            y: 16
-            maximumWidth: root.width - 32
+            x: shape.sideBySide ? shape.textX : (parent.width - width) / 2
+            y: shape.sideBySide ? shape.pictureY : 16
+            maximumWidth: shape.sideBySide ? shape.textWidth : root.width - 32
             controller: root.controller
         }
 
@@ -61,10 +69,12 @@ Rectangle {
             PictureCard {
                 id: picture
                 owner: root.controller
-                width: root.side
-                height: root.side
-                anchors.horizontalCenter: parent.horizontalCenter
-                y: root.centredY + (root.closedY - root.centredY) * Math.min(1, page.layoutProgress)
+                x: shape.pictureX
+                y: shape.sideBySide ? shape.pictureY
+                                      : root.centredY + (root.closedY - root.centredY)
+                                        * Math.min(1, page.layoutProgress)
+                width: shape.side
+                height: shape.side
             }
 
             ScratchImageViewItem {
@@ -81,9 +91,9 @@ Rectangle {
             ButtonBase {
                 id: scratch
                 objectName: "scratchButton"
-                anchors.top: picture.bottom
-                anchors.topMargin: 12
-                anchors.horizontalCenter: parent.horizontalCenter
+                x: shape.sideBySide ? shape.textX : (parent.width - width) / 2
+                y: shape.sideBySide ? sender.y + sender.height + 12
+                                      : picture.y + picture.height + 12
                 implicitWidth: hint.implicitWidth + 32
                 implicitHeight: 48
                 visible: cover.shown
@@ -109,10 +119,8 @@ Rectangle {
                 id: name
                 owner: root.controller
                 outlet: "challengeNameLabel"
-                anchors.top: picture.bottom
-                anchors.topMargin: 16
-                x: 24
-                width: root.width - 48
+                columns: shape
+                y: (shape.sideBySide ? sender.y + sender.height : picture.y + picture.height) + 16
                 points: 24
             }
 
@@ -121,9 +129,8 @@ Rectangle {
                 owner: root.controller
                 outlet: "challengeDescriptionLabel"
                 anchors.top: name.bottom
+                columns: shape
                 anchors.topMargin: 8
-                x: 24
-                width: root.width - 48
                 color: Theme.softInk
             }
 
@@ -133,8 +140,7 @@ Rectangle {
                 outlet: "acceptButton"
                 anchors.top: description.bottom
                 anchors.topMargin: 16
-                anchors.right: parent.horizontalCenter
-                anchors.rightMargin: 8
+                x: shape.sideBySide ? shape.textX : parent.width / 2 - 8 - width
                 width: root.buttonWidth
                 onClicked: root.controller.accepted()
             }
@@ -143,8 +149,7 @@ Rectangle {
                 owner: root.controller
                 outlet: "rejectButton"
                 anchors.top: accept.top
-                anchors.left: parent.horizontalCenter
-                anchors.leftMargin: 8
+                x: accept.x + accept.width + 16
                 width: root.buttonWidth
                 filled: false
                 textColor: Theme.danger

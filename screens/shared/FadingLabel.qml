@@ -3,10 +3,16 @@
 import QtQuick
 import Kindora.Toolkit.Hosts
 
-// A centred text of a challenge, as long as it is.
+// A text of a challenge, as long as it is.
 LabelOutlet {
+    id: root
+
+    required property ChallengeColumns columns
+
     objectName: outlet
+    x: root.columns.textX
+    width: root.columns.textWidth
     points: 16
     lines: 0
-    alignment: Text.AlignHCenter
+    alignment: root.columns.alignment
 }

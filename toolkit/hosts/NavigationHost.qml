@@ -23,6 +23,8 @@ FocusScope {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         color: root.controller.backgroundColor
+        // What slides out does not lie on what stands beside.
+        clip: root.controller.topProgress < 1
 
         Repeater {
             model: root.controller.pages

@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 
-// A program's window: a phone's screen, centred where there is more room, with all the app's
-// windows in it.
+// A program's window: a phone's screen, upright or flat, centred where there is more room, with all
+// the app's windows in it.
 Window {
     id: root
 
     width: 390
     height: 844
     minimumWidth: 320
-    minimumHeight: 480
+    minimumHeight: 320
     visible: true
     color: Theme.surround
     // Where no window manager does it.
@@ -18,7 +18,7 @@ Window {
 
     WindowStack {
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width, 480)
+        width: parent.height < 480 ? parent.width : Math.min(parent.width, 480)
         height: parent.height
         focus: true
     }

@@ -3,18 +3,20 @@
 import QtQuick
 import Kindora.Toolkit.Quick
 
-// Draws a tab bar controller: the selected page above the bar of tabs.
+// Draws a tab bar controller: the selected page above the bar of tabs, or, where the window is
+// flat, beside it.
 FocusScope {
     id: root
 
     required property UITabBarController controller
+    readonly property bool flat: height < 480 && width > height
 
     // Above the bar, so that a page can send something flying into a tab.
     Item {
         id: area
-        width: parent.width
-        anchors.top: parent.top
-        anchors.bottom: bar.top
+        x: root.flat ? bar.width : 0
+        width: parent.width - x
+        height: parent.height - (root.flat ? 0 : bar.height)
         z: 1
         enabled: !overlay.covered
 
@@ -58,8 +60,8 @@ FocusScope {
         objectName: "tabBar"
         owner: root.controller.tabBar
         outlet: objectName
-        width: parent.width
-        height: 49
+        width: root.flat ? 72 : parent.width
+        height: root.flat ? parent.height : 49
         anchors.bottom: parent.bottom
         Accessible.role: Accessible.PageTabList
 
@@ -71,8 +73,9 @@ FocusScope {
         ViewItem {
             owner: root.controller.tabBar
             outlet: "hairline"
-            width: parent.width
-            height: 1
+            x: root.flat ? bar.width - 1 : 0
+            width: root.flat ? 1 : bar.width
+            height: root.flat ? bar.height : 1
 
             Rectangle {
                 anchors.fill: parent
@@ -91,12 +94,14 @@ FocusScope {
 
                 owner: root.controller.tabBar
                 outlet: "tab" + index
-                x: index * width
-                width: bar.width / root.controller.pages.count
-                height: bar.height
+                x: root.flat ? 0 : index * width
+                y: root.flat ? 8 + index * height : 0
+                width: root.flat ? bar.width : bar.width / root.controller.pages.count
+                height: root.flat ? 64 : bar.height
 
                 TabButton {
-                    anchors.fill: parent
+                    width: parent.width
+                    anchors.verticalCenter: parent.verticalCenter
                     enabled: !overlay.covered
                     item: tab.controller.tabBarItem
                     selected: tab.index === root.controller.selectedIndex

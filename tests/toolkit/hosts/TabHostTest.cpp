@@ -77,6 +77,21 @@ TEST_F(TabHostTest, ABarWithoutInputTakesNoPresses) {
   EXPECT_EQ(tabs->selectedIndex(), 0);
 }
 
+TEST_F(TabHostTest, InAFlatWindowTheBarStandsBesideThePage) {
+  window.resize(844, 390);
+  host->setSize({844, 390});
+  time.settle();
+  EXPECT_EQ(place(found(QStringLiteral("tabBar"))), QRectF(0, 0, 72, 390));
+  EXPECT_EQ(place(found(kOne)), QRectF(72, 0, 772, 390));
+  const QRectF first = place(spoken(QStringLiteral("One tab")));
+  const QRectF second = place(spoken(QStringLiteral("Two tab")));
+  EXPECT_LE(first.bottom(), second.top());
+  EXPECT_LE(second.right(), 72);
+  EXPECT_GE(first.height(), 48);
+  click(QStringLiteral("Two tab"));
+  EXPECT_TRUE(shows(kTwo));
+}
+
 TEST_F(TabHostTest, TheBarTellsWhereEachTabStands) {
   EXPECT_EQ(tabs->tabBar()->outlet("tab1")->frame(), (CGRect{{160, 0}, {160, 49}}));
 }
