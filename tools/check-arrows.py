@@ -8,7 +8,8 @@
 What each object really included stands in the dependency log of a build by Ninja, what each target
 declares in BUILD-FOLDER/targets.json. A target reads the headers of its own folder and of the
 folders that it links, directly or through others, and links no floor above its own. What the files
-of a folder include or import themselves, their own targets link themselves; tests need not.
+of a folder include or import themselves, their own targets link themselves, and nothing else; tests
+need not.
 """
 
 import collections
@@ -203,6 +204,12 @@ class Tree:
         with open(os.path.join(self._top, path), encoding="utf-8") as file:
             return re.findall(r"^\s*import\s+(Kindora(?:\.\w+)+)", file.read(), re.MULTILINE)
 
+    @functools.cache
+    def modules(self, path):
+        """The modules of the project that a file names, which in CMake are those that it passes on."""
+        with open(os.path.join(self._top, path), encoding="utf-8") as file:
+            return re.findall(r"\bKindora(?:\.\w+)+", file.read())
+
     def files(self, folder, kinds=(".h", ".cpp")):
         """The files of these kinds that lie in the folder itself."""
         names = sorted(os.listdir(os.path.join(self._top, folder)))
@@ -346,6 +353,20 @@ def written_errors(targets, tree):
                     yield f"{path}: imports {uri}, but {folder} does not link it"
 
 
+def unused_errors(targets, tree):
+    """Links of the house that no file of their folder has a use for, and that would license arrows."""
+    for name, folder in sorted(targets.folder.items()):
+        if longest(BESIDE, folder):
+            continue
+        used = {targets.owner(file) for path in tree.files(folder) for file in tree.included_files(path)}
+        described = tree.files(folder, (".qml", "CMakeLists.txt"))
+        used |= {module_folder(uri) for path in described for uri in tree.modules(path)}
+        for link in targets.links[name]:
+            linked = targets.folder.get(link, folder)
+            if linked not in (folder, *used):
+                yield f"{folder}/CMakeLists.txt: {name} links {link}, which no file there uses"
+
+
 def header_error(record, header, folders, targets, tree):
     """What is wrong with a header of the project that an object read, or None."""
     owner = targets.owner(header)
@@ -414,6 +435,7 @@ def main(arguments):
     known = list(records(log, tree))
     errors = dict.fromkeys(declared_errors(targets))
     errors.update(dict.fromkeys(written_errors(targets, tree)))
+    errors.update(dict.fromkeys(unused_errors(targets, tree)))
     for record in known:
         errors.update(dict.fromkeys(read_errors(record, targets, tree)))
     if not known:

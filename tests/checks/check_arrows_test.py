@@ -87,6 +87,11 @@ class Tiny:
             lines.append("")
         return "\n".join(lines) + "\n"
 
+    def unused(self):
+        """What is said of links that nobody uses; only these links there are."""
+        targets = arrows.Targets(self.targets())
+        return sorted(arrows.unused_errors(targets, arrows.Tree(self.top, self.build)))
+
     def errors(self):
         targets = arrows.Targets(self.targets())
         tree = arrows.Tree(self.top, self.build)
@@ -252,6 +257,25 @@ class ArrowsTest(unittest.TestCase):
             "toolkit/quick/A.qml: imports Kindora.Gallery, but toolkit/quick does not link it"
         )
 
+    def test_refuses_a_link_that_no_file_uses(self):
+        self.tiny.links = {"platform": [], "model": ["kindora_platform"], "tests/main": []}
+        self.tiny.links["tests/main"] = ["kindora_model"]
+        self.assertEqual(
+            self.tiny.unused(),
+            ["model/CMakeLists.txt: kindora_model links kindora_platform, which no file there uses"],
+        )
+        self.tiny.include("model", "platform/A.h")
+        self.assertEqual(self.tiny.unused(), [])
+
+    def test_accepts_a_link_to_a_module_that_is_imported_or_passed_on(self):
+        self.tiny.links = {"toolkit/quick": [], "gallery": ["kindora_toolkit_quick"]}
+        self.assertEqual(len(self.tiny.unused()), 1)
+        self.tiny.write("gallery/A.qml", "import Kindora.Toolkit.Quick\n")
+        self.assertEqual(self.tiny.unused(), [])
+        self.tiny.write("gallery/A.qml", "import QtQuick\n")
+        self.tiny.write("gallery/CMakeLists.txt", "kindora_qml_module(g IMPORTS Kindora.Toolkit.Quick)\n")
+        self.assertEqual(self.tiny.unused(), [])
+
     def test_refuses_fakes_in_the_house(self):
         self.tiny.links["platform/fakes"] = ["kindora_platform"]
         self.tiny.links["model"].append("kindora_platform_fakes")
@@ -341,6 +365,8 @@ class BuiltTreeTest(unittest.TestCase):
         )
 
     def test_refuses_what_the_compiler_read(self):
+        self.tiny.links["model"] = []
+        self.tiny.write("build/targets.json", json.dumps(self.tiny.targets()))
         self.tiny.write("platform/Name.h", '#define NAME "model/A.h"\n')
         self.tiny.write("platform/A.cpp", '#include "platform/Name.h"\n#include NAME\n')
         self.compile()
