@@ -31,7 +31,10 @@ inline UIImageRef plainPicture(std::size_t width, std::size_t height, Rgba8 colo
 /// Somebody with a root view named "view", for items to draw.
 class Owner final : public QObject, public OutletOwner {
  public:
-  Owner() { root->setName("view"); }
+  Owner() {
+    root->setName("view");
+    root->setPlacer(UIViewPlacer::page);
+  }
   [[nodiscard]] UIViewRef outlet(std::string_view name) override {
     return root->viewWithName(name);
   }

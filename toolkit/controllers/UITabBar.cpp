@@ -28,6 +28,7 @@ void UITabBarItem::setBadgeValue(const QString& value) {
 
 UITabBar::UITabBar() {
   view_->setName("tabBar");
+  view_->setPlacer(UIViewPlacer::page);
   std::weak_ptr<UIView> hairline;
   connectOutlet(hairline, "hairline", *view_);
 }

@@ -66,7 +66,7 @@ void UIWindow::reportSize(double width, double height) {
 
 // A view that a storyboard knows is placed by its item.
 void UIWindow::placeRootView() {
-  if (root_ && root_->isViewLoaded() && root_->view()->isMadeInCode()) {
+  if (root_ && root_->isViewLoaded() && root_->view()->placer() == UIViewPlacer::record) {
     root_->view()->setFrame(bounds());
   }
 }

@@ -26,6 +26,7 @@ void ViewControllerLife::loadViewIfNeeded() {
 UIViewRef ViewControllerLife::loadView() {
   auto view = std::make_shared<UIView>();
   view->setName("view");
+  view->setPlacer(UIViewPlacer::page);
   return view;
 }
 

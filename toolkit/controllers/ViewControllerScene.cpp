@@ -31,7 +31,7 @@ void ViewControllerScene::setScene(const UIStoryboard& storyboard, const UIStory
 
 QUrl ViewControllerScene::page() const {
   if (scene_ != nullptr) return scene_->page;
-  return self_.isViewLoaded() && self_.view()->isMadeInCode()
+  return self_.isViewLoaded() && self_.view()->placer() == UIViewPlacer::record
              ? pageUrl(u"Kindora.Toolkit.Hosts", u"RecordPage")
              : QUrl();
 }

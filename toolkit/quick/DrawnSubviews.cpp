@@ -23,7 +23,7 @@ void DrawnSubviews::show(const UIView& view, QQuickItem& parent) {
 void DrawnSubviews::showOnce(const UIView& view, QQuickItem& parent) {
   std::vector<UIViewRef> wanted;
   std::ranges::copy_if(view.subviews(), std::back_inserter(wanted),
-                       [](const auto& each) { return each->isMadeInCode(); });
+                       [](const auto& each) { return each->placer() == UIViewPlacer::record; });
   const auto shows = [](const auto& item, const auto& each) { return item->view() == each; };
   if (std::ranges::equal(items_, wanted, shows)) return;
 

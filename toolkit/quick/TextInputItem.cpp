@@ -94,7 +94,8 @@ bool TextInputItem::isSecure() const {
 }
 
 QFont TextInputItem::fieldFont() const {
-  const bool own = textField() != nullptr && (textField()->font() || textField()->isMadeInCode());
+  const bool own = textField() != nullptr &&
+                   (textField()->font() || textField()->placer() == UIViewPlacer::record);
   return own ? resolvedFont(textField()->shownFont()) : Appearance::font(17);
 }
 

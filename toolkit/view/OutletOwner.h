@@ -33,6 +33,7 @@ std::shared_ptr<View> connectOutlet(std::weak_ptr<View>& outlet, std::string_vie
                                     UIView& superview) {
   auto view = std::make_shared<View>();
   view->setName(name);
+  view->setPlacer(UIViewPlacer::page);
   superview.addSubview(view);
   outlet = view;
   return view;

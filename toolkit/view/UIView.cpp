@@ -87,7 +87,7 @@ void UIView::tintDidChange() {
 
 bool hasCoveringSubview(const UIView& view) {
   return std::ranges::any_of(view.subviews(), [&](const auto& subview) {
-    return subview->isMadeInCode() && subview->isUserInteractionEnabled() &&
+    return subview->placer() == UIViewPlacer::record && subview->isUserInteractionEnabled() &&
            subview->fillsSuperview();
   });
 }

@@ -34,6 +34,11 @@ class UIViewRenderer;
 inline constexpr double kNoIntrinsicMetric = -1;
 inline constexpr CGSize kNoIntrinsicSize{kNoIntrinsicMetric, kNoIntrinsicMetric};
 
+/// Who says where a view is. The record's own frame or its constraints; or the page of a
+/// storyboard, which knows the view as an outlet, lays it out and reports where it came to be.
+enum class UIViewPlacer { record, page };
+
+/// A view without pixels: what it shows and where, which items draw and controllers change.
 class UIView : public std::enable_shared_from_this<UIView>,
                public UIViewAnimatable,
                public UIViewAppearance,
@@ -49,8 +54,9 @@ class UIView : public std::enable_shared_from_this<UIView>,
   /// The name under which a storyboard connects an outlet to this view.
   [[nodiscard]] const std::string& name() const { return name_; }
   void setName(std::string_view name) { name_ = name; }
-  /// True for a view that no storyboard knows: its place is the record's, not the item's.
-  [[nodiscard]] bool isMadeInCode() const { return name_.empty(); }
+  /// Who places the view: its record as long as nobody else does.
+  [[nodiscard]] UIViewPlacer placer() const { return placer_; }
+  void setPlacer(UIViewPlacer placer) { placer_ = placer; }
 
   /// Calls the observer after every change until the subscription is dropped.
   [[nodiscard]] Subscription observe(Observer observer) {
@@ -158,6 +164,7 @@ class UIView : public std::enable_shared_from_this<UIView>,
   [[nodiscard]] LayoutPasses& passes();
 
   std::string name_;
+  UIViewPlacer placer_ = UIViewPlacer::record;
   ObserverList<> changes_;
 
   std::weak_ptr<UIView> superview_;

@@ -100,7 +100,7 @@ class InProgressCeremonyTest : public AppFixture {
   // The view on top of the page, once the stamp is there.
   static const UIImageView* stamp() {
     const auto* top = dynamic_cast<const UIImageView*>(root().subviews().back().get());
-    return top != nullptr && top->isMadeInCode() ? top : nullptr;
+    return top != nullptr && top->placer() == UIViewPlacer::record ? top : nullptr;
   }
   static UITabBarItem& badges() { return *tabs().viewControllers()[1]->tabBarItem(); }
   static UINavigationController& badgesStack() {

@@ -174,7 +174,7 @@ TEST_F(UIViewControllerTest, TheRootViewOfAStoryboardIsNamed) {
 TEST_F(UIViewControllerTest, MayMakeItsOwnRootView) {
   const auto a = makeViewController<CodeController>();
   EXPECT_TRUE(a->page().isEmpty());
-  EXPECT_TRUE(a->view()->isMadeInCode());
+  EXPECT_EQ(a->view()->placer(), UIViewPlacer::record);
   EXPECT_EQ(a->rootView().view, a->view());
   EXPECT_TRUE(a->page().path().endsWith(QStringLiteral("/RecordPage.qml")));
 }

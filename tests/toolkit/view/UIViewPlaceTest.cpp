@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "tests/toolkit/view/FakeRenderer.h"
+#include "toolkit/view/OutletOwner.h"
 #include "toolkit/view/UIImageView.h"
 #include "toolkit/view/UIView.h"
 #include "toolkit/view/UIViewAnimationBlock.h"
@@ -231,10 +232,15 @@ TEST_F(UIViewPlaceTest, ClipsOnlyWhenTold) {
   EXPECT_TRUE(view->clipsToBounds());
 }
 
-TEST_F(UIViewPlaceTest, ANamelessViewIsMadeInCode) {
-  EXPECT_TRUE(view->isMadeInCode());
+TEST_F(UIViewPlaceTest, ARecordPlacesItselfWhateverItsName) {
+  EXPECT_EQ(view->placer(), UIViewPlacer::record);
   view->setName("view");
-  EXPECT_FALSE(view->isMadeInCode());
+  EXPECT_EQ(view->placer(), UIViewPlacer::record);
+}
+
+TEST_F(UIViewPlaceTest, APagePlacesAnOutlet) {
+  std::weak_ptr<UIView> outlet;
+  EXPECT_EQ(connectOutlet(outlet, "outlet", *view)->placer(), UIViewPlacer::page);
 }
 
 // --- Covering ---
@@ -275,7 +281,7 @@ TEST_F(UIViewCoverTest, OneOfItsOwnSizeCoversNot) {
 }
 
 TEST_F(UIViewCoverTest, AStoryboardsViewCoversNot) {
-  cover->setName("page");
+  cover->setPlacer(UIViewPlacer::page);
   EXPECT_FALSE(hasCoveringSubview(*view));
 }
 
