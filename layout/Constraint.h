@@ -16,7 +16,8 @@ namespace kindora::layout {
 /// whatever the number and size of violations that this costs below. Among constraints of one
 /// strength the sum of the violations is made least (in the unit of their sides, so a constraint
 /// written twice as large counts twice). Where several solutions are equally good, which one is
-/// taken depends on the order of the calls. Violations below 1e-8 do not count.
+/// taken depends on the order of the calls. Violations below 1e-8, or below 1e-12 of the largest
+/// constant held, do not count.
 inline constexpr double kRequired = 1000;
 inline constexpr double kCompression = 750;  ///< against being made smaller than the content
 inline constexpr double kHugging = 250;      ///< against being made larger than the content

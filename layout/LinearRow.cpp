@@ -12,11 +12,22 @@ namespace {
 
 constexpr auto kBefore = [](const Cell& cell, Symbol symbol) { return cell.symbol < symbol; };
 
+// Whether a sum is what rounding left of the addend and its opposite.
+bool isCancelled(double sum, double addend) {
+  return std::abs(sum) <= std::max(kVanishing, kCancelled * std::abs(addend));
+}
+
 }  // namespace
 
 double LinearRow::coefficient(Symbol symbol) const {
   const auto place = std::lower_bound(cells_.begin(), cells_.end(), symbol, kBefore);
   return place != cells_.end() && place->symbol == symbol ? place->coefficient : 0;
+}
+
+double LinearRow::largest() const {
+  double largest = 0;
+  for (const Cell& cell : cells_) largest = std::max(largest, std::abs(cell.coefficient));
+  return largest;
 }
 
 void LinearRow::scale(double factor) {
@@ -27,11 +38,11 @@ void LinearRow::scale(double factor) {
 void LinearRow::add(Symbol symbol, double coefficient) {
   const auto place = std::lower_bound(cells_.begin(), cells_.end(), symbol, kBefore);
   if (place == cells_.end() || place->symbol != symbol) {
-    if (std::abs(coefficient) > kTiny) cells_.insert(place, {symbol, coefficient});
+    if (std::abs(coefficient) > kVanishing) cells_.insert(place, {symbol, coefficient});
     return;
   }
   place->coefficient += coefficient;
-  if (std::abs(place->coefficient) <= kTiny) cells_.erase(place);
+  if (isCancelled(place->coefficient, coefficient)) cells_.erase(place);
 }
 
 double LinearRow::take(Symbol symbol) {
@@ -54,15 +65,16 @@ void LinearRow::add(const LinearRow& other, double factor, std::vector<Symbol>& 
     if (own > 0 && cells_[own - 1].symbol >= cell.symbol) {
       Cell kept = cells_[--own];
       if (kept.symbol == cell.symbol) {
-        kept.coefficient += cell.coefficient * factor;
+        const double addend = cell.coefficient * factor;
+        kept.coefficient += addend;
         --theirs;
-        if (std::abs(kept.coefficient) <= kTiny) continue;
+        if (isCancelled(kept.coefficient, addend)) continue;
       }
       cells_[--end] = kept;
       continue;
     }
     --theirs;
-    if (std::abs(cell.coefficient * factor) <= kTiny) continue;
+    if (std::abs(cell.coefficient * factor) <= kVanishing) continue;
     cells_[--end] = {cell.symbol, cell.coefficient * factor};
     added.push_back(cell.symbol);
   }

@@ -18,8 +18,8 @@ struct Cell {
   double coefficient = 0;
 };
 
-/// constant + the sum of the cells; each symbol at most once, in ascending order. Coefficients that
-/// an addition brings within 1e-9 of 0 are taken for 0.
+/// constant + the sum of the cells; each symbol at most once, in ascending order. A coefficient
+/// of which an addition leaves nothing but rounding is taken for 0.
 class LinearRow final {
  public:
   double constant = 0;
@@ -27,6 +27,8 @@ class LinearRow final {
   [[nodiscard]] std::span<const Cell> cells() const { return cells_; }
   /// 0 for a symbol that has no cell.
   [[nodiscard]] double coefficient(Symbol symbol) const;
+  /// The largest coefficient, without its sign.
+  [[nodiscard]] double largest() const;
 
   void scale(double factor);
   void add(Symbol symbol, double coefficient);

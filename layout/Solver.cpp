@@ -13,6 +13,15 @@ namespace {
 
 double signOf(Relation relation) { return relation == Relation::lessThanOrEqual ? -1 : 1; }
 
+// Brings numbers of which this is the largest to about 1, without rounding.
+double scaleFor(double largest) { return largest > 0 ? std::exp2(-std::ilogb(largest)) : 1; }
+
+double largestOf(const std::vector<double>& numbers) {
+  double largest = 0;
+  for (const double number : numbers) largest = std::max(largest, std::abs(number));
+  return largest;
+}
+
 // Whether 0 stands in the relation to the constant.
 bool holdsOfZero(Relation relation, double constant) {
   switch (relation) {
@@ -105,7 +114,7 @@ Outcome Solver::setConstant(ConstraintId id, double constant) {
       return Outcome::unsatisfiable;
     }
   } else if (changed.kind == Kind::tableau) {
-    const Tableau::Shift shift{changed.slacks.surplus, -signOf(changed.relation) * change};
+    const Tableau::Shift shift{changed.slacks.surplus, -changed.factor * change};
     if (!tableau_.shift({&shift, 1})) return Outcome::unsatisfiable;
   } else {
     const Definitions::Term& subject = sum.terms[sum.subject];
@@ -189,11 +198,19 @@ void Solver::freeConstraint(Index index) {
 }
 
 // The term of merged_ whose variable the equality can define: one on which neither the tableau nor
-// the equality's other variables rest. None if there is no such term.
+// the equality's other variables rest, and by whose coefficient one may well divide. None if there
+// is no such term.
 Solver::Index Solver::definableTerm() {
+  double largest = 0;
+  for (const Definitions::Term& term : merged_) {
+    largest = std::max(largest, std::abs(term.coefficient));
+  }
+  const auto isLarge = [&](Index term) {
+    return std::abs(merged_[term].coefficient) >= kDefinablePivot * largest;
+  };
   Index fresh = kNone;
   for (Index term = 0; term < merged_.size(); ++term) {
-    if (definitions_.userOf(merged_[term].variable) != kNone) continue;
+    if (!isLarge(term) || definitions_.userOf(merged_[term].variable) != kNone) continue;
     if (fresh == kNone ||
         std::abs(merged_[term].coefficient) > std::abs(merged_[fresh].coefficient)) {
       fresh = term;
@@ -202,7 +219,8 @@ Solver::Index Solver::definableTerm() {
   if (fresh != kNone) return fresh;
   for (Index term = 0; term < merged_.size(); ++term) {
     const Index candidate = merged_[term].variable;
-    if (!definitions_.isDefined(candidate) && variables_[candidate].symbol == kNoSymbol &&
+    if (isLarge(term) && !definitions_.isDefined(candidate) &&
+        variables_[candidate].symbol == kNoSymbol &&
         !definitions_.othersRestOn(candidate, merged_)) {
       return term;
     }
@@ -213,8 +231,7 @@ Solver::Index Solver::definableTerm() {
 void Solver::undefine(Index index) {
   const Definitions::Constraint& definition = definitions_.constraint(index);
   const Definitions::Term subject = definition.terms[definition.subject];
-  const std::vector<Definitions::Movement> moved =
-      definitions_.movedBy(subject.variable, 1 / subject.coefficient);
+  const std::vector<Definitions::Movement> moved = definitions_.movedBy(subject.variable, 1);
   if (moved.empty()) {
     definitions_.undefine(index);
     markDirty(subject.variable);
@@ -227,11 +244,13 @@ void Solver::undefine(Index index) {
 bool Solver::enterTableau(Index index, double constant, std::optional<double> strength) {
   ConstraintRecord& entering = constraints_[index];
   Definitions::Expansion sum = definitions_.expand(merged_);
-  const double sign = signOf(entering.relation);
-  restOn(sum);
-  for (Cell& cell : cells_) cell.coefficient *= sign;
-  const auto slacks = tableau_.add(cells_, sign * (sum.constant - constant),
-                                   entering.relation == Relation::equal, strength);
+  // So that all constraints of the tableau are alike in size, however they were written.
+  const double scale = scaleFor(largestOf(sum.coefficients));
+  entering.factor = signOf(entering.relation) * scale;
+  hold(sum);
+  tell(sum, entering.factor);
+  const auto slacks = tableau_.add(cells_, entering.factor * (sum.constant - constant),
+                                   entering.relation == Relation::equal, scale, strength);
   if (!slacks) {
     for (const Index leaf : sum.leaves) release(leaf);
     return false;
@@ -255,23 +274,29 @@ void Solver::promote(Index index, std::span<const Definitions::Movement> moved) 
   const Definitions::Constraint& definition = definitions_.constraint(index);
   const Definitions::Term subject = definition.terms[definition.subject];
   Definitions::Expansion sum = definitions_.expand(definition.terms, definition.subject);
-  restOn(sum);
-  for (Cell& cell : cells_) cell.coefficient = -cell.coefficient / subject.coefficient;
+  hold(sum);
   hold(subject.variable);
-  promoted.slacks = tableau_.adopt(variables_[subject.variable].symbol, cells_,
-                                   (definition.constant - sum.constant) / subject.coefficient,
-                                   1 / subject.coefficient, shiftsOf(moved));
+  // Such that a unit of the surplus moves the variable by 1, and what rests on it as told.
+  promoted.factor = 1 / subject.coefficient;
+  tell(sum, promoted.factor);
+  cells_.push_back({variables_[subject.variable].symbol, 1});
+  promoted.slacks =
+      tableau_.adopt(variables_[subject.variable].symbol, cells_,
+                     promoted.factor * (sum.constant - definition.constant), shiftsOf(moved));
   promoted.kind = Kind::tableau;
   promoted.leaves = std::move(sum.leaves);
   promoted.leaves.push_back(subject.variable);
   definitions_.undefine(index);
   // What rested on the variable's definition rests on the variable now.
   for (const Definitions::Movement& movement : moved) {
-    Definitions::Expansion now =
-        definitions_.expand(definitions_.constraint(movement.constraint).terms);
-    for (const Index leaf : now.leaves) hold(leaf);
+    const Definitions::Constraint& told = definitions_.constraint(movement.constraint);
+    Definitions::Expansion now = definitions_.expand(told.terms);
+    hold(now);
     ConstraintRecord& resting = constraints_[movement.constraint];
     for (const Index leaf : resting.leaves) release(leaf);
+    tell(now, resting.factor);
+    tableau_.restate(resting.slacks.surplus, cells_,
+                     resting.factor * (now.constant - told.constant));
     resting.leaves = std::move(now.leaves);
   }
 }
@@ -281,17 +306,20 @@ std::vector<Tableau::Shift> Solver::shiftsOf(std::span<const Definitions::Moveme
   shifts.reserve(moved.size());
   for (const Definitions::Movement& movement : moved) {
     const ConstraintRecord& shifted = constraints_[movement.constraint];
-    shifts.push_back({shifted.slacks.surplus, signOf(shifted.relation) * movement.amount});
+    shifts.push_back({shifted.slacks.surplus, shifted.factor * movement.amount});
   }
   return shifts;
 }
 
-// Holds the leaves, and leaves the sum in cells_.
-void Solver::restOn(const Definitions::Expansion& sum) {
+void Solver::hold(const Definitions::Expansion& sum) {
+  for (const Index leaf : sum.leaves) hold(leaf);
+}
+
+// Leaves the sum, whose leaves are held, in cells_.
+void Solver::tell(const Definitions::Expansion& sum, double factor) {
   cells_.clear();
   for (std::size_t i = 0; i < sum.leaves.size(); ++i) {
-    hold(sum.leaves[i]);
-    cells_.push_back({variables_[sum.leaves[i]].symbol, sum.coefficients[i]});
+    cells_.push_back({variables_[sum.leaves[i]].symbol, factor * sum.coefficients[i]});
   }
 }
 

@@ -31,7 +31,7 @@
 
 namespace kindora::layout {
 
-/// What became of a request; all but `done` leave the solution as it was, but for rounding.
+/// What became of a request; all but `done` leave the solution as it was.
 enum class Outcome {
   done,
   unsatisfiable,      ///< it contradicts required constraints that are held, or itself
@@ -61,6 +61,8 @@ class Solver final {
 
   /// Brings the values up to date, for the price of those that changed.
   void update();
+  /// How many steps the tableau has made from one solution to the next, in all: what calls cost.
+  [[nodiscard]] std::uint64_t exchanges() const { return tableau_.exchanges(); }
   /// As of the last update. 0 for a variable that no constraint holds, that is new, or that is not
   /// known.
   [[nodiscard]] double value(Variable variable) const {
@@ -85,6 +87,7 @@ class Solver final {
     Kind kind = Kind::unused;
     Relation relation = Relation::equal;
     bool isRequired = true;
+    double factor = 1;  // of its sum, as the tableau holds it
     Tableau::Slacks slacks;
     std::vector<Index> leaves;  // on which it rests
   };
@@ -106,7 +109,8 @@ class Solver final {
   [[nodiscard]] std::vector<Tableau::Shift> shiftsOf(
       std::span<const Definitions::Movement> moved) const;
 
-  void restOn(const Definitions::Expansion& sum);
+  void hold(const Definitions::Expansion& sum);
+  void tell(const Definitions::Expansion& sum, double factor);
   void hold(Index leaf);
   void release(Index leaf);
   void markDirty(Index variable);
@@ -123,7 +127,7 @@ class Solver final {
 
   // Scratch, kept for its room.
   std::vector<Definitions::Term> merged_;
-  std::vector<Cell> cells_;  // of the expansion that restOn was given
+  std::vector<Cell> cells_;  // of the last sum that was told by leaves
 };
 
 }  // namespace kindora::layout

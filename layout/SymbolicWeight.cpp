@@ -9,15 +9,23 @@
 
 namespace kindora::layout {
 
+int SymbolicWeight::sign() const {
+  for (const auto& [strength, amount] : parts_) {
+    if (std::abs(amount) > kTiny) return amount < 0 ? -1 : 1;
+  }
+  return 0;
+}
+
 void SymbolicWeight::add(double strength, double amount) {
   const auto place = std::find_if(parts_.begin(), parts_.end(),
                                   [strength](const auto& part) { return part.first <= strength; });
   if (place == parts_.end() || place->first != strength) {
-    if (std::abs(amount) > kTiny) parts_.insert(place, {strength, amount});
+    if (std::abs(amount) > kVanishing) parts_.insert(place, {strength, amount});
     return;
   }
   place->second += amount;
-  if (std::abs(place->second) <= kTiny) parts_.erase(place);
+  const double least = std::max(kVanishing, kCancelled * std::abs(amount));
+  if (std::abs(place->second) <= least) parts_.erase(place);
 }
 
 void SymbolicWeight::add(const SymbolicWeight& other, double factor) {
@@ -26,6 +34,7 @@ void SymbolicWeight::add(const SymbolicWeight& other, double factor) {
 
 int SymbolicWeight::compare(const SymbolicWeight& left, double leftFactor,
                             const SymbolicWeight& right, double rightFactor) {
+  const auto decisive = [](double amount) { return std::abs(amount) > kTiny ? amount : 0; };
   auto l = left.parts_.begin();
   auto r = right.parts_.begin();
   while (l != left.parts_.end() || r != right.parts_.end()) {
@@ -33,10 +42,11 @@ int SymbolicWeight::compare(const SymbolicWeight& left, double leftFactor,
         l != left.parts_.end() && (r == right.parts_.end() || l->first >= r->first);
     const bool takeRight =
         r != right.parts_.end() && (l == left.parts_.end() || r->first >= l->first);
-    double difference = 0;
-    if (takeLeft) difference += (l++)->second * leftFactor;
-    if (takeRight) difference -= (r++)->second * rightFactor;
-    if (std::abs(difference) > kTiny) return difference < 0 ? -1 : 1;
+    const double leftAmount = takeLeft ? decisive((l++)->second) * leftFactor : 0;
+    const double rightAmount = takeRight ? decisive((r++)->second) * rightFactor : 0;
+    const double difference = leftAmount - rightAmount;
+    const double size = std::max({1.0, std::abs(leftAmount), std::abs(rightAmount)});
+    if (std::abs(difference) > kTiny * size) return difference < 0 ? -1 : 1;
   }
   return 0;
 }

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
+#include <utility>
 
 #include "layout/Tolerances.h"
 
@@ -38,6 +38,8 @@ void Tableau::release(Symbol symbol) {
   released.strength.reset();
   released.rows.clear();
   released.reducedCost.clear();
+  released.scale = 1;
+  released.held = kNotHeld;
   unusedSymbols_.push_back(symbol);
 }
 
@@ -79,13 +81,17 @@ void Tableau::noteCell(Symbol symbol, std::int32_t index) {
   if (noted.rows.size() > noted.rowLimit) static_cast<void>(rowsWith(symbol));
 }
 
+void Tableau::noteSize(double constant) {
+  largestConstant_ = std::max(largestConstant_, std::abs(constant));
+}
+
 bool Tableau::isInfeasible(const Row& row) const {
   if (row.basic == kNoSymbol) return false;
   switch (column(row.basic).kind) {
     case Kind::slack:
-      return row.expression.constant < -kTolerance;
+      return !(row.expression.constant >= -toleranceOf(row));
     case Kind::fixed:
-      return std::abs(row.expression.constant) > kTolerance;
+      return !(std::abs(row.expression.constant) <= toleranceOf(row));
     default:
       return false;
   }
@@ -125,14 +131,9 @@ LinearRow Tableau::inNonbasics(std::span<const Cell> cells, double constant) con
 
 void Tableau::noteReducedCost(Symbol symbol) {
   Column& noted = column(symbol);
-  if (noted.isCandidate || noted.kind != Kind::slack || !noted.reducedCost.isNegative()) return;
+  if (noted.isCandidate || noted.kind != Kind::slack || noted.reducedCost.sign() >= 0) return;
   noted.isCandidate = true;
   candidates_.push_back(symbol);
-}
-
-void Tableau::addReducedCost(Symbol symbol, const SymbolicWeight& cost, double factor) {
-  column(symbol).reducedCost.add(cost, factor);
-  noteReducedCost(symbol);
 }
 
 // Adds what the variable weighs as a violation, the factor times, to the objective.
@@ -140,6 +141,7 @@ void Tableau::addToObjective(Symbol symbol, double factor) {
   const Column& violation = column(symbol);
   if (!violation.strength) return;
   const double strength = *violation.strength;
+  factor /= violation.scale;
   if (violation.basicRow < 0) {
     column(symbol).reducedCost.add(strength, factor);
     noteReducedCost(symbol);
@@ -183,6 +185,7 @@ void Tableau::eliminate(Symbol basic, std::int32_t index) {
   const LinearRow& expression = row(index).expression;
   for (const std::int32_t other : rowsWith(basic)) {
     if (other == index) continue;
+    keep(other);
     LinearRow& target = row(other).expression;
     const double factor = target.take(basic);
     added_.clear();
@@ -192,14 +195,18 @@ void Tableau::eliminate(Symbol basic, std::int32_t index) {
   }
   Column& eliminated = column(basic);
   eliminated.rows.clear();
-  if (eliminated.reducedCost.isZero()) return;
+  if (eliminated.reducedCost.isEmpty()) return;
   for (const Cell& cell : expression.cells()) {
-    addReducedCost(cell.symbol, eliminated.reducedCost, cell.coefficient);
+    keepCost(cell.symbol);
+    column(cell.symbol).reducedCost.add(eliminated.reducedCost, cell.coefficient);
+    noteReducedCost(cell.symbol);
   }
+  keepCost(basic);
   eliminated.reducedCost.clear();
 }
 
 void Tableau::pivot(std::int32_t index, Symbol entering) {
+  keep(index);
   Row& turned = row(index);
   const Symbol leaving = turned.basic;
   const double coefficient = turned.expression.take(entering);
@@ -213,147 +220,116 @@ void Tableau::pivot(std::int32_t index, Symbol entering) {
   eliminate(entering, index);
 }
 
-// A nonbasic variable that lowers the objective when it grows.
-Symbol Tableau::primalEntering() {
-  std::erase_if(candidates_, [this](Symbol symbol) {
-    Column& candidate = column(symbol);
-    candidate.isCandidate = candidate.kind == Kind::slack && candidate.basicRow < 0 &&
-                            candidate.reducedCost.isNegative();
-    return !candidate.isCandidate;
-  });
-  if (candidates_.empty()) return kNoSymbol;
-  return *std::min_element(candidates_.begin(), candidates_.end());
-}
-
-// The ratio test: the row whose basic variable is the first to reach its bound when the entering
-// one grows.
-std::int32_t Tableau::primalLeavingRow(Symbol entering) {
-  std::int32_t best = -1;
-  double least = std::numeric_limits<double>::infinity();
-  for (const std::int32_t index : rowsWith(entering)) {
-    const Row& candidate = row(index);
-    const Kind kind = column(candidate.basic).kind;
-    const double coefficient = candidate.expression.coefficient(entering);
-    if (kind == Kind::free || (kind == Kind::slack && coefficient > 0)) continue;
-    const double ratio =
-        kind == Kind::fixed ? 0 : std::max(0.0, candidate.expression.constant) / -coefficient;
-    if (ratio < least || (ratio == least && candidate.basic < row(best).basic)) {
-      least = ratio;
-      best = index;
+// A free variable to solve a new row for: of those whose coefficients are large enough to divide by
+// the one that stands in the fewest rows. What is no more than rounding goes.
+Symbol Tableau::freeToSolveFor(LinearRow& expression) const {
+  double largest = 0;
+  for (const Cell& cell : expression.cells()) {
+    if (column(cell.symbol).kind == Kind::free) {
+      largest = std::max(largest, std::abs(cell.coefficient));
     }
   }
-  return best;
-}
-
-// From a feasible tableau to an optimal one.
-void Tableau::primalSimplex() {
-  for (Symbol entering = primalEntering(); entering != kNoSymbol; entering = primalEntering()) {
-    const std::int32_t index = primalLeavingRow(entering);
-    if (index >= 0) {
-      pivot(index, entering);
-    } else {
-      // The objective is bounded below, so this reduced cost can only be what rounding left.
-      column(entering).reducedCost.clear();
-    }
-  }
-}
-
-// A row whose basic variable is out of its bounds.
-std::int32_t Tableau::dualLeavingRow() {
-  std::erase_if(infeasible_, [this](std::int32_t index) { return !isInfeasible(row(index)); });
-  if (infeasible_.empty()) return -1;
-  return *std::min_element(
-      infeasible_.begin(), infeasible_.end(),
-      [this](std::int32_t left, std::int32_t right) { return row(left).basic < row(right).basic; });
-}
-
-// The dual ratio test: the nonbasic variable that brings the row's basic one to its bound at the
-// least cost.
-Symbol Tableau::dualEntering(const Row& row) const {
-  const double direction = row.expression.constant < 0 ? 1 : -1;
+  if (largest == 0) return kNoSymbol;
   Symbol best = kNoSymbol;
-  double bestFactor = 0;
-  for (const Cell& cell : row.expression.cells()) {
-    const Column& candidate = column(cell.symbol);
-    const double pull = direction * cell.coefficient;
-    if (candidate.kind != Kind::slack || pull <= kTiny) continue;
-    const double factor = 1 / pull;
-    if (best != kNoSymbol && SymbolicWeight::compare(candidate.reducedCost, factor,
-                                                     column(best).reducedCost, bestFactor) >= 0) {
-      continue;
-    }
-    best = cell.symbol;
-    bestFactor = factor;
-  }
-  return best;
-}
-
-// From an optimal tableau that may be infeasible to a feasible one. False and all pivots undone
-// when the required constraints contradict each other.
-bool Tableau::dualSimplex() {
-  pivots_.clear();
-  for (std::int32_t index = dualLeavingRow(); index >= 0; index = dualLeavingRow()) {
-    const Symbol leaving = row(index).basic;
-    const Symbol entering = dualEntering(row(index));
-    if (entering == kNoSymbol) {
-      for (auto done = pivots_.rbegin(); done != pivots_.rend(); ++done) {
-        pivot(column(done->first).basicRow, done->second);
-      }
-      infeasible_.clear();
-      return false;
-    }
-    pivot(index, entering);
-    pivots_.emplace_back(entering, leaving);
-  }
-  return true;
-}
-
-// A free variable to solve a new row for: the one that stands in the fewest rows.
-Symbol Tableau::basicFor(const LinearRow& expression) const {
-  Symbol best = kNoSymbol;
+  std::vector<Symbol> rest;
   for (const Cell& cell : expression.cells()) {
     const Column& candidate = column(cell.symbol);
     if (candidate.kind != Kind::free) continue;
+    rest.push_back(cell.symbol);
+    if (std::abs(cell.coefficient) < kGoodPivot * largest) continue;
     if (best == kNoSymbol || candidate.rows.size() < column(best).rows.size()) {
       best = cell.symbol;
     }
   }
-  return best;
+  if (largest > kLeastCoefficient) return best;
+  for (const Symbol symbol : rest) expression.take(symbol);
+  return kNoSymbol;
+}
+
+void Tableau::hold(Slacks slacks, std::span<const Cell> cells, double constant) {
+  column(slacks.surplus).held = held_.size();
+  held_.push_back({slacks, {cells.begin(), cells.end()}, constant, nextAge_++});
+  noteSize(constant);
+}
+
+void Tableau::unhold(Symbol surplus) {
+  const std::size_t place = std::exchange(column(surplus).held, kNotHeld);
+  if (place + 1 < held_.size()) {
+    held_[place] = std::move(held_.back());
+    column(held_[place].slacks.surplus).held = place;
+  }
+  held_.pop_back();
+}
+
+// Whether the step can be done; where rounding leads it astray it is tried again with rows that
+// were made anew.
+template <typename Step>
+bool Tableau::attempt(const Step& step) {
+  Ending ending = step();
+  if (ending == Ending::stuck) {
+    heal();
+    isSure_ = true;
+    ending = step();
+    if (ending == Ending::stuck) {
+      isPatient_ = true;
+      ending = step();
+      isPatient_ = false;
+    }
+    isSure_ = false;
+  }
+  return ending == Ending::done;
 }
 
 std::optional<Tableau::Slacks> Tableau::add(std::span<const Cell> cells, double constant,
-                                            bool equality, std::optional<double> strength) {
-  LinearRow expression = inNonbasics(cells, constant);
+                                            bool equality, double scale,
+                                            std::optional<double> strength) {
   Slacks slacks{make(equality && !strength ? Kind::fixed : Kind::slack)};
+  column(slacks.surplus).scale = scale;
   if (strength) {
     slacks.shortfall = make(Kind::slack);
+    column(slacks.shortfall).scale = scale;
     column(slacks.shortfall).strength = strength;
     if (equality) column(slacks.surplus).strength = strength;
   }
-  const Symbol basic = basicFor(expression);
+  noteSize(constant);
+  const bool isIn = attempt([&] { return enter(slacks, inNonbasics(cells, constant)); });
+  if (!isIn) {
+    release(slacks.surplus);
+    return std::nullopt;
+  }
+  hold(slacks, cells, constant);
+  addToObjective(slacks.surplus, 1);
+  if (strength) addToObjective(slacks.shortfall, 1);
+  finish();
+  return slacks;
+}
+
+// A row for a constraint that is not held yet. Only one that is required may contradict others;
+// its row is gone then.
+Tableau::Ending Tableau::enter(Slacks slacks, LinearRow expression) {
+  const bool isRequired = slacks.shortfall == kNoSymbol;
+  const Symbol basic = freeToSolveFor(expression);
   if (basic != kNoSymbol) {
     const double coefficient = expression.take(basic);
     expression.scale(-1 / coefficient);
     expression.add(slacks.surplus, 1 / coefficient);
-    if (strength) expression.add(slacks.shortfall, -1 / coefficient);
+    if (!isRequired) expression.add(slacks.shortfall, -1 / coefficient);
     eliminate(basic, insertRow(basic, std::move(expression)));
-  } else if (strength && expression.constant < 0) {
+    return Ending::done;
+  }
+  if (!isRequired && expression.constant < 0) {
     expression.scale(-1);
     expression.add(slacks.surplus, 1);
     insertRow(slacks.shortfall, std::move(expression));
-  } else {
-    if (strength) expression.add(slacks.shortfall, 1);
-    const std::int32_t index = insertRow(slacks.surplus, std::move(expression));
-    if (!dualSimplex()) {
-      dropRow(index);
-      release(slacks.surplus);
-      return std::nullopt;
-    }
+    return Ending::done;
   }
-  addToObjective(slacks.surplus, 1);
-  if (strength) addToObjective(slacks.shortfall, 1);
-  primalSimplex();
-  return slacks;
+  if (!isRequired) expression.add(slacks.shortfall, 1);
+  const std::int32_t index = insertRow(slacks.surplus, std::move(expression));
+  if (!isInfeasible(row(index))) return Ending::done;
+  beginTrial();
+  const Ending ending = endTrial(dualSimplex());
+  if (ending != Ending::done) dropRow(index);
+  return ending;
 }
 
 // The row in which to make a nonbasic surplus basic, so that nothing else becomes infeasible when
@@ -363,26 +339,32 @@ std::int32_t Tableau::removalLeavingRow(Symbol surplus) {
   std::int32_t best = -1;
   Rank bestRank = none;
   double least = 0;
+  double largest = 0;
   for (const std::int32_t index : rowsWith(surplus)) {
     const Row& candidate = row(index);
     const Kind kind = column(candidate.basic).kind;
     const double coefficient = candidate.expression.coefficient(surplus);
+    if (!isPivot(candidate.expression, coefficient)) continue;
     Rank rank = coefficient < 0 ? falling : rising;
     double ratio = std::max(0.0, candidate.expression.constant) / std::abs(coefficient);
     if (kind != Kind::slack) {
       rank = kind == Kind::fixed ? fixed : free;
       ratio = 0;
     }
-    if (rank < bestRank || (rank == bestRank && ratio < least)) {
+    const bool isNear = std::abs(ratio - least) <= kTiny * std::max(1.0, least);
+    const bool isBetter = isNear ? std::abs(coefficient) > largest : ratio < least;
+    if (rank < bestRank || (rank == bestRank && isBetter)) {
       best = index;
       bestRank = rank;
       least = ratio;
+      largest = std::abs(coefficient);
     }
   }
   return best;
 }
 
 void Tableau::remove(Slacks slacks) {
+  unhold(slacks.surplus);
   addToObjective(slacks.surplus, -1);
   if (slacks.shortfall != kNoSymbol) addToObjective(slacks.shortfall, -1);
   if (column(slacks.surplus).basicRow < 0) {
@@ -394,45 +376,59 @@ void Tableau::remove(Slacks slacks) {
     if (column(symbol).basicRow >= 0) dropRow(column(symbol).basicRow);
     release(symbol);
   }
-  primalSimplex();
+  finish();
 }
 
-void Tableau::moveConstants(std::span<const Shift> shifts, double factor) {
+void Tableau::moveConstants(std::span<const Shift> shifts) {
+  const auto move = [this](std::int32_t index, double amount) {
+    double& constant = row(index).expression.constant;
+    kept_.constants.emplace_back(index, constant);
+    constant += amount;
+    noteConstant(index);
+  };
   for (const Shift& shift : shifts) {
-    const double amount = shift.amount * factor;
     const std::int32_t own = column(shift.surplus).basicRow;
     if (own >= 0) {
-      row(own).expression.constant += amount;
-      noteConstant(own);
+      move(own, shift.amount);
       continue;
     }
     for (const std::int32_t index : rowsWith(shift.surplus)) {
-      LinearRow& moved = row(index).expression;
-      moved.constant -= amount * moved.coefficient(shift.surplus);
-      noteConstant(index);
+      move(index, -shift.amount * row(index).expression.coefficient(shift.surplus));
     }
+  }
+}
+
+void Tableau::moveHeld(std::span<const Shift> shifts) {
+  for (const Shift& shift : shifts) {
+    double& constant = heldOf(shift.surplus).constant;
+    kept_.given.emplace_back(shift.surplus, constant);
+    constant += shift.amount;
+    noteSize(constant);
   }
 }
 
 bool Tableau::shift(std::span<const Shift> shifts) {
-  moveConstants(shifts, 1);
-  const bool feasible = dualSimplex();
-  if (!feasible) {
-    moveConstants(shifts, -1);
-    infeasible_.clear();
-  }
-  primalSimplex();
-  return feasible;
+  const bool isDone = attempt([&] {
+    beginTrial();
+    moveConstants(shifts);
+    moveHeld(shifts);
+    return endTrial(dualSimplex());
+  });
+  finish();
+  return isDone;
 }
 
 Tableau::Slacks Tableau::adopt(Symbol basic, std::span<const Cell> cells, double constant,
-                               double pull, std::span<const Shift> influence) {
+                               std::span<const Shift> influence) {
   const Symbol surplus = make(Kind::fixed);
+  const auto weigh = [&](const Column& moved, double amount) {
+    if (moved.strength) column(surplus).reducedCost.add(*moved.strength, amount / moved.scale);
+  };
   for (const Shift& shift : influence) {
     const Column& moved = column(shift.surplus);
     if (moved.basicRow >= 0) {
       addCell(moved.basicRow, surplus, shift.amount);
-      if (moved.strength) column(surplus).reducedCost.add(*moved.strength, shift.amount);
+      weigh(moved, shift.amount);
       continue;
     }
     for (const std::int32_t index : rowsWith(shift.surplus)) {
@@ -440,12 +436,21 @@ Tableau::Slacks Tableau::adopt(Symbol basic, std::span<const Cell> cells, double
     }
     // What the moved surplus itself weighs does not move with the rows.
     column(surplus).reducedCost.add(moved.reducedCost, -shift.amount);
-    if (moved.strength) column(surplus).reducedCost.add(*moved.strength, shift.amount);
+    weigh(moved, shift.amount);
   }
   LinearRow expression = inNonbasics(cells, constant);
-  expression.add(surplus, pull);
+  expression.take(basic);
+  expression.scale(-1);
+  expression.add(surplus, 1);
   insertRow(basic, std::move(expression));
+  hold({surplus}, cells, constant);
   return {surplus};
+}
+
+void Tableau::restate(Symbol surplus, std::span<const Cell> cells, double constant) {
+  Held& restated = heldOf(surplus);
+  restated.cells.assign(cells.begin(), cells.end());
+  restated.constant = constant;
 }
 
 }  // namespace kindora::layout
