@@ -112,8 +112,7 @@ bool Tableau::drifted() const {
 // What each change ends with: a feasible and optimal tableau whose rows are right.
 void Tableau::finish() {
   bool isRight = settle() == Ending::done;
-  isRight =
-      isRight && sinceRebuild_ <= kLastingExchanges + kLastingExchangesOfAHeld * held_.size();
+  isRight = isRight && sinceRebuild_ <= kLastingExchanges + kLastingExchangesOfAHeld * held_.size();
   if (isRight && sinceCheck_ * kRowsForACheck > rows_.size()) {
     sinceCheck_ = 0;
     isRight = !drifted();
@@ -128,8 +127,8 @@ void Tableau::heal() {
   isPatient_ = false;
 }
 
-// Makes all rows anew from what is held, the oldest first: at the place where the tableau stands, or
-// wherever that leads.
+// Makes all rows anew from what is held, the oldest first: at the place where the tableau stands,
+// or wherever that leads.
 Tableau::Ending Tableau::rebuild(bool fromScratch) {
   std::ranges::sort(held_, {}, &Held::age);
   for (std::size_t place = 0; place < held_.size(); ++place) {

@@ -93,8 +93,8 @@ Tableau::Ending Tableau::settle() {
 Symbol Tableau::primalEntering() {
   std::erase_if(candidates_, [this](Symbol symbol) {
     Column& candidate = column(symbol);
-    candidate.isCandidate = candidate.kind == Kind::slack && candidate.basicRow < 0 &&
-                            candidate.reducedCost.sign() < 0;
+    candidate.isCandidate =
+        candidate.kind == Kind::slack && candidate.basicRow < 0 && candidate.reducedCost.sign() < 0;
     return !candidate.isCandidate;
   });
   if (candidates_.empty()) return kNoSymbol;

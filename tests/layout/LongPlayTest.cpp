@@ -20,7 +20,7 @@ struct Size {
   std::uint64_t percent;
   bool isExact;
 };
-constexpr Size kSizes[] = {{4, 16, 20, true},  {6, 16, 20, true},   {20, 40, 25, false},
+constexpr Size kSizes[] = {{4, 16, 20, true},    {6, 16, 20, true},    {20, 40, 25, false},
                            {20, 100, 15, false}, {40, 100, 15, false}, {40, 200, 5, false}};
 constexpr std::uint64_t kUsualCalls = 1500;
 // A play goes from an empty system to a full one and on.

@@ -57,8 +57,7 @@ class Game final {
       const std::uint64_t before = solver_.exchanges();
       const std::uint64_t exactBefore = exact_ ? exact_->exchanges() : 0;
       call();
-      judgeExchanges(solver_.exchanges() - before,
-                     exact_ ? exact_->exchanges() - exactBefore : 0);
+      judgeExchanges(solver_.exchanges() - before, exact_ ? exact_->exchanges() - exactBefore : 0);
       judgeValues();
       if (result_.calls % rules_.judgedEach == 0) judgeAgainstAnew();
     }
@@ -74,11 +73,10 @@ class Game final {
   void fail(std::uint64_t& counter, const std::string& what) {
     ++counter;
     if (!result_.firstFailure.empty()) return;
-    result_.firstFailure = what + " at call " + std::to_string(result_.calls) + ", " +
-                           nameOf(rules_.family) + ", variables " +
-                           std::to_string(rules_.variables) + ", held " +
-                           std::to_string(rules_.mostHeld) + ", seed " +
-                           std::to_string(rules_.seed);
+    result_.firstFailure =
+        what + " at call " + std::to_string(result_.calls) + ", " + nameOf(rules_.family) +
+        ", variables " + std::to_string(rules_.variables) + ", held " +
+        std::to_string(rules_.mostHeld) + ", seed " + std::to_string(rules_.seed);
   }
 
   // --- Constraints ---
@@ -115,7 +113,7 @@ class Game final {
 
   Made make() {
     Made made;
-    made.relation = below(5) < 3 ? Relation::equal
+    made.relation = below(5) < 3    ? Relation::equal
                     : below(2) == 0 ? Relation::lessThanOrEqual
                                     : Relation::greaterThanOrEqual;
     constexpr double kStrengths[] = {kRequired,    kRequired, kRequired, kRequired, kCompression,
@@ -193,8 +191,8 @@ class Game final {
   }
 
   void setConstant(Held& held) {
-    const std::int64_t constant = kHundred * (rules_.family == Family::views ? between(0, 300)
-                                                                             : between(-20, 20));
+    const std::int64_t constant =
+        kHundred * (rules_.family == Family::views ? between(0, 300) : between(-20, 20));
     const bool isIn = solver_.setConstant(held.id, inUnits(constant)) == Outcome::done;
     bool isPossible = isIn;
     follow([&] { isPossible = exact_->setConstant(held.exact, Rational(constant, kHundred)); });
@@ -300,8 +298,8 @@ class Game final {
     for (const auto& [strength, sum] : sums_) {
       const auto place = best.find(strength);
       const Sum least = place == best.end() ? Sum{} : place->second;
-      const double tolerance = kSame * std::max(1.0, least.amount) +
-                               kRounding * std::max(sum.size, least.size);
+      const double tolerance =
+          kSame * std::max(1.0, least.amount) + kRounding * std::max(sum.size, least.size);
       if (std::abs(sum.amount - least.amount) <= tolerance) continue;
       fail(result_.aboveBest, "strength " + std::to_string(strength) + " violated by " +
                                   std::to_string(sum.amount) + " where " + whose + " has " +

@@ -41,10 +41,10 @@ struct PlayResult {
   std::uint64_t judged = 0;
   std::uint64_t exactCalls = 0;  ///< that fractions of 127 bits could follow
   std::uint64_t requiredMissed = 0;
-  std::uint64_t aboveBest = 0;     ///< sums of violations by more than a millionth
-  std::uint64_t notNumbers = 0;    ///< calls after which a value is none
+  std::uint64_t aboveBest = 0;   ///< sums of violations by more than a millionth
+  std::uint64_t notNumbers = 0;  ///< calls after which a value is none
   std::uint64_t wrongVerdicts = 0;
-  std::uint64_t runaways = 0;      ///< calls of over 10 times the exchanges that fractions take
+  std::uint64_t runaways = 0;  ///< calls of over 10 times the exchanges that fractions take
   std::uint64_t mostExchanges = 0;
   double worstRatio = 0;  ///< of exchanges to those of fractions
   std::string firstFailure;

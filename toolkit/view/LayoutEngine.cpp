@@ -8,6 +8,8 @@
 #include <unordered_set>
 #include <utility>
 
+#include "toolkit/view/LayoutComponents.h"
+
 namespace kindora {
 namespace {
 
@@ -30,6 +32,15 @@ bool isBaseline(NSLayoutAttribute attribute) {
 
 bool isNear(double a, double b) { return std::abs(a - b) <= kTolerance; }
 
+bool isRelated(const NSLayoutConstraint& constraint) {
+  return constraint.secondAttribute() != NSLayoutAttribute::notAnAttribute;
+}
+
+// None without an attribute.
+UIViewRef otherItem(const NSLayoutConstraint& constraint) {
+  return isRelated(constraint) ? constraint.secondItem() : nullptr;
+}
+
 const UIView& nearestCommonView(const UIView& a, const UIView& b) {
   const UIView* space = &a;
   while (!space->contains(b)) space = space->superview().get();
@@ -39,14 +50,29 @@ const UIView& nearestCommonView(const UIView& a, const UIView& b) {
 }  // namespace
 
 void LayoutEngine::takeOver(Changes changes) {
-  if (changes.structure) takeOverStructure();
-  if (held_.empty()) return;
-  if (!takeOverFrames()) startAnew();
+  touched_ = {};
+  std::vector<NSLayoutConstraintRef> wanted;
+  if (changes.structure) wanted = takeOverStructure();
+  if (held_.empty() && wanted.empty()) return;
+  const std::vector<Pending> pending = takeOverFrames();
   bool baselinesChanged = false;
   takeOverContents(baselinesChanged);
-  if (changes.structure || changes.constants || baselinesChanged || isAnyLeftOut_) {
-    takeOverConstants(baselinesChanged);
+  std::vector<Held*> unfitting;
+  if (changes.structure || changes.constants || baselinesChanged) {
+    unfitting = takeOverConstants(baselinesChanged);
   }
+  if (give(pending)) {
+    for (Held* held : unfitting) enter(*held);
+    addAll(std::move(wanted));
+    tryLeftOut();
+  } else {
+    // What is given holds against what is not.
+    for (NSLayoutConstraintRef& constraint : wanted) {
+      held_[constraint.get()].constraint = std::move(constraint);
+    }
+    startAnew();
+  }
+  report();
   solver_->update();
 }
 
@@ -72,44 +98,50 @@ void LayoutEngine::placeViews() {
 }
 
 std::function<void(const NSLayoutConstraint&)>& LayoutEngine::leftOut() {
-  static std::function<void(const NSLayoutConstraint&)> told =  // main thread only
-      [](const NSLayoutConstraint& constraint) {
-#ifndef NDEBUG
-        std::cerr << "left out, since it contradicts others: " << constraint.description() << '\n';
-#else
-        static_cast<void>(constraint);
-#endif
-      };
+  static std::function<void(const NSLayoutConstraint&)> told = writesLeftOut();  // main thread only
   return told;
+}
+
+std::function<void(const NSLayoutConstraint&)> LayoutEngine::writesLeftOut() {
+#ifdef KINDORA_SHIPPED
+  return {};
+#else
+  return [](const NSLayoutConstraint& constraint) {
+    std::cerr << "left out, since it contradicts others: " << constraint.description() << '\n';
+  };
+#endif
 }
 
 // --- The tree ---
 
-void LayoutEngine::takeOverStructure() {
+// Lets go of what has gone, and answers what is new.
+std::vector<NSLayoutConstraintRef> LayoutEngine::takeOverStructure() {
   ++mark_;
   std::vector<NSLayoutConstraintRef> wanted;
   collect(root_, wanted);
-  bool switched = false;
-  for (auto it = entries_.begin(); it != entries_.end();) {
-    const auto view = it->second.view.lock();
-    if (it->second.mark == mark_ && view) {
-      switched = switched ||
-                 it->second.constraintBased != !view->translatesAutoresizingMaskIntoConstraints();
-      ++it;
-    } else {
-      forget(it->second);
-      it = entries_.erase(it);
-    }
+  std::vector<const Held*> removed;
+  for (const auto& [key, held] : held_) {
+    if (held.mark != mark_) removed.push_back(&held);
   }
-  const std::size_t removed = std::erase_if(held_, [this](const auto& element) {
-    const Held& held = element.second;
-    if (held.mark == mark_) return false;
-    solver_->remove(held.id);
-    return true;
-  });
-  addAll(std::move(wanted));
-  if (removed > 0) forgetUnmentioned();
+  std::ranges::sort(removed, {}, [](const Held* held) { return held->constraint->serial(); });
+  for (const Held* held : removed) {
+    touchItems(*held->constraint);
+    solver_->remove(held->id);
+  }
+  std::erase_if(held_, [this](const auto& element) { return element.second.mark != mark_; });
+  const auto hasGone = [this](const Entry& entry) {
+    return entry.mark != mark_ || entry.view.expired();
+  };
+  bool switched = false;
+  for (const Entry* entry : entriesInOrder(hasGone)) forget(*entry);
+  std::erase_if(entries_, [&](const auto& element) { return hasGone(element.second); });
+  for (const auto& [key, entry] : entries_) {
+    switched =
+        switched || entry.constraintBased == key->translatesAutoresizingMaskIntoConstraints();
+  }
+  if (!removed.empty()) forgetUnmentioned();
   if (switched) startAnew();
+  return wanted;
 }
 
 void LayoutEngine::collect(UIView& view, std::vector<NSLayoutConstraintRef>& wanted) {
@@ -132,15 +164,30 @@ void LayoutEngine::collect(UIView& view, std::vector<NSLayoutConstraintRef>& wan
 
 bool LayoutEngine::hasEffect(const NSLayoutConstraint& constraint) const {
   const auto first = constraint.firstItem();
-  const auto second = constraint.secondItem();
+  const auto second = otherItem(constraint);
   if (!first || constraint.firstAttribute() == NSLayoutAttribute::notAnAttribute) return false;
   if (!root_.contains(*first)) return false;
-  const bool isConstant = constraint.secondAttribute() == NSLayoutAttribute::notAnAttribute;
-  if (isConstant ? !isSize(constraint.firstAttribute()) : !second || !root_.contains(*second)) {
+  if (isRelated(constraint) ? !second || !root_.contains(*second)
+                            : !isSize(constraint.firstAttribute())) {
     return false;
   }
   return !first->translatesAutoresizingMaskIntoConstraints() ||
-         (!isConstant && !second->translatesAutoresizingMaskIntoConstraints());
+         (second && !second->translatesAutoresizingMaskIntoConstraints());
+}
+
+// What a constraint that goes may have held.
+void LayoutEngine::touchItems(const NSLayoutConstraint& constraint) {
+  if (!isAnyLeftOut_) return;
+  for (const UIViewRef& item : {constraint.firstItem(), otherItem(constraint)}) {
+    for (const UIView* up = item.get(); up != nullptr; up = up->superview().get()) {
+      const auto entry = entries_.find(up);
+      if (entry == entries_.end() || !entry->second.constraintBased) continue;
+      for (const Axis* axis : {&entry->second.horizontal, &entry->second.vertical}) {
+        touched_.variables.push_back(axis->origin);
+        touched_.variables.push_back(axis->size);
+      }
+    }
+  }
 }
 
 void LayoutEngine::forget(const Entry& entry) {
@@ -154,7 +201,7 @@ void LayoutEngine::forgetUnmentioned() {
   std::unordered_set<const UIView*> mentioned;
   for (const auto& [key, held] : held_) {
     const auto first = held.constraint->firstItem();
-    const auto second = held.constraint->secondItem();
+    const auto second = otherItem(*held.constraint);
     const UIView& space = second ? nearestCommonView(*first, *second) : *first;
     mentioned.insert(&space);
     for (const UIView* item : {first.get(), second.get()}) {
@@ -163,11 +210,11 @@ void LayoutEngine::forgetUnmentioned() {
       }
     }
   }
-  std::erase_if(entries_, [&](auto& element) {
-    if (mentioned.contains(element.first)) return false;
-    forget(element.second);
-    return true;
-  });
+  const auto isUnmentioned = [&](const Entry& entry) {
+    return !mentioned.contains(entry.view.lock().get());
+  };
+  for (const Entry* entry : entriesInOrder(isUnmentioned)) forget(*entry);
+  std::erase_if(entries_, [&](const auto& element) { return isUnmentioned(element.second); });
 }
 
 void LayoutEngine::startAnew() {
@@ -180,6 +227,7 @@ void LayoutEngine::startAnew() {
   solver_ = std::make_unique<layout::Solver>();
   entries_.clear();
   held_.clear();
+  isAnyLeftOut_ = false;
   for (const NSLayoutConstraint* constraint : reported) held_[constraint].isReported = true;
   addAll(std::move(constraints));
 }
@@ -203,19 +251,55 @@ void LayoutEngine::enter(Held& held) {
   const NSLayoutConstraint& constraint = *held.constraint;
   Sum sum = sumOf(constraint);
   held.ownConstant = constraint.constant();
+  if (isAnyLeftOut_) touched_.constraints.push_back(sum.terms);
+  ++attempts_;
   const auto added = solver_->add({.terms = std::move(sum.terms),
                                    .relation = static_cast<Relation>(constraint.relation()),
                                    .constant = sum.constant,
                                    .strength = constraint.priority()});
   held.id = added.constraint;
-  if (added.outcome != Outcome::done) leaveOut(held);
+  if (added.outcome == Outcome::done) return;
+  isAnyLeftOut_ = true;
+  if (!std::exchange(held.isReported, true)) unreported_.push_back(held.constraint);
 }
 
-void LayoutEngine::leaveOut(Held& held) {
-  held.id = {};
-  isAnyLeftOut_ = true;
-  if (std::exchange(held.isReported, true)) return;
-  if (leftOut()) leftOut()(*held.constraint);
+// What was left out before this pass, if anything has changed in what it depends on.
+void LayoutEngine::tryLeftOut() {
+  if (!isAnyLeftOut_ || (touched_.variables.empty() && touched_.constraints.empty())) return;
+  LayoutComponents components;
+  for (const auto& [key, entry] : entries_) {
+    if (entry.constraintBased) continue;
+    for (const Axis* axis : {&entry.horizontal, &entry.vertical}) {
+      components.fix(axis->origin);
+      components.fix(axis->size);
+    }
+  }
+  std::vector<std::pair<Held*, std::vector<layout::Term>>> outside;
+  for (auto& [key, held] : held_) {
+    Sum sum = sumOf(*held.constraint);
+    components.connect(sum.terms);
+    if (held.id == ConstraintId{}) outside.emplace_back(&held, std::move(sum.terms));
+  }
+  for (const layout::Variable variable : touched_.variables) components.touch(variable);
+  for (const auto& terms : touched_.constraints) components.touch(terms);
+  std::ranges::sort(outside, {}, [](const auto& one) { return one.first->constraint->serial(); });
+  isAnyLeftOut_ = false;
+  for (auto& [held, terms] : outside) {
+    if (components.isTouched(terms)) {
+      enter(*held);
+    } else {
+      isAnyLeftOut_ = true;
+    }
+  }
+}
+
+void LayoutEngine::report() {
+  std::ranges::sort(unreported_, {}, &NSLayoutConstraint::serial);
+  for (const NSLayoutConstraintRef& constraint : std::exchange(unreported_, {})) {
+    const bool isOutside = held_.at(constraint.get()).id == ConstraintId{};
+    if (isOutside && leftOut()) leftOut()(*constraint);
+    if (!isOutside) held_.at(constraint.get()).isReported = false;
+  }
 }
 
 // --- Views ---
@@ -224,6 +308,7 @@ LayoutEngine::Entry& LayoutEngine::entryOf(UIView& view) {
   const auto found = entries_.find(&view);
   if (found != entries_.end()) return found->second;
   Entry& entry = entries_[&view];
+  entry.serial = ++lastEntry_;
   entry.view = view.weak_from_this();
   entry.constraintBased = !view.translatesAutoresizingMaskIntoConstraints();
   entry.mark = mark_;
@@ -258,28 +343,64 @@ void LayoutEngine::giveFrame(Entry& entry, const UIView& view) {
   give(entry.vertical, frame.origin.y, frame.size.height);
 }
 
-bool LayoutEngine::takeOverFrames() {
-  const auto follow = [this](ConstraintId id, double& given, double now) {
-    if (given == now) return true;
-    given = now;
-    return solver_->setConstant(id, now) == Outcome::done;
-  };
-  bool fits = true;
+std::vector<LayoutEngine::Entry*> LayoutEngine::entriesInOrder(
+    const std::function<bool(const Entry&)>& which) {
+  std::vector<Entry*> result;
+  for (auto& [key, entry] : entries_) {
+    if (which(entry)) result.push_back(&entry);
+  }
+  std::ranges::sort(result, {}, &Entry::serial);
+  return result;
+}
+
+// Answers the numbers that do not fit before the constants are taken over, too.
+std::vector<LayoutEngine::Pending> LayoutEngine::takeOverFrames() {
+  std::vector<std::pair<Entry*, CGRect>> moved;
   for (auto& [key, entry] : entries_) {
     if (entry.constraintBased) continue;
     const CGRect frame = key->frame();
-    fits = follow(entry.horizontal.originIs, entry.horizontal.givenOrigin, frame.origin.x) && fits;
-    fits = follow(entry.horizontal.sizeIs, entry.horizontal.givenSize, frame.size.width) && fits;
-    fits = follow(entry.vertical.originIs, entry.vertical.givenOrigin, frame.origin.y) && fits;
-    fits = follow(entry.vertical.sizeIs, entry.vertical.givenSize, frame.size.height) && fits;
+    const CGRect given{{entry.horizontal.givenOrigin, entry.vertical.givenOrigin},
+                       {entry.horizontal.givenSize, entry.vertical.givenSize}};
+    if (frame != given) moved.emplace_back(&entry, frame);
   }
-  return fits;
+  std::ranges::sort(moved, {}, [](const auto& one) { return one.first->serial; });
+  std::vector<Pending> pending;
+  const auto follow = [&](ConstraintId& id, layout::Variable variable, double& given, double now) {
+    if (given == now) return;
+    given = now;
+    if (isAnyLeftOut_) touched_.variables.push_back(variable);
+    if (solver_->setConstant(id, now) == Outcome::done) return;
+    solver_->remove(id);
+    pending.push_back({&id, variable, now});
+  };
+  for (const auto& [entry, frame] : moved) {
+    const auto followAxis = [&](Axis& axis, double origin, double size) {
+      follow(axis.originIs, axis.origin, axis.givenOrigin, origin);
+      follow(axis.sizeIs, axis.size, axis.givenSize, size);
+    };
+    followAxis(entry->horizontal, frame.origin.x, frame.size.width);
+    followAxis(entry->vertical, frame.origin.y, frame.size.height);
+  }
+  return pending;
+}
+
+// Whether all that is given fits now.
+bool LayoutEngine::give(const std::vector<Pending>& pending) {
+  return std::ranges::all_of(pending, [this](const Pending& one) {
+    const auto added = solver_->add({{{one.variable}}, Relation::equal, one.value});
+    *one.id = added.constraint;
+    return added.outcome == Outcome::done;
+  });
 }
 
 void LayoutEngine::takeOverContents(bool& baselinesChanged) {
-  for (auto& [key, entry] : entries_) {
+  const auto hasChanged = [](const Entry& entry) {
     const auto view = entry.view.lock();
-    if (!view || entry.contentRevision == view->contentRevision()) continue;
+    return view && entry.contentRevision != view->contentRevision();
+  };
+  for (Entry* changed : entriesInOrder(hasChanged)) {
+    Entry& entry = *changed;
+    const auto view = entry.view.lock();
     entry.contentRevision = view->contentRevision();
     if (entry.constraintBased) {
       const CGSize content = view->intrinsicContentSize();
@@ -313,37 +434,38 @@ void LayoutEngine::setContent(Axis& axis, double content) {
 
 // --- Constraints ---
 
-void LayoutEngine::takeOverConstants(bool baselinesChanged) {
-  std::vector<Held*> outside;
-  isAnyLeftOut_ = false;
+// Answers what does not fit before all constants are taken over, the oldest first.
+std::vector<LayoutEngine::Held*> LayoutEngine::takeOverConstants(bool baselinesChanged) {
+  std::vector<Held*> changed;
   for (auto& [key, held] : held_) {
     const NSLayoutConstraint& constraint = *held.constraint;
-    if (held.id == ConstraintId{}) {
-      outside.push_back(&held);
-      continue;
-    }
     const bool hasBaseline =
         isBaseline(constraint.firstAttribute()) || isBaseline(constraint.secondAttribute());
     const bool mayDiffer = hasBaseline && baselinesChanged;
-    if (constraint.constant() == held.ownConstant && !mayDiffer) continue;
-    held.ownConstant = constraint.constant();
-    const double constant = sumOf(constraint).constant;
-    if (solver_->setConstant(held.id, constant) == Outcome::done) continue;
-    solver_->remove(held.id);
-    leaveOut(held);
+    if (constraint.constant() != held.ownConstant || mayDiffer) changed.push_back(&held);
   }
-  std::ranges::sort(outside, {}, [](const Held* held) { return held->constraint->serial(); });
-  for (Held* held : outside) enter(*held);
+  std::ranges::sort(changed, {}, [](const Held* held) { return held->constraint->serial(); });
+  std::vector<Held*> unfitting;
+  for (Held* held : changed) {
+    Sum sum = sumOf(*held->constraint);
+    held->ownConstant = held->constraint->constant();
+    if (isAnyLeftOut_) touched_.constraints.push_back(std::move(sum.terms));
+    if (held->id == ConstraintId{}) continue;
+    if (solver_->setConstant(held->id, sum.constant) == Outcome::done) continue;
+    solver_->remove(held->id);
+    held->id = {};
+    unfitting.push_back(held);
+  }
+  return unfitting;
 }
 
 LayoutEngine::Sum LayoutEngine::sumOf(const NSLayoutConstraint& constraint) {
   const auto first = constraint.firstItem();
-  const auto second = constraint.secondItem();
-  const bool isConstant = constraint.secondAttribute() == NSLayoutAttribute::notAnAttribute;
-  const UIView& space = isConstant ? *first : nearestCommonView(*first, *second);
+  const auto second = otherItem(constraint);
+  const UIView& space = second ? nearestCommonView(*first, *second) : *first;
   Sum sum;
   add(sum, *first, constraint.firstAttribute(), space, 1);
-  if (!isConstant) {
+  if (second) {
     add(sum, *second, constraint.secondAttribute(), space, -constraint.multiplier());
   }
   // All variables stand on the left, all else on the right.

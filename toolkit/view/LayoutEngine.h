@@ -20,7 +20,9 @@ namespace kindora {
 ///
 /// A view's origin is a variable in its superview's space; what two views say of each other counts
 /// in the space of the nearest view that holds both. A required constraint that contradicts those
-/// before it is left out until it fits, and reported once.
+/// before it is left out until it fits, and reported once. All changes of a pass count together;
+/// what is left out is tried again, the oldest first, after a change of anything that it depends
+/// on.
 class LayoutEngine final {
  public:
   /// What has happened since the last time. A changed structure may bring changed constants.
@@ -36,9 +38,14 @@ class LayoutEngine final {
   /// Gives the views that constraints place their frames.
   void placeViews();
 
-  /// Is told of each constraint that is left out, by every engine of the program; set by tests. At
-  /// first writes it to the console in a debug build.
+  /// Is told of each constraint that is left out, by every engine of the program, at the end of the
+  /// pass; set by tests. At first writes it to the console.
   static std::function<void(const NSLayoutConstraint&)>& leftOut();
+  /// What does so; in what is shipped it does nothing.
+  static std::function<void(const NSLayoutConstraint&)> writesLeftOut();
+
+  /// How often a constraint has been handed to the solver: what passes cost.
+  [[nodiscard]] std::uint64_t attempts() const { return attempts_; }
 
  private:
   // One direction of a view.
@@ -55,6 +62,7 @@ class LayoutEngine final {
   };
   struct Entry {
     std::weak_ptr<UIView> view;
+    std::uint64_t serial = 0;  // in the order in which they were made
     bool constraintBased = false;
     Axis horizontal;
     Axis vertical;
@@ -70,28 +78,43 @@ class LayoutEngine final {
     bool isReported = false;
     std::uint64_t mark = 0;
   };
+  // What has changed in a pass, for what is left out.
+  struct Touched {
+    std::vector<layout::Variable> variables;
+    std::vector<std::vector<layout::Term>> constraints;
+  };
   // A sum of variables and a constant.
   struct Sum {
     std::vector<layout::Term> terms;
     double constant = 0;
   };
 
-  void takeOverStructure();
+  [[nodiscard]] std::vector<NSLayoutConstraintRef> takeOverStructure();
   void collect(UIView& view, std::vector<NSLayoutConstraintRef>& wanted);
+  void touchItems(const NSLayoutConstraint& constraint);
   void forget(const Entry& entry);
   void forgetUnmentioned();
   void startAnew();
   void addAll(std::vector<NSLayoutConstraintRef> constraints);
   void enter(Held& held);
-  void leaveOut(Held& held);
+  void tryLeftOut();
+  void report();
   [[nodiscard]] bool hasEffect(const NSLayoutConstraint& constraint) const;
 
   Entry& entryOf(UIView& view);
   void giveFrame(Entry& entry, const UIView& view);
-  [[nodiscard]] bool takeOverFrames();
+  // A given number that contradicted what was there before the constants of its pass.
+  struct Pending {
+    layout::ConstraintId* id;
+    layout::Variable variable;
+    double value;
+  };
+  [[nodiscard]] std::vector<Entry*> entriesInOrder(const std::function<bool(const Entry&)>& which);
+  [[nodiscard]] std::vector<Pending> takeOverFrames();
+  [[nodiscard]] bool give(const std::vector<Pending>& pending);
   void takeOverContents(bool& baselinesChanged);
   void setContent(Axis& axis, double content);
-  void takeOverConstants(bool baselinesChanged);
+  [[nodiscard]] std::vector<Held*> takeOverConstants(bool baselinesChanged);
 
   [[nodiscard]] Sum sumOf(const NSLayoutConstraint& constraint);
   void add(Sum& sum, UIView& view, NSLayoutAttribute attribute, const UIView& space, double factor);
@@ -103,7 +126,11 @@ class LayoutEngine final {
   std::unordered_map<const UIView*, Entry> entries_;
   std::unordered_map<const NSLayoutConstraint*, Held> held_;
   std::uint64_t mark_ = 0;
-  bool isAnyLeftOut_ = false;  // it may fit at any later pass
+  std::uint64_t lastEntry_ = 0;
+  std::uint64_t attempts_ = 0;
+  bool isAnyLeftOut_ = false;
+  Touched touched_;  // of this pass, while anything is left out
+  std::vector<NSLayoutConstraintRef> unreported_;
 };
 
 }  // namespace kindora

@@ -43,7 +43,8 @@ class NSLayoutConstraint final {
     std::weak_ptr<UIView> firstItem;
     NSLayoutAttribute firstAttribute = NSLayoutAttribute::notAnAttribute;
     NSLayoutRelation relation = NSLayoutRelation::equal;
-    std::weak_ptr<UIView> secondItem;  ///< none for a constant size
+    /// None for a constant size; without an attribute it counts for nothing.
+    std::weak_ptr<UIView> secondItem;
     NSLayoutAttribute secondAttribute = NSLayoutAttribute::notAnAttribute;
     double multiplier = 1;
     double constant = 0;  ///< points
