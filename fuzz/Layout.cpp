@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: Apache-2.0
 // Any bytes as calls of a solver: variables and constraints come, go and change. After each call
 // what is required holds, a refusal has changed nothing, and a new solver agrees on what can be
-// met.
+// met; after every few and at the end it agrees on how well the rest is met, too.
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <functional>
 #include <map>
+#include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "fuzz/Fuzz.h"
@@ -17,8 +20,9 @@
 namespace kindora::layout {
 namespace {
 
-constexpr std::size_t kVariables = 8;
-constexpr std::size_t kConstraints = 24;
+constexpr std::size_t kVariables = 12;
+constexpr std::size_t kConstraints = 100;
+constexpr std::size_t kComparedEach = 8;  // call
 constexpr std::array kCoefficients{1.0, -1.0, 2.0, -2.0, 0.5, -0.5, 3.0, 0.0};
 constexpr std::array kStrengths{kRequired, kRequired, kRequired, kCompression,
                                 kHugging,  600.0,     0.0,       -1.0};
@@ -53,18 +57,44 @@ bool mentions(const Constraint& constraint, Variable variable) {
   return sum != 0;
 }
 
-// Whether a solver that has seen nothing else takes all of the constraints.
-bool canBeMet(std::span<const Constraint> constraints) {
+// Of violations of one strength.
+struct Sum {
+  double amount = 0;
+  double size = 1;  // of the numbers that go into it
+};
+using Sums = std::map<double, Sum, std::greater<>>;
+
+void addViolation(Sums& sums, const Solver& solver, const Constraint& constraint) {
+  double excess = -constraint.constant;
+  double size = std::abs(excess);
+  for (const Term& term : constraint.terms) {
+    const double product = term.coefficient * solver.value(term.variable);
+    excess += product;
+    size += std::abs(product);
+  }
+  if (constraint.relation == Relation::lessThanOrEqual) excess = std::max(0.0, excess);
+  if (constraint.relation == Relation::greaterThanOrEqual) excess = std::min(0.0, excess);
+  Sum& sum = sums[std::max(0.0, constraint.strength)];
+  sum.amount += std::abs(excess);
+  sum.size += size;
+}
+
+// What a solver that has seen nothing else makes of the constraints; none if it does not take all.
+std::optional<Sums> anew(std::vector<Constraint> constraints) {
   Solver solver;
   std::map<std::uint32_t, Variable> variables;
-  return std::ranges::all_of(constraints, [&](Constraint constraint) {
+  for (Constraint& constraint : constraints) {
     for (Term& term : constraint.terms) {
       const auto [known, isNew] = variables.try_emplace(term.variable.index);
       if (isNew) known->second = solver.makeVariable();
       term.variable = known->second;
     }
-    return solver.add(constraint).outcome == Outcome::done;
-  });
+    if (solver.add(constraint).outcome != Outcome::done) return std::nullopt;
+  }
+  solver.update();
+  Sums sums;
+  for (const Constraint& constraint : constraints) addViolation(sums, solver, constraint);
+  return sums;
 }
 
 class Play {
@@ -74,26 +104,23 @@ class Play {
   }
 
   void run() {
-    while (!bytes_.isEmpty()) {
+    for (std::size_t call = 1; !bytes_.isEmpty(); ++call) {
       const std::vector<double> before = values();
       if (step() != Outcome::done) requireUnchanged(before);
       requireHeld();
+      if (call % kComparedEach == 0) requireBest();
     }
+    requireBest();
   }
 
  private:
   Outcome step() {
-    switch (bytes_.below(8)) {
-      case 0:
-        return removeVariable();
-      case 1:
-        return removeConstraint();
-      case 2:
-      case 3:
-        return changeConstant();
-      default:
-        return add();
-    }
+    // Rarely what takes much away, so that much is held.
+    const std::size_t kind = bytes_.below(32);
+    if (kind == 0) return removeVariable();
+    if (kind < 4) return removeConstraint();
+    if (kind < 12) return changeConstant();
+    return add();
   }
 
   Outcome removeVariable() {
@@ -173,7 +200,26 @@ class Play {
     for (const Held& held : held_) {
       if (held.constraint.strength >= kRequired) required.push_back(held.constraint);
     }
-    require(canBeMet(required) == (outcome == Outcome::done), "another order, the same verdict");
+    require(anew(required).has_value() == (outcome == Outcome::done),
+            "another order, the same verdict");
+  }
+
+  // Of the strengths the first at which both differ decides which of them is better.
+  void requireBest() {
+    solver_.update();
+    Sums own;
+    std::vector<Constraint> constraints;
+    for (const Held& held : held_) {
+      addViolation(own, solver_, held.constraint);
+      constraints.push_back(held.constraint);
+    }
+    const std::optional<Sums> other = anew(std::move(constraints));
+    require(other.has_value(), "what is held can be held");
+    for (const auto& [strength, sum] : own) {
+      const Sum& best = other->at(strength);
+      const double tolerance = 1e-6 * std::max(1.0, best.amount) + 1e-9 * (sum.size + best.size);
+      require(std::abs(sum.amount - best.amount) <= tolerance, "as good as solving anew");
+    }
   }
 
   void requireHeld() {

@@ -33,8 +33,9 @@ class LayoutComponents final {
   [[nodiscard]] Node& node(layout::Variable variable);
   [[nodiscard]] std::uint32_t topmost(std::uint32_t index);
 
-  std::vector<Node> nodes_;                                         // by the index of a variable
-  std::vector<std::pair<std::uint32_t, std::uint32_t>> mentioned_;  // what is fixed, and beside what
+  std::vector<Node> nodes_;  // by the index of a variable
+  std::vector<std::pair<std::uint32_t, std::uint32_t>>
+      mentioned_;  // what is fixed, and beside what
 };
 
 }  // namespace kindora
