@@ -43,6 +43,11 @@ void CollectionView::advance(double seconds) {
   if (layout().advance(seconds)) showCells();
 }
 
+void CollectionView::settle() {
+  layout().invalidateLayout();
+  showCells();
+}
+
 void CollectionView::showCells() {
   const auto placed = layOut(CGRectInset(bounds(), -kMargin, -kMargin));
   shown_.clear();

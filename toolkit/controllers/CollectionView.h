@@ -50,6 +50,8 @@ class CollectionView : public QObject, public BasicCollectionView<UICollectionVi
   void setPanLocation(CGPoint location) { panLocation_ = location; }
   /// Moves the cells on; see isResting.
   void advance(double seconds);
+  /// Puts the cells where they are to rest, at once.
+  Q_INVOKABLE void settle();
   [[nodiscard]] bool isResting() const { return layout().isResting(); }
 
   // --- What the item draws ---

@@ -22,6 +22,8 @@ Flickable {
     KeyboardReach {
         id: reach
         area: root
+        // Keys go by where cells are; these lag behind a finger only.
+        onScrolled: root.collectionView.settle()
     }
 
     CollectionViewItem {

@@ -275,6 +275,7 @@ bool KeyboardReach::scrollTo(double contentY) {
   if (wanted == number("contentY")) return false;
   QMetaObject::invokeMethod(area_, "cancelFlick");
   area_->setProperty("contentY", wanted);
+  emit scrolled();
   return true;
 }
 

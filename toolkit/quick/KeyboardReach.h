@@ -35,6 +35,8 @@ class KeyboardReach : public QObject {
 
  signals:
   void areaChanged();
+  /// The keyboard or an assistive tool has scrolled.
+  void scrolled();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

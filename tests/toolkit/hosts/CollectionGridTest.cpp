@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <gmock/gmock.h>
 
+#include "effects/springy/BelSpringyCollectionViewFlowLayout.h"
 #include "tests/toolkit/hosts/HostFixture.h"
 #include "toolkit/collection/UICollectionViewFlowLayout.h"
 #include "toolkit/controllers/CollectionView.h"
@@ -32,9 +33,10 @@ class Source final : public UICollectionViewDataSource {
 };
 
 // Two cells of 150 x 100 points a line, 10 apart: 15 lines, of which not five are in sight.
-class CollectionGridTest : public HostFixture {
+template <typename Layout>
+class GridFixture : public HostFixture {
  protected:
-  CollectionGridTest() {
+  GridFixture() {
     layout.setItemSize({150, 100});
     source.view = &view;
     view.registerCell("cell", [] { return std::make_shared<UICollectionViewCell>(); });
@@ -51,7 +53,7 @@ class CollectionGridTest : public HostFixture {
     view.reloadData();
     time.settle();
   }
-  ~CollectionGridTest() override { host.reset(); }
+  ~GridFixture() override { host.reset(); }
 
   [[nodiscard]] QRectF cell(int index) {
     return place(spoken(QStringLiteral("cell %1").arg(index)));
@@ -62,9 +64,12 @@ class CollectionGridTest : public HostFixture {
   [[nodiscard]] double offset() const { return host->property("contentY").toDouble(); }
 
   Source source;
-  UICollectionViewFlowLayout layout;
+  Layout layout;
   CollectionView view{layout};
 };
+
+class CollectionGridTest : public GridFixture<UICollectionViewFlowLayout> {};
+class SpringyGridTest : public GridFixture<BelSpringyCollectionViewFlowLayout> {};
 
 TEST_F(CollectionGridTest, IsAListOfButtonsThatScrollsAsFarAsTheContent) {
   EXPECT_EQ(role(QStringLiteral("cell 0")), QAccessible::Button);
@@ -151,6 +156,15 @@ TEST_F(CollectionGridTest, KeysGoToTheCellThatLiesThere) {
   goesTo(Qt::Key_Down, 29);
   goesTo(Qt::Key_Up, 27);
   goesTo(Qt::Key_Home, 0);
+}
+
+// Its cells would lag behind each scroll that brings the next of them into sight.
+TEST_F(SpringyGridTest, TabGoesThroughAllCells) {
+  for (int i = 0; i < Source::kCount; ++i) {
+    press(Qt::Key_Tab);
+    ASSERT_EQ(focusName(), QStringLiteral("cell %1").arg(i));
+    ASSERT_TRUE(QRectF(0, 0, kWidth, kHeight).contains(cell(i)));
+  }
 }
 
 TEST_F(CollectionGridTest, AnAssistiveToolScrolls) {
