@@ -57,8 +57,8 @@ Rectangle {
             width: visible ? 34 : 9
             height: 44
             visible: field.text !== ""
-            // The field keeps the keyboard, whose keys can clear it, too.
-            focusPolicy: Qt.NoFocus
+            // A pointer leaves the keyboard in the field.
+            focusPolicy: Qt.TabFocus
             text: qsTr("Clear text")
             onClicked: {
                 root.bar.edit("");

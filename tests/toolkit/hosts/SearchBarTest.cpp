@@ -115,6 +115,18 @@ TEST_F(SearchBarTest, ClearingTheTextGoesOnSearching) {
   EXPECT_TRUE(field->hasActiveFocus());
 }
 
+TEST_F(SearchBarTest, TabLeadsToWhatClearsTheTextAndThenHandsTheKeyboardBack) {
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+    QTest::keyClick(&window, Qt::Key_A);
+    QTest::keyClick(&window, Qt::Key_Tab);
+    ASSERT_EQ(window.activeFocusItem()->objectName(), QStringLiteral("clearButton"));
+    QTest::keyClick(&window, key);
+    EXPECT_EQ(shown(), QString());
+    EXPECT_TRUE(search.isActive());
+    EXPECT_TRUE(field->hasActiveFocus());
+  }
+}
+
 TEST_F(SearchBarTest, TheRecordIsAsWideAsTheBar) {
   EXPECT_EQ(search.searchBar()->frame(), (CGRect{{0, 0}, {320, 44}}));
   item->setWidth(300);
