@@ -25,6 +25,7 @@ Rectangle {
         id: square
         objectName: "cropSquare"
         readonly property real step: 10
+        readonly property real zoomStep: 1.1
         readonly property point middle: Qt.point(width / 2, height / 2)
 
         anchors.horizontalCenter: parent.horizontalCenter
@@ -35,6 +36,12 @@ Rectangle {
         Accessible.role: Accessible.Graphic
         Accessible.name: root.controller.title
         Accessible.focusable: true
+        Accessible.onIncreaseAction: root.controller.zoomBy(square.zoomStep, square.middle)
+        Accessible.onDecreaseAction: root.controller.zoomBy(1 / square.zoomStep, square.middle)
+        Accessible.onScrollLeftAction: root.controller.pan(Qt.point(square.step, 0))
+        Accessible.onScrollRightAction: root.controller.pan(Qt.point(-square.step, 0))
+        Accessible.onScrollUpAction: root.controller.pan(Qt.point(0, square.step))
+        Accessible.onScrollDownAction: root.controller.pan(Qt.point(0, -square.step))
 
         Keys.onLeftPressed: root.controller.pan(Qt.point(-square.step, 0))
         Keys.onRightPressed: root.controller.pan(Qt.point(square.step, 0))
@@ -45,7 +52,8 @@ Rectangle {
         Keys.onPressed: event => {
             const zoomsIn = event.key === Qt.Key_Plus || event.key === Qt.Key_Equal;
             if (zoomsIn || event.key === Qt.Key_Minus)
-                root.controller.zoomBy(zoomsIn ? 1.1 : 1 / 1.1, square.middle);
+                root.controller.zoomBy(zoomsIn ? square.zoomStep : 1 / square.zoomStep,
+                                       square.middle);
         }
 
         PictureItem {

@@ -20,9 +20,6 @@ const std::vector<HandKind> kAllHands{HandKind::finger, HandKind::keys, HandKind
 // A flow stands with what stops a hand first.
 const std::vector<KnownFailures>& knownFailures() {
   static const std::vector<KnownFailures> table{
-      {"the cut of a picture cannot be changed by an assistive tool",
-       {HandKind::assistive},
-       {"TakeASquare"}},
       {"what an assistive tool deletes stops at a number's separators",
        {HandKind::assistive},
        {"CorrectNumber"}},

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
+#include <QAccessible>
 #include <QPointingDevice>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -94,6 +95,25 @@ TEST_F(PhotoCropPageTest, KeysMoveAndZoom) {
   EXPECT_LT(cut().origin.y, 14);
   press(Qt::Key_Up);
   press(Qt::Key_Minus);
+  EXPECT_NEAR(controller->zoom(), 1, 1e-9);
+}
+
+TEST_F(PhotoCropPageTest, AssistiveActionsMoveAndZoom) {
+  auto* const square = page->findChild<QQuickItem*>(QStringLiteral("cropSquare"));
+  auto* const actions = QAccessible::queryAccessibleInterface(square)->actionInterface();
+  ASSERT_NE(actions, nullptr);
+  actions->doAction(QAccessibleActionInterface::scrollRightAction());
+  EXPECT_EQ(cut().origin.x, 160);
+  actions->doAction(QAccessibleActionInterface::scrollLeftAction());
+  EXPECT_EQ(cut().origin.x, 150);
+  actions->doAction(QAccessibleActionInterface::increaseAction());
+  EXPECT_NEAR(controller->zoom(), 1.1, 1e-9);
+  const double top = cut().origin.y;
+  actions->doAction(QAccessibleActionInterface::scrollUpAction());
+  EXPECT_LT(cut().origin.y, top);
+  actions->doAction(QAccessibleActionInterface::scrollDownAction());
+  EXPECT_NEAR(cut().origin.y, top, 1e-9);
+  actions->doAction(QAccessibleActionInterface::decreaseAction());
   EXPECT_NEAR(controller->zoom(), 1, 1e-9);
 }
 
