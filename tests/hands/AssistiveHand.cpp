@@ -77,8 +77,14 @@ void AssistiveHand::type(const std::string& field, const std::string& text) {
   write(field, QString::fromStdString(textOf(field) + text));
 }
 
+// A tool says what the text is to be. A number that lacks but a separator is the same number, so
+// the character behind it has to go.
 void AssistiveHand::eraseAt(const std::string& field, int position) {
-  write(field, QString::fromStdString(textOf(field)).remove(position, 1));
+  const std::string before = textOf(field);
+  const auto end = static_cast<int>(before.size());
+  for (int i = position; i < end && textOf(field) == before; ++i) {
+    write(field, QString::fromStdString(before).remove(i, 1));
+  }
 }
 
 void AssistiveHand::back() { press("Back"); }

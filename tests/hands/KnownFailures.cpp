@@ -20,9 +20,6 @@ const std::vector<HandKind> kAllHands{HandKind::finger, HandKind::keys, HandKind
 // A flow stands with what stops a hand first.
 const std::vector<KnownFailures>& knownFailures() {
   static const std::vector<KnownFailures> table{
-      {"what an assistive tool deletes stops at a number's separators",
-       {HandKind::assistive},
-       {"CorrectNumber"}},
       {"a disabled button does not say so", kAllHands, {"DisabledButton"}},
   };
   return table;
