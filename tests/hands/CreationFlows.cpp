@@ -40,7 +40,7 @@ void beginCreating(Hand& hand) {
 // From the square on to the badge.
 const Challenge& finishCreating(Hand& hand) {
   hand.press("Choose");
-  hand.sees("Change Photo");
+  hand.reads("Change Photo");
   hand.press("Create");
   hand.sees("Challenge created!");
   hand.press("Later");
@@ -49,7 +49,7 @@ const Challenge& finishCreating(Hand& hand) {
   require(completed.size() == 1 && completed[0]->title == kTitle, "it was not created");
   require(completed[0]->challengeImage != nullptr, "it has no picture");
   hand.press("Badges");
-  hand.sees(kTitle);
+  hand.reads(kTitle);
   return *completed[0];
 }
 
@@ -141,7 +141,7 @@ void cancelledSheet(Hand& hand) {
   hand.press("Cancel");
   hand.seesNoMore("Take Photo");
   hand.press("Cancel");
-  hand.sees("New Challenges");
+  hand.reads("New Challenges");
 }
 
 }  // namespace

@@ -3,11 +3,25 @@
 #include "tests/hands/FingerHand.h"
 
 #include <QGuiApplication>
+#include <QQuickItem>
 #include <QStyleHints>
 #include <QTest>
 #include <algorithm>
 
 namespace kindora {
+namespace {
+
+// What is only seen has no name that is read aloud.
+const QQuickItem* drawn(const QQuickItem* in, const char* objectName) {
+  if (in->objectName() == QLatin1String(objectName)) return in;
+  for (const QQuickItem* child : in->childItems()) {
+    const QQuickItem* found = child->isVisible() ? drawn(child, objectName) : nullptr;
+    if (found != nullptr) return found;
+  }
+  return nullptr;
+}
+
+}  // namespace
 
 FingerHand::FingerHand(Program& program) : Hand(program), screen_(QTest::createTouchDevice()) {}
 
@@ -129,11 +143,12 @@ void FingerHand::eraseAt(const std::string& field, int position) {
   send(event);
 }
 
+// From the edge of the page, where its bar begins.
 void FingerHand::back() {
   program().rest();
   const QSizeF size = program().window().size();
-  const double width = std::min(size.width(), 480.0);
-  const double left = (size.width() - width) / 2;
+  const double left = find("Back").rect.left();
+  const double width = std::min(size.width() - left, 480.0);
   draw({left + 4, size.height() * 0.6}, {left + width * 0.8, size.height() * 0.6});
 }
 
@@ -144,13 +159,17 @@ void FingerHand::rejectRow(const std::string& row) {
   press("Reject");
 }
 
-// Rubs over the cover to and fro, line by line.
+// Rubs over the cover line by line, from its middle to either side and beyond.
 void FingerHand::uncover() {
-  const double bottom = sees("Scratch the cover away").rect.top() - 12;
-  const double middle = program().window().width() / 2.0;
-  for (int i = 0; canSee("Scratch the cover away") && i < 14; ++i) {
-    const double y = bottom - 16 - i * 24;
-    drag({middle - 150, y}, {middle + 150, y}, {.steps = 14, .milliseconds = 1});
+  sees("Scratch the cover away");
+  const QQuickItem* cover = drawn(program().window().contentItem(), "scratchImageView");
+  if (cover == nullptr) giveUp("there is no cover");
+  const QRectF place = cover->mapRectToScene({0, 0, cover->width(), cover->height()});
+  for (double y = place.bottom() - 16; canSee("Scratch the cover away") && y > place.top();
+       y -= 24) {
+    for (const double side : {place.left(), place.right()}) {
+      drag({place.center().x(), y}, {side, y}, {.steps = 7, .milliseconds = 1});
+    }
   }
 }
 

@@ -13,7 +13,7 @@ namespace {
 void answer(Hand& hand, const std::string& row, const std::string& button) {
   hand.press(row);
   hand.press(button);
-  hand.sees("You chose " + button + ".");
+  hand.reads("You chose " + button + ".");
 }
 
 void alertsOfButtons(Hand& hand) {
@@ -32,9 +32,9 @@ void alertsOfOtherKinds(Hand& hand) {
   answer(hand, "Disabled and destructive", "Delete");
   hand.press("Veto");
   hand.press("Not yet");
-  hand.sees("Asked 1 time. Take the time you need.");
+  hand.reads("Asked 1 time. Take the time you need.");
   hand.press("Ready");
-  hand.sees("You chose Ready.");
+  hand.reads("You chose Ready.");
   answer(hand, "Long text", "Sing");
   answer(hand, "Attributed texts", "Thank you very much");
 }
@@ -42,7 +42,7 @@ void alertsOfOtherKinds(Hand& hand) {
 void disabledButton(Hand& hand) {
   hand.press("Alerts, Cards that ask and tell");
   hand.press("Disabled and destructive");
-  require(hand.sees("Archive").state.disabled, "the grey button does not say that it is disabled");
+  require(hand.reads("Archive").state.disabled, "the grey button does not say that it is disabled");
 }
 
 void alertWithFields(Hand& hand) {
@@ -51,7 +51,7 @@ void alertWithFields(Hand& hand) {
   hand.type("Name", "Ada");
   hand.type("Password", "secret");
   hand.press("OK");
-  hand.sees("You signed in as Ada with a password.");
+  hand.reads("You signed in as Ada with a password.");
 }
 
 void declaredAlert(Hand& hand) {
@@ -59,7 +59,7 @@ void declaredAlert(Hand& hand) {
   hand.press("Declared alert");
   hand.type("Name of the pet", "Rex");
   hand.press("Call");
-  hand.sees("You called the pet Rex.");
+  hand.reads("You called the pet Rex.");
 }
 
 void legacyAlerts(Hand& hand) {
@@ -71,14 +71,14 @@ void legacyAlerts(Hand& hand) {
     hand.sees(title);
     hand.press("Next");
   }
-  hand.sees("First has gone.");
+  hand.reads("First has gone.");
   hand.press("One over another");
   hand.press("More");
   hand.sees("Above");
   hand.press("Back");
   hand.sees("Below");
   hand.press("Close");
-  hand.sees("You chose Close.");
+  hand.reads("You chose Close.");
 }
 
 void legacyLogin(Hand& hand) {
@@ -87,7 +87,7 @@ void legacyLogin(Hand& hand) {
   hand.type("Login", "ada");
   hand.type("Password", "secret");
   hand.press("Log in");
-  hand.sees("You logged in as ada with a password.");
+  hand.reads("You logged in as ada with a password.");
 }
 
 }  // namespace

@@ -11,31 +11,31 @@ namespace {
 
 void scratchPage(Hand& hand) {
   hand.press("Scratch-off");
-  hand.sees("0 % gone");
+  hand.reads("0 % gone");
   hand.press("Scratch away");
-  hand.sees("100 % gone");
+  hand.reads("100 % gone");
   hand.press("Start anew");
-  hand.sees("0 % gone");
-  const std::string cells = hand.sees("0 % gone").name;
+  hand.reads("0 % gone");
+  const std::string cells = hand.reads("0 % gone").name;
   hand.increase("Radius");
   hand.seesNoMore(cells);
   hand.press("Show the grid");
-  require(!hand.sees("Show the grid").state.checked, "the grid is still shown");
+  require(!hand.reads("Show the grid").state.checked, "the grid is still shown");
   hand.back();
   hand.sees("Gallery");
 }
 
 void curvesPage(Hand& hand) {
   hand.press("Curves");
-  hand.sees("60 frames in 1.0 s");
+  hand.reads("60 frames in 1.0 s");
   hand.increase("Duration");
   hand.seesNoMore("60 frames in 1.0 s");
   hand.press("Allow overdamping");
-  require(hand.sees("Allow overdamping").state.checked, "overdamping is not allowed");
+  require(hand.reads("Allow overdamping").state.checked, "overdamping is not allowed");
   hand.press("Tween");
-  require(hand.sees("Tween").state.checked, "the tween is not chosen");
+  require(hand.reads("Tween").state.checked, "the tween is not chosen");
   hand.press("Ease in");
-  require(hand.sees("Ease in").state.checked, "the timing is not chosen");
+  require(hand.reads("Ease in").state.checked, "the timing is not chosen");
   hand.press("Play");
   hand.back();
   hand.sees("Gallery");
@@ -44,9 +44,9 @@ void curvesPage(Hand& hand) {
 void gridPage(Hand& hand) {
   hand.press("Springy grid");
   hand.press("Cell 7");
-  hand.sees("Cell 7 was pressed");
+  hand.reads("Cell 7 was pressed");
   hand.press("Cell 90");
-  hand.sees("Cell 90 was pressed");
+  hand.reads("Cell 90 was pressed");
   hand.back();
   hand.sees("Gallery");
 }
@@ -56,11 +56,11 @@ void phonePage(Hand& hand) {
   hand.press("United States");
   hand.type("Search", "kingdom");
   hand.press("United Kingdom");
-  hand.sees("United Kingdom, +44");
+  hand.reads("United Kingdom, +44");
   hand.type("Phone number", "02071234567");
   requireText(hand, "Phone number", "020 7123 4567");
-  hand.sees("A valid number");
-  hand.scrollTo("+44 20 7123 4567");
+  hand.reads("A valid number");
+  hand.reads("+44 20 7123 4567");
   hand.back();
   hand.sees("Gallery");
 }

@@ -100,11 +100,20 @@ std::string Hand::textOf(const std::string& field) {
   return interface->text(QAccessible::Value).toStdString();
 }
 
-void Hand::press(const std::string& name) {
+void Hand::bringIntoSight(const std::string& name) {
   program_.rest();
   waits([&] { return find(name).item != nullptr; });
   if (const Thing there = find(name); !there.item || !makesOut(there)) scrollTo(name);
   program_.rest();
+}
+
+Thing Hand::reads(const std::string& name) {
+  bringIntoSight(name);
+  return sees(name);
+}
+
+void Hand::press(const std::string& name) {
+  bringIntoSight(name);
   pressInReach(sees(name));
   program_.rest();
 }

@@ -32,6 +32,8 @@ class Hand {
 
   /// Waits until something of that name can be made out, and is at rest.
   Thing sees(const std::string& name);
+  /// The same of what may have to be brought into sight, as by scrolling.
+  Thing reads(const std::string& name);
   /// Waits until nothing of that name can be made out any more.
   void seesNoMore(const std::string& name);
   /// Whether something of that name can be made out now.
@@ -83,6 +85,8 @@ class Hand {
   [[noreturn]] void giveUp(const std::string& what);
 
  private:
+  void bringIntoSight(const std::string& name);
+
   Program& program_;
 };
 
