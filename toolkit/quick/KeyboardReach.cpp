@@ -180,7 +180,9 @@ bool KeyboardReach::goToEnd(int step) {
   // How long a list is it knows only at its end.
   while (scrollTo(step > 0 ? lowest() : highest())) {
   }
-  const Places there = placesInReach(Kind::noText);
+  // What stands there may be no control.
+  const QRectF end(0, number("contentY") + (step > 0 ? area_->height() : 0), 0, 0);
+  const Places there = placesBeyond(end, -step, Kind::noText);
   if (there.empty()) return false;
   focusAt(step > 0 ? there.back() : there.front());
   return true;
