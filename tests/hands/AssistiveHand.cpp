@@ -59,9 +59,8 @@ void AssistiveHand::scrollTo(const std::string& name) {
   giveUp("\"" + name + "\" does not come into the tree");
 }
 
-void AssistiveHand::write(const std::string& field, const QString& text) {
-  const Thing thing = findField(field);
-  if (!thing.item) giveUp("there is no field \"" + field + "\"");
+void AssistiveHand::write(const std::string& name, const QString& text) {
+  const Thing thing = fieldCalled(name);
   QAccessibleInterface* interface = thing.interface();
   act(thing, {Actions::setFocusAction()});
   if (QAccessibleEditableTextInterface* editable = interface->editableTextInterface()) {
@@ -73,7 +72,6 @@ void AssistiveHand::write(const std::string& field, const QString& text) {
 }
 
 void AssistiveHand::type(const std::string& field, const std::string& text) {
-  waits([&] { return findField(field).item != nullptr; });
   write(field, QString::fromStdString(textOf(field) + text));
 }
 

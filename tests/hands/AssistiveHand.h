@@ -16,7 +16,6 @@ class AssistiveHand final : public Hand {
   void eraseAt(const std::string& field, int position) override;
   void back() override;
   void rejectRow(const std::string& row) override;
-  void uncover() override { press("Scratch the cover away"); }
   void zoomIn(const std::string& square) override;
   void increase(const std::string& slider) override;
 
@@ -28,7 +27,7 @@ class AssistiveHand final : public Hand {
  private:
   /// Does the first of the actions that the thing offers, and returns whether there was one.
   bool act(const Thing& thing, const QStringList& actions);
-  void write(const std::string& field, const QString& text);
+  void write(const std::string& name, const QString& text);
 };
 
 }  // namespace kindora

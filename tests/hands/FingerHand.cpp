@@ -100,15 +100,14 @@ void FingerHand::scrollTo(const std::string& name) {
   giveUp("no finger brings \"" + name + "\" into sight");
 }
 
-void FingerHand::touchField(const std::string& field) {
-  waits([&] { return findField(field).item != nullptr; });
-  if (!findField(field).item) giveUp("there is no field \"" + field + "\"");
-  if (focusedThing(program().window()).isCalled(field)) return;
-  if (!findField(field).inSight()) scrollTo(field);
-  tap(findField(field).seen().center());
+void FingerHand::touchField(const std::string& name) {
+  const Thing there = fieldCalled(name);
+  if (focusedThing(program().window()).isCalled(name)) return;
+  if (!there.inSight()) scrollTo(name);
+  tap(fieldCalled(name).seen().center());
   program().rest();
-  if (!focusedThing(program().window()).isCalled(field)) {
-    giveUp("a touch does not bring the keyboard into \"" + field + "\"");
+  if (!focusedThing(program().window()).isCalled(name)) {
+    giveUp("a touch does not bring the keyboard into \"" + name + "\"");
   }
 }
 

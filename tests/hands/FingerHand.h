@@ -30,7 +30,7 @@ class FingerHand : public Hand {
  protected:
   void pressInReach(const Thing& thing) override;
   /// Touches the field, unless the keyboard writes there already.
-  void touchField(const std::string& field);
+  void touchField(const std::string& name);
   /// Sends what an on-screen keyboard sends to the field that it writes into.
   void send(QInputMethodEvent& event);
   void placeCaret(int position);

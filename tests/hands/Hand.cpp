@@ -90,10 +90,15 @@ std::vector<std::string> Hand::pressableNames() {
   return names;
 }
 
+Thing Hand::fieldCalled(const std::string& name) {
+  waits([&] { return findField(name).item != nullptr; });
+  const Thing thing = findField(name);
+  if (!thing.item) giveUp("there is no field \"" + name + "\"");
+  return thing;
+}
+
 std::string Hand::textOf(const std::string& field) {
-  const Thing thing = findField(field);
-  if (!thing.item) giveUp("there is no field \"" + field + "\"");
-  QAccessibleInterface* interface = thing.interface();
+  QAccessibleInterface* interface = fieldCalled(field).interface();
   if (QAccessibleTextInterface* text = interface->textInterface()) {
     return text->text(0, text->characterCount()).toStdString();
   }

@@ -58,7 +58,7 @@ class Hand {
   /// Asks the list to reject a row.
   virtual void rejectRow(const std::string& row) = 0;
   /// Takes a new challenge's cover away.
-  virtual void uncover() = 0;
+  virtual void uncover() { press("Scratch the cover away"); }
   /// Enlarges the picture under the square.
   virtual void zoomIn(const std::string& square) = 0;
   /// One step up on a slider.
@@ -82,6 +82,8 @@ class Hand {
   [[nodiscard]] Thing find(const std::string& name);
   /// The same of the fields.
   [[nodiscard]] Thing findField(const std::string& name);
+  /// The field, once it is there.
+  [[nodiscard]] Thing fieldCalled(const std::string& name);
   [[noreturn]] void giveUp(const std::string& what);
 
  private:

@@ -66,9 +66,8 @@ void KeysHand::pressInReach(const Thing& thing) {
   key(kKeys.at(static_cast<std::size_t>(presses_++) % kKeys.size()));
 }
 
-void KeysHand::type(const std::string& field, const std::string& text) {
-  waits([&] { return findField(field).item != nullptr; });
-  focus(field);
+void KeysHand::type(const std::string& name, const std::string& text) {
+  focus(fieldCalled(name).name);
   key(Qt::Key_End);
   for (const char character : text) {
     QTest::keyClick(&program().window(), character);

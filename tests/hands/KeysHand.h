@@ -19,7 +19,6 @@ class KeysHand final : public Hand {
   void eraseAt(const std::string& field, int position) override;
   void back() override;
   void rejectRow(const std::string& row) override;
-  void uncover() override { press("Scratch the cover away"); }
   void zoomIn(const std::string& square) override;
   void increase(const std::string& slider) override;
   /// Keeps the key pressed while the others' hands swing.
