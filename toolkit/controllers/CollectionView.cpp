@@ -4,10 +4,10 @@
 
 #include <QQmlEngine>
 
+#include "toolkit/collection/NearSight.h"
+
 namespace kindora {
 namespace {
-
-constexpr double kMargin = 100;  // points around the visible part in which there are cells
 
 // Somebody else's.
 std::shared_ptr<UICollectionViewLayout> borrowed(UICollectionViewLayout& layout) {
@@ -49,7 +49,7 @@ void CollectionView::settle() {
 }
 
 void CollectionView::showCells() {
-  const auto placed = layOut(CGRectInset(bounds(), -kMargin, -kMargin));
+  const auto placed = layOut(nearSight(bounds()));
   shown_.clear();
   for (const auto& [cell, attributes] : placed) {
     if (attributes->decorationKind()) continue;

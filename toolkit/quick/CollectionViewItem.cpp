@@ -2,11 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/quick/CollectionViewItem.h"
 
-#include <QQmlContext>
 #include <QVariant>
 #include <set>
-
-#include "platform/FatalError.h"
 
 namespace kindora {
 
@@ -36,7 +33,7 @@ class CollectionViewItem::Ticker final : public QAbstractAnimation {
 };
 
 CollectionViewItem::CollectionViewItem(QQuickItem* parent)
-    : QQuickItem(parent), ticker_(std::make_unique<Ticker>(*this)) {}
+    : CellsItem(parent), ticker_(std::make_unique<Ticker>(*this)) {}
 
 CollectionViewItem::~CollectionViewItem() {
   ticker_->stop();
@@ -47,32 +44,10 @@ CollectionViewItem::~CollectionViewItem() {
 void CollectionViewItem::setCollectionView(CollectionView* view) {
   if (view_ == view) return;
   if (view_) disconnect(view_, nullptr, this, nullptr);
-  items_.clear();
+  forgetItems();
   view_ = view;
   if (view_) connect(view_, &CollectionView::changed, this, &CollectionViewItem::draw);
   emit collectionViewChanged();
-  tellView();
-}
-
-void CollectionViewItem::setDelegate(QQmlComponent* delegate) {
-  if (delegate_ == delegate) return;
-  delegate_ = delegate;
-  items_.clear();
-  emit delegateChanged();
-  if (isComponentComplete()) draw();
-}
-
-void CollectionViewItem::setVisibleSize(QSizeF size) {
-  if (visibleSize_ == size) return;
-  visibleSize_ = size;
-  emit visibleSizeChanged();
-  tellView();
-}
-
-void CollectionViewItem::setContentY(double contentY) {
-  if (contentY_ == contentY) return;
-  contentY_ = contentY;
-  emit contentYChanged();
   tellView();
 }
 
@@ -83,48 +58,32 @@ void CollectionViewItem::setFinger(QPointF finger) {
   if (view_) view_->setPanLocation({finger.x(), finger.y()});
 }
 
-void CollectionViewItem::componentComplete() {
-  QQuickItem::componentComplete();
-  tellView();
-  draw();
-}
-
 void CollectionViewItem::tellView() {
   if (!isComponentComplete() || !view_) return;
-  view_->setFrame({{0, 0}, {visibleSize_.width(), visibleSize_.height()}});
-  view_->setContentOffset({0, contentY_});
+  view_->setFrame({{0, 0}, {visibleSize().width(), visibleSize().height()}});
+  view_->setContentOffset({0, contentY()});
   if (!view_->isResting()) ticker_->wake();
 }
 
-QQuickItem* CollectionViewItem::itemOf(const UICollectionViewCellRef& cell) {
-  std::unique_ptr<QQuickItem>& item = items_[cell.get()];
-  if (!item) {
-    QObject* made = delegate_->createWithInitialProperties(
-        {{QStringLiteral("cell"), QVariant::fromValue(cell.get())}}, delegate_->creationContext());
-    item.reset(qobject_cast<QQuickItem*>(made));
-    if (!item) fatalError("the delegate makes no item: " + delegate_->errorString().toStdString());
-    item->setParentItem(this);
-  }
-  return item.get();
-}
-
 void CollectionViewItem::draw() {
-  if (!isComponentComplete() || !view_ || !delegate_) return;
+  if (!isComponentComplete() || !view_ || delegate() == nullptr) return;
   const CGSize content = view_->contentSize();
   setImplicitSize(content.width, content.height);
-  std::set<UICollectionViewCell*> shown;
+  std::set<const QObject*> shown;
   QQuickItem* before = nullptr;
   for (const auto& [path, place] : view_->shownCells()) {
-    QQuickItem* item = itemOf(place.cell);
-    shown.insert(place.cell.get());
-    item->setPosition({place.frame.origin.x, place.frame.origin.y});
-    item->setSize({place.frame.size.width, place.frame.size.height});
-    item->setVisible(true);
+    UICollectionViewCell* const cell = place.cell.get();
+    shown.insert(cell);
+    QQuickItem& item = itemOf(*cell, {{QStringLiteral("cell"), QVariant::fromValue(cell)}});
+    item.setParentItem(this);
+    item.setPosition({place.frame.origin.x, place.frame.origin.y});
+    item.setSize({place.frame.size.width, place.frame.size.height});
+    item.setVisible(true);
     // The focus goes from item to item in the order of the badges.
-    if (before != nullptr) item->stackAfter(before);
-    before = item;
+    if (before != nullptr) item.stackAfter(before);
+    before = &item;
   }
-  for (const auto& [cell, item] : items_) {
+  for (const auto& [cell, item] : items()) {
     if (!shown.contains(cell)) item->setVisible(false);
   }
   if (!view_->isResting()) ticker_->wake();

@@ -5,27 +5,20 @@
 #include <QAbstractAnimation>
 #include <QPointF>
 #include <QPointer>
-#include <QQmlComponent>
-#include <QQuickItem>
-#include <map>
 #include <memory>
 
 #include "toolkit/controllers/CollectionView.h"
+#include "toolkit/quick/CellsItem.h"
 
 namespace kindora {
 
-/// Draws a collection's cells inside whatever scrolls: it is as large as the content, is told what
-/// of it is visible and where the finger is, and keeps cells moving until they rest.
-class CollectionViewItem : public QQuickItem {
+/// Draws a collection's cells, tells it where the finger is, and keeps cells moving until they
+/// rest. The item of a cell gets it in its property `cell`.
+class CollectionViewItem : public kindora::CellsItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(kindora::CollectionView* collectionView READ collectionView WRITE setCollectionView
                  NOTIFY collectionViewChanged REQUIRED)
-  /// Makes the item of a cell, which gets the cell in its property `cell`.
-  Q_PROPERTY(
-      QQmlComponent* delegate READ delegate WRITE setDelegate NOTIFY delegateChanged REQUIRED)
-  Q_PROPERTY(QSizeF visibleSize READ visibleSize WRITE setVisibleSize NOTIFY visibleSizeChanged)
-  Q_PROPERTY(double contentY READ contentY WRITE setContentY NOTIFY contentYChanged)
   /// In this item; null when no finger scrolls.
   Q_PROPERTY(QPointF finger READ finger WRITE setFinger NOTIFY fingerChanged)
 
@@ -35,12 +28,6 @@ class CollectionViewItem : public QQuickItem {
 
   [[nodiscard]] CollectionView* collectionView() const { return view_; }
   void setCollectionView(CollectionView* view);
-  [[nodiscard]] QQmlComponent* delegate() const { return delegate_; }
-  void setDelegate(QQmlComponent* delegate);
-  [[nodiscard]] QSizeF visibleSize() const { return visibleSize_; }
-  void setVisibleSize(QSizeF size);
-  [[nodiscard]] double contentY() const { return contentY_; }
-  void setContentY(double contentY);
   [[nodiscard]] QPointF finger() const { return finger_; }
   void setFinger(QPointF finger);
 
@@ -49,28 +36,17 @@ class CollectionViewItem : public QQuickItem {
 
  signals:
   void collectionViewChanged();
-  void delegateChanged();
-  void visibleSizeChanged();
-  void contentYChanged();
   void fingerChanged();
 
  protected:
-  void componentComplete() override;
+  void tellView() override;
+  void draw() override;
 
  private:
   class Ticker;
 
-  void tellView();
-  void draw();
-  [[nodiscard]] QQuickItem* itemOf(const UICollectionViewCellRef& cell);
-
   QPointer<CollectionView> view_;
-  QPointer<QQmlComponent> delegate_;
-  QSizeF visibleSize_;
-  double contentY_ = 0;
   QPointF finger_;
-  // A cell that is put aside keeps its item for the next time.
-  std::map<UICollectionViewCell*, std::unique_ptr<QQuickItem>> items_;
   std::unique_ptr<Ticker> ticker_;
 };
 
