@@ -56,6 +56,7 @@ TableCell {
         visible: scale > 0
 
         Behavior on scale {
+            enabled: root.cell?.settled ?? false
             NumberAnimation { duration: 180; easing.type: Easing.OutBack }
         }
     }

@@ -6,23 +6,23 @@
 
 namespace kindora {
 
-/// Reads a table as a list view does: row by row, by the names of the roles.
+/// Reads a table row by row, all of which it brings into sight.
 class TableReader final {
  public:
-  explicit TableReader(const UITableView& table) : table_(table) {}
-
-  [[nodiscard]] QVariant value(int row, const char* role) const {
-    return table_.data(table_.index(row), table_.roleNames().key(role));
+  explicit TableReader(UITableView& table) : table_(table) {
+    table.setBounds({{0, 0}, {320, 1e9}});
   }
-  [[nodiscard]] bool isHeader(int row) const { return value(row, "isHeader").toBool(); }
+
+  [[nodiscard]] const UITableView::Shown& row(int row) const { return table_.shownRows().at(row); }
+  [[nodiscard]] bool isHeader(int index) const { return header(index) != nullptr; }
   /// Null for a header.
   template <typename Cell = UITableViewCell>
-  [[nodiscard]] Cell* cell(int row) const {
-    return dynamic_cast<Cell*>(value(row, "cell").value<UITableViewCell*>());
+  [[nodiscard]] Cell* cell(int index) const {
+    return dynamic_cast<Cell*>(row(index).cell.get());
   }
   /// Null for a row.
-  [[nodiscard]] UITableViewHeaderFooterView* header(int row) const {
-    return value(row, "header").value<UITableViewHeaderFooterView*>();
+  [[nodiscard]] UITableViewHeaderFooterView* header(int index) const {
+    return row(index).header.get();
   }
   [[nodiscard]] int count() const { return table_.rowCount(); }
 
@@ -34,19 +34,14 @@ class TableReader final {
 class TableEar final {
  public:
   explicit TableEar(UITableView& table) {
-    QObject::connect(&table, &QAbstractItemModel::rowsInserted, &context_, [this] { ++inserted; });
-    QObject::connect(&table, &QAbstractItemModel::rowsRemoved, &context_, [this] { ++removed; });
-    QObject::connect(&table, &QAbstractItemModel::rowsMoved, &context_, [this] { ++moved; });
-    QObject::connect(&table, &QAbstractItemModel::dataChanged, &context_, [this] { ++changed; });
-    QObject::connect(&table, &QAbstractItemModel::modelReset, &context_, [this] { ++reset; });
+    QObject::connect(&table, &UITableView::changed, &context_, [this](bool animated) {
+      ++changes;
+      lastWasAnimated = animated;
+    });
   }
-  [[nodiscard]] int total() const { return inserted + removed + moved + changed + reset; }
 
-  int inserted = 0;
-  int removed = 0;
-  int moved = 0;
-  int changed = 0;
-  int reset = 0;
+  int changes = 0;
+  bool lastWasAnimated = false;
 
  private:
   QObject context_;

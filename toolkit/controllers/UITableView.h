@@ -1,20 +1,24 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
-// A sectioned table as a list model: the rows of all sections one below another, each section led
-// by its header. What it shows comes from a data source; a reload compares the rows by identity, so
-// that rows which stay are kept and only the others come and go.
+// A sectioned table: the rows of all sections one below another, each section led by its header.
+// What it shows comes from a data source. There are cells only in and near sight; a reload compares
+// rows by identity, so that rows which stay keep theirs, and is told once. Knows no pixels: an item
+// draws it and tells it what is in sight and how high rows are.
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
+#include <QObject>
+#include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <tuple>
 #include <vector>
 
 #include "platform/Geometry.h"
 #include "toolkit/collection/CellPool.h"
+#include "toolkit/collection/RowStack.h"
 #include "toolkit/controllers/UISearchBar.h"
 #include "toolkit/controllers/UITableViewCell.h"
 
@@ -54,12 +58,11 @@ class UITableViewDataSource {
                                                             IndexPath /*path*/) {}
 };
 
-class UITableView : public QAbstractListModel {
+class UITableView : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("owned by table view controllers")
   Q_PROPERTY(int editingRow READ editingRow NOTIFY editingRowChanged)
-  Q_PROPERTY(bool animatesChanges READ animatesChanges NOTIFY animatesChangesChanged)
   Q_PROPERTY(
       kindora::UISearchBar* tableHeaderView READ tableHeaderView NOTIFY tableHeaderViewChanged)
 
@@ -84,7 +87,7 @@ class UITableView : public QAbstractListModel {
   /// Pressed and not deselected since. Kept for the platform's interface: a row shows no selection.
   [[nodiscard]] std::optional<IndexPath> indexPathForSelectedRow() const { return selected_; }
   void deselectRowAtIndexPath(IndexPath path, bool animated);
-  /// The cell that shows the row now; null when there is no such row.
+  /// The cell that shows the row now; null when there is no such row, or far from sight.
   [[nodiscard]] UITableViewCellRef cellForRowAtIndexPath(IndexPath path) const;
   /// A search bar above all rows, which scrolls with them; null for none.
   [[nodiscard]] UISearchBar* tableHeaderView() const { return headerView_; }
@@ -100,45 +103,77 @@ class UITableView : public QAbstractListModel {
   Q_INVOKABLE void commitDelete(int row);
   /// The open row, or -1.
   [[nodiscard]] int editingRow() const { return editingRow_; }
-  [[nodiscard]] bool animatesChanges() const { return animatesChanges_; }
 
-  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-  [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+  // --- What the item tells ---
+  /// What is in sight of the rows.
+  void setBounds(const CGRect& bounds);
+  /// How high these rows have turned out to be.
+  void setRowHeights(const std::map<int, double>& heights);
+  /// The row that has the keyboard keeps its cell out of sight, too; -1 for none.
+  void holdRow(int row);
+
+  // --- What the item draws ---
+  [[nodiscard]] int rowCount() const { return static_cast<int>(rows_.size()); }
+  [[nodiscard]] double contentHeight() const { return stack_.height(); }
+  struct Shown {
+    UITableViewCellRef cell;                              ///< null for a header
+    std::shared_ptr<UITableViewHeaderFooterView> header;  ///< null for a row
+    bool canEdit = false;
+    bool highlights = false;
+    std::string deleteTitle;
+    bool isNew = false;  ///< listed by the last reload and not before
+    [[nodiscard]] UIReusableCell& view() const {
+      return cell ? static_cast<UIReusableCell&>(*cell) : *header;
+    }
+  };
+  /// Those in or near sight, by row.
+  [[nodiscard]] const std::map<int, Shown>& shownRows() const { return shown_; }
+  [[nodiscard]] double topOfRow(int row) const { return stack_.top(row); }
+  /// Whether the last reload shows how rows come, go and move.
+  [[nodiscard]] bool animatesChanges() const { return animatesChanges_; }
 
  signals:
   void editingRowChanged();
-  void animatesChangesChanged();
   void tableHeaderViewChanged();
+  /// Rows above have come, gone or grown: to stay in sight, what is seen scrolls on by that much.
+  void shifted(double by);
+  /// Cells have come, gone or moved, or the content has another height.
+  void changed(bool animated);
 
  private:
   struct Row {
     int section = 0;
     int row = -1;  // -1 is the header
     const void* identity = nullptr;
-    UITableViewCellRef cell;
-    std::shared_ptr<UITableViewHeaderFooterView> header;
-    bool canEdit = false;
-    bool highlights = false;
-    std::string deleteTitle;
     /// What makes it the same row as before.
-    [[nodiscard]] std::tuple<int, bool, const void*, int> key() const;
+    using Key = std::tuple<int, bool, const void*, int>;
+    [[nodiscard]] Key key() const;
   };
+  using Sections = std::set<int>;
 
-  [[nodiscard]] std::vector<Row> rowsOfSection(int section);
-  [[nodiscard]] std::vector<Row> allRows();
-  void fill(Row& row);
-  void replace(std::vector<Row> next, bool animated);
+  void appendSection(int section, std::vector<Row>& rows);
+  [[nodiscard]] std::vector<int> placesBefore(const std::vector<Row>& next) const;
+  void replace(std::vector<Row> next, const Sections& reloaded, bool animated);
+  bool showRows(const Sections& reloaded, const std::vector<int>& before);
+  void fill(const Row& row, Shown& shown);
+  void recycle(Shown& shown);
+  [[nodiscard]] int anchorRow() const;
+  void tell(double shift, bool animated);
   void setEditingRow(int row);
-  void recycle(Row& row);
-  [[nodiscard]] Row* rowAt(int row);
+  [[nodiscard]] const Row* rowAt(int row) const;
+  [[nodiscard]] bool canEdit(int row);
 
   UITableViewDataSource& source_;
   CellPool<UITableViewCell> cells_;
+  CellPool<UITableViewHeaderFooterView> headers_;
   std::vector<Row> rows_;
+  RowStack stack_;
+  std::map<int, Shown> shown_;
+  CGRect bounds_;
   std::optional<IndexPath> selected_;
   UISearchBar* headerView_ = nullptr;
   int editingRow_ = -1;
+  int heldRow_ = -1;
   bool animatesChanges_ = false;
 };
 

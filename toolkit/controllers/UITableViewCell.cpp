@@ -2,9 +2,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/controllers/UITableViewCell.h"
 
-#include <QQmlEngine>
-
 namespace kindora {
+
+void UITableViewCell::prepareForReuse() {
+  UIReusableCell::prepareForReuse();
+  settled_ = false;
+  emit lookChanged();
+}
+
+void UITableViewCell::settle() {
+  if (settled_) return;
+  settled_ = true;
+  emit lookChanged();
+}
 
 void UITableViewCell::setAccessoryType(UITableViewCellAccessoryType type) {
   if (accessoryType_ == type) return;
@@ -24,15 +34,6 @@ bool UITableViewCell::showsSelection() const {
 
 bool UITableViewCell::hasCheckmark() const {
   return accessoryType_ == UITableViewCellAccessoryType::checkmark;
-}
-
-UITableViewHeaderFooterView::UITableViewHeaderFooterView() {
-  QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
-  connectOutlet(textLabel, "textLabel", *contentView_);
-}
-
-UIViewRef UITableViewHeaderFooterView::outlet(std::string_view name) {
-  return contentView_->viewWithName(name);
 }
 
 }  // namespace kindora

@@ -17,8 +17,14 @@ class UITableViewCell : public kindora::UIReusableCell {
   QML_UNCREATABLE("cells come from the table")
   Q_PROPERTY(bool showsSelection READ showsSelection NOTIFY lookChanged)
   Q_PROPERTY(bool hasCheckmark READ hasCheckmark NOTIFY lookChanged)
+  Q_PROPERTY(bool settled READ isSettled NOTIFY lookChanged)
 
  public:
+  void prepareForReuse() override;
+  /// False from its reuse until it stands in its row: what changes then shows at once.
+  [[nodiscard]] bool isSettled() const { return settled_; }
+  void settle();
+
   /// What stands at the row's end.
   [[nodiscard]] UITableViewCellAccessoryType accessoryType() const { return accessoryType_; }
   void setAccessoryType(UITableViewCellAccessoryType type);
@@ -32,21 +38,18 @@ class UITableViewCell : public kindora::UIReusableCell {
  private:
   UITableViewCellAccessoryType accessoryType_ = UITableViewCellAccessoryType::none;
   UITableViewCellSelectionStyle selectionStyle_ = UITableViewCellSelectionStyle::standard;
+  bool settled_ = false;
 };
 
 /// The line above a section.
-class UITableViewHeaderFooterView : public QObject, public OutletOwner {
+class UITableViewHeaderFooterView : public kindora::UIReusableCell {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("headers come from the table")
 
  public:
-  UITableViewHeaderFooterView();
+  UITableViewHeaderFooterView() { connectOutlet(textLabel, "textLabel", contentView()); }
   std::weak_ptr<UILabel> textLabel;
-  [[nodiscard]] UIViewRef outlet(std::string_view name) override;
-
- private:
-  UIViewRef contentView_ = std::make_shared<UIView>();
 };
 
 }  // namespace kindora

@@ -10,7 +10,6 @@ Item {
     id: root
 
     required property int index
-    required property bool isHeader
     required property UITableViewCell cell
     required property UITableViewHeaderFooterView header
     required property string reuseIdentifier
@@ -20,9 +19,40 @@ Item {
     required property UITableView table
     required property var prototypes
 
+    readonly property bool isHeader: root.header !== null
     readonly property bool open: root.table.editingRow === root.index
     readonly property real openWidth: 104
     readonly property TableCell look: prototype.item as TableCell
+
+    signal departed
+
+    // Takes its place, maybe as another row than before.
+    function come(top: real, animated: bool) {
+        arrival.stop();
+        departure.stop();
+        slide.stop();
+        root.x = 0;
+        root.y = top;
+        root.opacity = 1;
+        root.scale = 1;
+        if (animated)
+            arrival.restart();
+    }
+
+    function moveTo(top: real, animated: bool) {
+        slide.stop();
+        if (!animated) {
+            root.y = top;
+            return;
+        }
+        slide.to = top;
+        slide.start();
+    }
+
+    function depart() {
+        arrival.stop();
+        departure.restart();
+    }
 
     height: root.isHeader ? 44 : content.height + (root.look?.spaceBelow ?? 0)
 
@@ -73,7 +103,7 @@ Item {
         }
 
         Behavior on x {
-            enabled: !swipe.active
+            enabled: !swipe.active && (root.cell?.settled ?? false)
             NumberAnimation { duration: 220; easing.type: Easing.OutCubic }
         }
     }
@@ -177,5 +207,37 @@ Item {
         acceptedDevices: PointerDevice.Mouse
         acceptedButtons: Qt.RightButton
         onTapped: root.table.openRow(root.index)
+    }
+
+    NumberAnimation {
+        id: slide
+        target: root
+        property: "y"
+        duration: Theme.moveDuration
+        easing.type: Easing.OutCubic
+    }
+
+    ParallelAnimation {
+        id: arrival
+
+        NumberAnimation {
+            target: root; property: "opacity"; from: 0; to: 1; duration: Theme.moveDuration
+        }
+        NumberAnimation {
+            target: root; property: "scale"; from: 0.8; to: 1; duration: Theme.moveDuration
+            easing.type: Easing.OutBack
+        }
+    }
+
+    ParallelAnimation {
+        id: departure
+        onFinished: root.departed()
+
+        NumberAnimation {
+            target: root; property: "opacity"; to: 0; duration: Theme.fadeDuration
+        }
+        NumberAnimation {
+            target: root; property: "x"; to: -root.width; duration: 250; easing.type: Easing.InQuad
+        }
     }
 }

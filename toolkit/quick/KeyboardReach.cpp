@@ -147,6 +147,7 @@ bool KeyboardReach::goOn(const QRectF& from, int step) {
 }
 
 bool KeyboardReach::goToLine(const QRectF& from, int step) {
+  comeBack(from);
   const Places there = placesBeyond(from, step, Kind::noText);
   if (there.empty()) return false;
   focusAt(nearest(there, from.center()));
@@ -165,6 +166,7 @@ bool KeyboardReach::goAlongLine(const QRectF& from, int step) {
 }
 
 bool KeyboardReach::goByPage(const QRectF& from, int step) {
+  comeBack(from);
   const double page = step * std::max(from.height(), area_->height() - 2 * kAround);
   scrollTo(number("contentY") + page);
   const Places there = placesBeyond(from, step, Kind::noText);
@@ -252,6 +254,12 @@ void KeyboardReach::show(const QRectF& place) {
   const double top = place.top() - around;
   const double bottom = place.bottom() + around - height;
   scrollTo(std::min(top, std::max(number("contentY"), bottom)));
+}
+
+// What has the keyboard may have been scrolled out of sight.
+void KeyboardReach::comeBack(const QRectF& from) {
+  const double top = number("contentY");
+  if (from.bottom() < top || from.top() > top + area_->height()) show(from);
 }
 
 // --- The Flickable ---

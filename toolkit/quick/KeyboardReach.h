@@ -64,6 +64,7 @@ class KeyboardReach : public QObject {
   void focusAt(const QRectF& place);
   void showFocus();
   void show(const QRectF& place);
+  void comeBack(const QRectF& from);
 
   [[nodiscard]] QRectF placeOf(const QQuickItem& item) const;
   [[nodiscard]] double number(const char* property) const;

@@ -4,6 +4,7 @@
 
 #include "gallery/phone/CountryTableViewController.h"
 #include "tests/gallery/GalleryFixture.h"
+#include "tests/support/TableReader.h"
 
 namespace kindora {
 namespace {
@@ -75,10 +76,10 @@ TEST_F(PhoneNumbersViewControllerTest, AnotherCountryLaysTheDigitsOutAnew) {
 
 TEST_F(PhoneNumbersViewControllerTest, TheChoiceTicksTheCountry) {
   auto& choice = choose();
+  const TableReader reader(*choice.tableView());
   int ticked = 0;
-  for (int row = 0; row < choice.tableViewNumberOfRowsInSection(0); ++row) {
-    const auto cell = choice.tableView()->cellForRowAtIndexPath({0, row});
-    if (cell && cell->hasCheckmark()) ++ticked;
+  for (int row = 0; row < reader.count(); ++row) {
+    if (reader.cell(row)->hasCheckmark()) ++ticked;
   }
   EXPECT_EQ(ticked, 1);
 }

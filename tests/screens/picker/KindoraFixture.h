@@ -77,8 +77,8 @@ class KindoraTableViewControllerTest : public AppFixture {
     bar().edit(QString::fromUtf8(text));
   }
   [[nodiscard]] PlaceholderTableViewCell& inviteRow() const {
-    return dynamic_cast<PlaceholderTableViewCell&>(
-        *screen->tableView()->cellForRowAtIndexPath({1, 0}));
+    const TableReader reader(*screen->tableView());
+    return *reader.cell<PlaceholderTableViewCell>(reader.count() - 1);
   }
 
   const ChallengeRef challenge = std::make_shared<Challenge>();

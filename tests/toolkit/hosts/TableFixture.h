@@ -21,6 +21,7 @@ class NamesController final : public UITableViewController {
   QUrl drawnBy;
   std::vector<int> selected;
   std::vector<int> deleted;
+  int asked = 0;  ///< for a cell
 
   NamesController() {
     setTitle(QStringLiteral("Names"));
@@ -35,6 +36,7 @@ class NamesController final : public UITableViewController {
     return "Friends";
   }
   [[nodiscard]] UITableViewCellRef tableViewCellForRowAtIndexPath(IndexPath path) override {
+    ++asked;
     auto cell = tableView()->dequeueReusableCell("cell");
     cell->setObjectName(QString::fromStdString(names.at(static_cast<std::size_t>(path.row))));
     cell->setAccessoryType(ticked.contains(path.row) ? UITableViewCellAccessoryType::checkmark
@@ -107,6 +109,10 @@ class TableFixture : public HostFixture {
   }
   void focus(const char* name) {
     spoken(QString::fromLatin1(name))->forceActiveFocus(Qt::TabFocusReason);
+  }
+  void scrollTo(double y) {
+    host->setProperty("contentY", y);
+    time.settle();
   }
   [[nodiscard]] double scrolled() const { return host->property("contentY").toDouble(); }
 

@@ -6,7 +6,17 @@
 namespace kindora {
 namespace {
 
-using TableListTest = TableFixture;
+class TableListTest : public TableFixture {
+ protected:
+  // With that of all in which the row lies.
+  double opacityOf(const char* name) {
+    double opacity = 1;
+    for (const QQuickItem* in = spoken(QString::fromLatin1(name)); in; in = in->parentItem()) {
+      opacity *= in->opacity();
+    }
+    return opacity;
+  }
+};
 
 TEST_F(TableListTest, IsAListThatBearsTheScreensTitle) {
   show();
@@ -62,6 +72,71 @@ TEST_F(TableListTest, ScrollingClosesTheOpenRow) {
   ASSERT_EQ(table().editingRow(), 1);
   drag({200, 400}, {200, 300});
   EXPECT_EQ(table().editingRow(), -1);
+}
+
+TEST_F(TableListTest, TenThousandRowsTakeTheCellsOfAFewScreenfuls) {
+  showMany(10'000);
+  EXPECT_LE(controller->asked, 20);
+  controller->asked = 0;
+  scrollTo(300'000);
+  EXPECT_LE(controller->asked, 20);
+  EXPECT_EQ(namesOf(QAccessible::Button).size(), controller->asked);
+}
+
+TEST_F(TableListTest, RowsThatAreOutOfSightAreInNobodysReach) {
+  showMany(1'000);
+  for (double y = 0; y < 20'000; y += 70) scrollTo(y);
+  const QStringList names = namesOf(QAccessible::Button);
+  EXPECT_LE(names.size(), 11);
+  for (const QString& name : names) EXPECT_NEAR(name.toInt(), 20'000 / 68 + 3, 7);
+}
+
+TEST_F(TableListTest, ANewRowFadesInWhileTheOthersMakeRoom) {
+  show();
+  controller->names = {"Zoe", "Anna", "Bob", "Cleo"};
+  table().reloadSections({0}, UITableViewRowAnimation::automatic);
+  time.advance(0.1);
+  EXPECT_GT(opacityOf("Zoe"), 0);
+  EXPECT_LT(opacityOf("Zoe"), 1);
+  EXPECT_GT(row("Anna").top(), 44);
+  EXPECT_LT(row("Anna").top(), 112);
+  time.advance(1);
+  EXPECT_EQ(opacityOf("Zoe"), 1);
+  EXPECT_EQ(row("Zoe"), QRectF(0, 44, 320, 60));
+  EXPECT_EQ(row("Anna").top(), 112);
+}
+
+TEST_F(TableListTest, ARowThatLeavesFadesWhileTheOthersCloseUp) {
+  show();
+  controller->names = {"Bob", "Cleo"};
+  table().reloadSections({0}, UITableViewRowAnimation::automatic);
+  time.advance(0.1);
+  EXPECT_NE(spoken(QStringLiteral("Anna")), nullptr);
+  EXPECT_GT(row("Bob").top(), 44);
+  EXPECT_LT(row("Bob").top(), 112);
+  time.advance(1);
+  EXPECT_EQ(spoken(QStringLiteral("Anna")), nullptr);
+  EXPECT_EQ(row("Bob").top(), 44);
+}
+
+TEST_F(TableListTest, RowsThatComeAboveMoveNothingThatIsSeen) {
+  showMany(1'000);
+  scrollTo(20'000);
+  const QRectF before = row("300");
+  controller->names.insert(controller->names.begin(), {"a", "b"});
+  table().reloadSections({0}, UITableViewRowAnimation::automatic);
+  EXPECT_EQ(row("300"), before);
+  time.advance(1);
+  EXPECT_EQ(row("300"), before);
+}
+
+TEST_F(TableListTest, AListThatGetsShorterThanItWasScrolledShowsItsEnd) {
+  showMany(1'000);
+  scrollTo(20'000);
+  controller->names = {"a", "b"};
+  table().reloadData();
+  EXPECT_EQ(row("b"), QRectF(0, 112, 320, 60));
+  EXPECT_EQ(scrolled(), 0);
 }
 
 // --- By keys and assistive tools ---
@@ -172,6 +247,35 @@ TEST_F(TableKeysTest, AnAssistiveToolScrolls) {
   EXPECT_NEAR(scrolled(), kHeight, 80);
   act(QStringLiteral("Names"), QAccessibleActionInterface::scrollUpAction());
   EXPECT_NEAR(scrolled(), 0, 1);
+}
+
+TEST_F(TableKeysTest, ARowKeepsTheKeyboardWhileItIsOutOfSight) {
+  showMany(1'000);
+  focus("2");
+  for (double y = 0; y < 20'000; y += 400) scrollTo(y);
+  EXPECT_EQ(focusName(), QStringLiteral("2"));
+  press(Qt::Key_Down);
+  EXPECT_EQ(focusName(), QStringLiteral("3"));
+  EXPECT_TRUE(focusIsInSight());
+}
+
+TEST_F(TableKeysTest, AReloadLeavesTheKeyboardToItsRow) {
+  showMany();
+  focus("2");
+  controller->names.insert(controller->names.begin(), "new");
+  table().reloadData();
+  EXPECT_EQ(focusName(), QStringLiteral("2"));
+}
+
+TEST_F(TableKeysTest, TheKeyboardOfARowThatHasLeftGoesToNoOtherRow) {
+  showMany(1'000);
+  focus("2");
+  controller->names.erase(controller->names.begin() + 2);
+  table().reloadData();
+  for (double y = 0; y < 5'000; y += 100) {
+    scrollTo(y);
+    ASSERT_FALSE(namesOf(QAccessible::Button).contains(focusName())) << focusName().toStdString();
+  }
 }
 
 TEST_F(TableKeysTest, APressOnARowAtTheEdgeScrollsNothing) {

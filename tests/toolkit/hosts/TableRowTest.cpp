@@ -228,6 +228,34 @@ TEST_F(TableRowTest, TabGoesFromAnOpenRowToItsButtonAndOn) {
   EXPECT_EQ(focusName(), QStringLiteral("Bob"));
 }
 
+TEST_F(TableRowTest, ARowThatIsOpenAloneIsOpenWhenItComesBack) {
+  showMany(1'000);
+  table().openRow(kBob);
+  time.advance(0.5);
+  ASSERT_EQ(row("1").left(), -104);
+  for (double y = 0; y < 5'000; y += 100) {
+    scrollTo(y);
+    const QString other = namesOf(QAccessible::Button).last();
+    EXPECT_EQ(place(spoken(other)).left(), 0);
+  }
+  EXPECT_EQ(spoken(QStringLiteral("1")), nullptr);
+  scrollTo(0);
+  EXPECT_EQ(row("1").left(), -104);
+}
+
+TEST_F(TableRowTest, NoTickTravels) {
+  controller->ticked = {1};
+  showMany(1'000);
+  for (double y = 0; y < 5'000; y += 100) {
+    scrollTo(y);
+    for (const QString& name : namesOf(QAccessible::Button)) {
+      EXPECT_EQ(state(name).checked, name == QStringLiteral("1"));
+    }
+  }
+  scrollTo(0);
+  EXPECT_TRUE(state(QStringLiteral("1")).checked);
+}
+
 TEST_F(TableRowTest, ThePressOnTheButtonRemoves) {
   dragRow("Bob", -120);
   click(QStringLiteral("Remove Bob"));
