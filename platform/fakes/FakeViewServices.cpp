@@ -9,8 +9,12 @@ namespace kindora {
 FakeViewServices installFakeViewServices() {
   FakeViewServices fakes{.text = std::make_shared<FakeTextMeasurer>(),
                          .mainScreen = std::make_shared<FakeScreen>(),
-                         .motion = std::make_shared<FakeMotion>()};
-  installViewServices({.text = fakes.text, .mainScreen = fakes.mainScreen, .motion = fakes.motion});
+                         .motion = std::make_shared<FakeMotion>(),
+                         .looks = std::make_shared<FakeLooks>()};
+  installViewServices({.text = fakes.text,
+                       .mainScreen = fakes.mainScreen,
+                       .motion = fakes.motion,
+                       .looks = fakes.looks});
   return fakes;
 }
 

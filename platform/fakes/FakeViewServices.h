@@ -4,8 +4,10 @@
 
 #include <memory>
 
+#include "platform/ObserverList.h"
 #include "platform/fakes/FakeTextMeasurer.h"
 #include "platform/services/MotionService.h"
+#include "platform/services/SystemLooks.h"
 #include "platform/services/UIScreen.h"
 
 namespace kindora {
@@ -24,11 +26,29 @@ struct FakeMotion final : MotionService {
   void setTiltHandler(TiltHandler wanted) override { handler = std::move(wanted); }
 };
 
+/// A system whose user changes the looks by change().
+class FakeLooks final : public SystemLooks {
+ public:
+  [[nodiscard]] const Looks& looks() const override { return looks_; }
+  [[nodiscard]] Subscription observe(std::function<void()> observer) override {
+    return observers_.add(std::move(observer));
+  }
+  void change(const Looks& looks) {
+    looks_ = looks;
+    observers_.notify();
+  }
+
+ private:
+  Looks looks_;
+  ObserverList<> observers_;
+};
+
 /// The fakes in force, each shared with the installed view services.
 struct FakeViewServices {
   std::shared_ptr<FakeTextMeasurer> text;
   std::shared_ptr<FakeScreen> mainScreen;
   std::shared_ptr<FakeMotion> motion;
+  std::shared_ptr<FakeLooks> looks;
 };
 
 /// Installs fresh fakes and returns them.

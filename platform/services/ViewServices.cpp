@@ -17,7 +17,7 @@ ViewServices& viewSlot() {
 }  // namespace
 
 void installViewServices(ViewServices installed) {
-  if (!installed.text || !installed.mainScreen || !installed.motion) {
+  if (!installed.text || !installed.mainScreen || !installed.motion || !installed.looks) {
     fatalError("a view service is missing");
   }
   viewSlot() = std::move(installed);

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "platform/services/MotionService.h"
+#include "platform/services/SystemLooks.h"
 #include "platform/services/TextMeasurer.h"
 #include "platform/services/UIScreen.h"
 
@@ -15,6 +16,7 @@ struct ViewServices {
   std::shared_ptr<TextMeasurer> text;
   std::shared_ptr<UIScreen> mainScreen;
   std::shared_ptr<MotionService> motion;
+  std::shared_ptr<SystemLooks> looks;
 };
 
 /// Installs the services, all of which must be given; those installed last are in force. A

@@ -126,6 +126,7 @@ class Phone:
             "PATH": os.environ["PATH"],
             "HOME": str(self.folder),
             "XDG_RUNTIME_DIR": str(runtime),
+            "KINDORA_LOOKS": os.environ.get("KINDORA_LOOKS", "light"),
             "LC_ALL": "C.UTF-8",
             "TZ": "UTC",
         }

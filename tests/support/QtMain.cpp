@@ -7,6 +7,7 @@
 int main(int argc, char* argv[]) {
   ::testing::InitGoogleTest(&argc, argv);
   ::testing::GTEST_FLAG(death_test_style) = "threadsafe";
+  qputenv("KINDORA_LOOKS", "light");  // whatever the machine's own
   const QCoreApplication application(argc, argv);
   return RUN_ALL_TESTS();
 }

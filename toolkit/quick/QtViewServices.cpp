@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "toolkit/quick/QtViewServices.h"
 
+#include "platform/qt/QtSystemLooks.h"
 #include "platform/qt/TiltSensor.h"
 #include "toolkit/quick/QtScreen.h"
 #include "toolkit/quick/QtTextMeasurer.h"
@@ -11,7 +12,8 @@ namespace kindora {
 ViewServices makeQtViewServices() {
   return {.text = std::make_shared<QtTextMeasurer>(),
           .mainScreen = std::make_shared<QtScreen>(),
-          .motion = std::make_shared<TiltSensor>()};
+          .motion = std::make_shared<TiltSensor>(),
+          .looks = std::make_shared<QtSystemLooks>()};
 }
 
 void ensureViewServices() {

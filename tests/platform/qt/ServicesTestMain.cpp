@@ -13,6 +13,7 @@ extern "C" const char* __tsan_default_options() {  // NOLINT(bugprone-reserved-i
 
 int main(int argc, char* argv[]) {
   ::testing::InitGoogleTest(&argc, argv);
+  qputenv("KINDORA_LOOKS", "light");  // whatever the machine's own
   // The tests leave a thread behind, which a plain fork would not take along.
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   // On the heap, so that a test can end it.

@@ -16,12 +16,20 @@ TEST(ViewServicesDeathTest, AskingBeforeAnyAreInstalledStops) {
 
 TEST(ViewServicesDeathTest, InstallingWithOneMissingStops) {
   const FakeViewServices fakes = installFakeViewServices();
-  EXPECT_DEATH(installViewServices({.mainScreen = fakes.mainScreen, .motion = fakes.motion}),
-               "^fatal error: a view service is missing\n");
-  EXPECT_DEATH(installViewServices({.text = fakes.text, .motion = fakes.motion}),
-               "^fatal error: a view service is missing\n");
-  EXPECT_DEATH(installViewServices({.text = fakes.text, .mainScreen = fakes.mainScreen}),
-               "^fatal error: a view service is missing\n");
+  const ViewServices all{.text = fakes.text,
+                         .mainScreen = fakes.mainScreen,
+                         .motion = fakes.motion,
+                         .looks = fakes.looks};
+  const auto installWithout = [&all](auto service) {
+    ViewServices most = all;
+    (most.*service).reset();
+    installViewServices(most);
+  };
+  const char* const complaint = "^fatal error: a view service is missing\n";
+  EXPECT_DEATH(installWithout(&ViewServices::text), complaint);
+  EXPECT_DEATH(installWithout(&ViewServices::mainScreen), complaint);
+  EXPECT_DEATH(installWithout(&ViewServices::motion), complaint);
+  EXPECT_DEATH(installWithout(&ViewServices::looks), complaint);
 }
 
 TEST(ViewServices, ThoseInstalledLastAreInForce) {
@@ -31,6 +39,7 @@ TEST(ViewServices, ThoseInstalledLastAreInForce) {
   EXPECT_EQ(viewServices().text, fakes.text);
   EXPECT_EQ(viewServices().mainScreen, fakes.mainScreen);
   EXPECT_EQ(viewServices().motion, fakes.motion);
+  EXPECT_EQ(viewServices().looks, fakes.looks);
 }
 
 }  // namespace
