@@ -69,13 +69,13 @@ Rectangle {
             radius: width / 2
             color: "transparent"
             border.width: 4
-            border.color: Theme.inkOnColor
+            border.color: Theme.inkOnDark
 
             Rectangle {
                 anchors.fill: parent
                 anchors.margins: release.pressed ? 10 : 8
                 radius: width / 2
-                color: Theme.inkOnColor
+                color: Theme.inkOnDark
             }
         }
     }

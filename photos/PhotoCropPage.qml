@@ -98,7 +98,7 @@ Rectangle {
         anchors.margins: -border.width
         color: "transparent"
         border.width: square.activeFocus ? 2 : 1
-        border.color: Theme.inkOnColor
+        border.color: Theme.inkOnDark
     }
 
     DragHandler {

@@ -97,7 +97,7 @@ Rectangle {
                 anchors.rightMargin: 16
                 anchors.verticalCenter: parent.verticalCenter
                 text: file.text
-                points: 17
+                points: Theme.bodySize
                 elide: Text.ElideMiddle
                 Accessible.ignored: true
             }

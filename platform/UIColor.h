@@ -4,12 +4,14 @@
 
 namespace kindora {
 
-/// A colour in device RGB; every component is in [0, 1] and not premultiplied.
+/// A colour in device RGB; every component is in [0, 1] and not premultiplied. A dynamic colour is
+/// another one at different times.
 struct UIColor {
   double red = 0;
   double green = 0;
   double blue = 0;
-  double alpha = 1;
+  double alpha = 1;  ///< of a dynamic colour a factor
+  UIColor (*provider)() = nullptr;
 
   [[nodiscard]] static constexpr UIColor clearColor() { return {0, 0, 0, 0}; }
   [[nodiscard]] static constexpr UIColor blackColor() { return {0, 0, 0, 1}; }
@@ -21,7 +23,17 @@ struct UIColor {
     return {white, white, white, alpha};
   }
   [[nodiscard]] constexpr UIColor colorWithAlphaComponent(double value) const {
-    return {red, green, blue, value};
+    return {red, green, blue, value, provider};
+  }
+  /// What the function says whenever the colour is drawn.
+  [[nodiscard]] static constexpr UIColor dynamicColor(UIColor (*provider)()) {
+    return {0, 0, 0, 1, provider};
+  }
+  /// The colour as it is to be drawn now, which is no dynamic one.
+  [[nodiscard]] constexpr UIColor resolvedColor() const {
+    if (provider == nullptr) return *this;
+    const UIColor now = provider().resolvedColor();
+    return now.colorWithAlphaComponent(now.alpha * alpha);
   }
 
   friend constexpr bool operator==(const UIColor&, const UIColor&) = default;

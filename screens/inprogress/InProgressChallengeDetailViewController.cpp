@@ -124,7 +124,7 @@ void InProgressChallengeDetailViewController::insertMedal() {
   picture->setFrame(medal->bounds());
   picture->setCornerRadius(theme::kCardRadius);
   picture->setClipsToBounds(true);
-  picture->setBackgroundColor({0.88, 0.88, 0.88, 1});  // shows when there is no picture
+  picture->setBackgroundColor(theme::kPictureGround);  // shows when there is no picture
   medal->addSubview(picture);
   view()->insertSubviewAbove(medal, card.get());
   medalAnimationView = medal;

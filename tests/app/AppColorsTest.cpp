@@ -6,6 +6,12 @@
 
 #include <cmath>
 #include <concepts>
+#include <string>
+
+#include "platform/fakes/FakeViewServices.h"
+#include "tests/support/Contrast.h"
+#include "toolkit/view/ThemeValues.h"
+#include "toolkit/view/UIViewTint.h"
 
 namespace kindora {
 namespace {
@@ -26,6 +32,36 @@ TEST(AppColors, AppColorIsAbout101And200And53InBytes) {
   EXPECT_EQ(std::lround(color.green * 255), 200);
   EXPECT_EQ(std::lround(color.blue * 255), 53);
 }
+
+class TextsInTheAppColour : public ::testing::TestWithParam<Looks> {
+ protected:
+  TextsInTheAppColour() { fakes.looks->change(GetParam()); }
+
+  const FakeViewServices fakes = installFakeViewServices();
+  const double least = GetParam().highContrast ? 7 : 4.5;
+};
+
+TEST_P(TextsInTheAppColour, CanBeReadOnTheirGrounds) {
+  const Palette& palette = theme::palette();
+  for (const UIColor& ground :
+       {palette.ground, palette.card, palette.raised, palette.pressed, palette.well}) {
+    EXPECT_GE(contrast(theme::tintedText(appColor()), ground), least);
+  }
+}
+
+TEST_P(TextsInTheAppColour, ThoseOnItCanBeRead) {
+  EXPECT_GE(contrast(theme::palette().inkOnTint, appColor()), least);
+  EXPECT_GE(contrast(theme::palette().inkOnTint, desaturated(appColor())), 4.5) << "while dimmed";
+}
+
+INSTANTIATE_TEST_SUITE_P(Schemes, TextsInTheAppColour,
+                         ::testing::Values(Looks{}, Looks{.dark = true},
+                                           Looks{.highContrast = true},
+                                           Looks{.dark = true, .highContrast = true}),
+                         [](const auto& each) {
+                           return std::string(each.param.dark ? "Dark" : "Light") +
+                                  (each.param.highContrast ? "Contrast" : "");
+                         });
 
 }  // namespace
 }  // namespace kindora

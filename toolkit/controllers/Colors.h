@@ -9,8 +9,10 @@
 
 namespace kindora {
 
-/// Components are clamped, since a spring may carry a colour beyond its range for a while.
-[[nodiscard]] inline QColor toQColor(const UIColor& color) {
+/// As it is to be drawn now. Components are clamped, since a spring may carry a colour beyond its
+/// range for a while.
+[[nodiscard]] inline QColor toQColor(const UIColor& asked) {
+  const UIColor color = asked.resolvedColor();
   const auto component = [](double value) {
     return static_cast<float>(std::clamp(value, 0.0, 1.0));
   };

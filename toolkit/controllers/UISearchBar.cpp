@@ -7,7 +7,7 @@
 namespace kindora {
 namespace {
 
-const UIFont kSearchFont{"AvenirNext-Medium", 16};
+const UIFont kSearchFont{"AvenirNext-Medium", 16, false};  // as bars do, it keeps its size
 
 // The return key puts the keyboard away; what was found stays.
 class SearchFieldDelegate final : public UITextFieldDelegate {

@@ -11,6 +11,7 @@
 #include <memory>
 #include <utility>
 
+#include "toolkit/view/ThemeValues.h"
 #include "toolkit/view/UIViewAnimationBlock.h"
 
 namespace kindora {
@@ -41,9 +42,10 @@ QEasingCurve easing(UIViewAnimationCurve curve) {
   return result;
 }
 
-// The way covered at each fraction of the duration.
+// The way covered at each fraction of the duration. Where things stand still a spring is a curve:
+// it takes as long, and overshoots nothing.
 std::function<double(double)> pace(const UIViewAnimationTiming& timing) {
-  if (timing.spring) {
+  if (timing.spring && !theme::stillness()) {
     return [spring = *timing.spring, length = timing.duration](double fraction) {
       return springProgress(spring, length, fraction * length);
     };
@@ -103,12 +105,15 @@ void animateWithDuration(const UIViewAnimationTiming& timing,
 
 void transitionFromView(const UIViewRef& from, const UIViewRef& to, double duration,
                         std::function<void()> completion) {
-  to->setCurl(0);
+  // Where things stand still, one fades into the other.
+  const bool curls = !theme::stillness();
+  const double alpha = to->state().alpha;
+  curls ? to->setCurl(0) : to->setAlpha(0);
   if (const UIViewRef container = from->superview()) {
     container->insertSubviewAbove(to, from.get());
   }
   animateWithDuration(
-      {.duration = duration}, [&to] { to->setCurl(1); },
+      {.duration = duration}, [&] { curls ? to->setCurl(1) : to->setAlpha(alpha); },
       [from, completion = std::move(completion)] {
         from->removeFromSuperview();
         if (completion) completion();

@@ -14,7 +14,8 @@ DimmedLayer {
         objectName: "actionSheet"
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(root.width, 480) - 16
-        y: root.height - (height + 8) * root.progress
+        y: root.height - (height + 8) * (Theme.stillness ? 1 : root.progress)
+        opacity: Theme.stillness ? root.progress : 1
         Accessible.role: Accessible.PopupMenu
         Accessible.name: root.controller.alertTitle
 
@@ -31,7 +32,7 @@ DimmedLayer {
                 topPadding: 14
                 bottomPadding: 14
                 margin: 14
-                titlePoints: 13
+                titlePoints: Theme.footnoteSize
                 color: Theme.softInk
                 controller: root.controller
             }
@@ -44,7 +45,7 @@ DimmedLayer {
                 id: action
 
                 controller: root.controller
-                points: 19
+                points: Theme.title3Size
                 width: sheet.width
                 implicitHeight: 56
                 topInset: 4

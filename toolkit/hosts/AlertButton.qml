@@ -21,7 +21,8 @@ ButtonBase {
     contentItem: PlainText {
         text: root.text
         Accessible.ignored: true
-        font: root.cancels ? Appearance.boldFont(root.points) : Appearance.font(root.points)
+        points: root.points
+        bold: root.cancels
         color: root.destroys ? Theme.danger : Appearance.tintedText
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter

@@ -8,21 +8,31 @@ DimmedLayer {
     id: root
 
     readonly property bool sideBySide: root.controller.actionTitles.length === 2
+                                       && root.controller.actionTitles.every(root.fitsHalf)
     property bool arrived: false
 
+    function fitsHalf(title) {
+        return metrics.advanceWidth(title) + 16 <= card.width / 2;
+    }
+
     onProgressChanged: if (root.progress >= 1) root.arrived = true
+
+    FontMetrics {
+        id: metrics
+        font: Appearance.boldFont(Theme.bodySize, Theme.textScale)
+    }
 
     Rectangle {
         id: card
         objectName: "alertCard"
         anchors.centerIn: parent
-        width: 270
+        width: Math.min(270 * Theme.textScale, root.width - 32)
         height: body.height + buttons.height
         radius: Theme.panelRadius
         color: Theme.raised
         opacity: root.progress
         // It settles as it comes, and only fades as it goes.
-        scale: root.arrived ? 1 : 1.12 - 0.12 * root.progress
+        scale: root.arrived || Theme.stillness ? 1 : 1.12 - 0.12 * root.progress
         Accessible.role: Accessible.AlertMessage
         Accessible.name: root.controller.alertTitle
 
@@ -58,7 +68,7 @@ DimmedLayer {
                     id: action
 
                     controller: root.controller
-                    points: 17
+                    points: Theme.bodySize
                     width: root.sideBySide ? card.width / 2 : card.width
                     implicitHeight: 48
                     focus: action.last
@@ -67,7 +77,7 @@ DimmedLayer {
 
                     background: Rectangle {
                         radius: card.radius
-                        color: action.pressed ? Qt.alpha(Theme.dim, 0.08) : "transparent"
+                        color: action.pressed ? Qt.alpha(Theme.ink, 0.08) : "transparent"
 
                         Rectangle {
                             width: parent.width

@@ -9,7 +9,7 @@ Column {
 
     required property UIAlertController controller
     property real margin: 16
-    property real titlePoints: 17
+    property real titlePoints: Theme.bodySize
     property color color: Theme.ink
     // The title is the name of what the texts lie on.
     property bool titleSilent: false
@@ -21,7 +21,8 @@ Column {
         width: root.width - 2 * root.margin
         visible: text !== ""
         text: root.controller.alertTitle
-        font: Appearance.boldFont(root.titlePoints)
+        points: root.titlePoints
+        bold: true
         color: root.color
         wrapMode: Text.Wrap
         horizontalAlignment: Text.AlignHCenter
@@ -33,7 +34,7 @@ Column {
         width: root.width - 2 * root.margin
         visible: text !== ""
         text: root.controller.alertMessage
-        points: 13
+        points: Theme.footnoteSize
         color: root.color
         wrapMode: Text.Wrap
         lineHeight: 1.1

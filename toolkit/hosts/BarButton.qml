@@ -13,7 +13,7 @@ ButtonBase {
     implicitHeight: 44
     opacity: !root.enabled ? 0.45 : root.pressed ? 0.5 : 1
     ring.anchors.margins: 2
-    ring.border.color: Theme.inkOnColor
+    ring.border.color: Appearance.barForeground
     ring.radius: 10
 
     contentItem: Item {
@@ -31,7 +31,8 @@ ButtonBase {
             anchors.centerIn: parent
             visible: root.imageName === ""
             text: root.text
-            points: 17
+            points: Theme.bodySize
+            scales: false
             color: Appearance.barForeground
             Accessible.ignored: true
         }

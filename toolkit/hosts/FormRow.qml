@@ -26,8 +26,8 @@ Item {
         background: Rectangle {
             radius: Theme.cardRadius
             color: button.down && root.action !== "" ? Theme.pressed : Theme.card
-            border.width: root.highlighted ? 2 : 1
-            border.color: root.highlighted ? Qt.darker(Appearance.tint, 1.3)
+            border.width: root.highlighted ? 2 : Theme.borderWidth
+            border.color: root.highlighted ? Appearance.tintedText
                                            : Theme.cardBorder
         }
     }

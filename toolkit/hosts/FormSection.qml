@@ -20,15 +20,15 @@ Column {
 
     Item {
         width: parent.width
-        height: 44
+        height: Math.max(44, title.implicitHeight + 16)
 
         PlainText {
+            id: title
             x: 32
             width: parent.width - 64
             anchors.bottom: parent.bottom
             anchors.bottomMargin: 8
             text: root.controller.sectionTitles[root.section]
-            points: 16
             color: Theme.softInk
             Accessible.role: Accessible.Heading
         }

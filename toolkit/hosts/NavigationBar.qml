@@ -28,7 +28,8 @@ Item {
             width: Math.min(implicitWidth, root.width - 32)
             visible: root.hasPrompt
             text: root.item.prompt
-            points: 13
+            points: Theme.footnoteSize
+            scales: false
             color: Appearance.barTitle
         }
 

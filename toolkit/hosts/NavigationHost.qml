@@ -22,7 +22,7 @@ FocusScope {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        color: root.controller.backgroundColor
+        color: Theme.drawnGround(root.controller.backgroundColor, Theme.card)
         // What slides out does not lie on what stands beside.
         clip: root.controller.topProgress < 1
 
@@ -40,8 +40,12 @@ FocusScope {
 
                 width: area.width
                 height: area.height
-                // The page below moves at a third of the pace, which reads as depth.
-                x: page.depth === 0 ? (1 - page.progress) * width : -0.3 * page.progress * width
+                // The page below moves at a third of the pace, which reads as depth. Without
+                // motion the upper one fades in.
+                x: Theme.stillness ? 0
+                                   : page.depth === 0 ? (1 - page.progress) * width
+                                                      : -0.3 * page.progress * width
+                opacity: Theme.stillness && page.depth === 0 ? page.progress : 1
                 visible: page.depth === 0 || (page.depth === 1 && page.progress < 1)
                 covered: page.depth > 0
                 focus: page.depth === 0

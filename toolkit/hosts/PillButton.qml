@@ -11,7 +11,7 @@ ButtonBase {
     // Stands in the middle, for a button without text.
     property alias picture: glyph.image
     property alias pictureTint: glyph.tint
-    property color textColor: root.filled ? Theme.inkOnColor : Appearance.tint
+    property color textColor: root.filled ? Theme.inkOnTint : Appearance.tint
 
     implicitHeight: 50
     implicitWidth: label.implicitWidth + 48
@@ -44,7 +44,8 @@ ButtonBase {
             anchors.fill: parent
             text: root.text
             Accessible.ignored: true
-            font: Appearance.boldFont(17)
+            points: Theme.bodySize
+            bold: true
             color: root.textColor
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter

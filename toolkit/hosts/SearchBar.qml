@@ -10,7 +10,7 @@ Rectangle {
     required property UISearchBar bar
 
     implicitHeight: root.bar.height
-    color: root.bar.backgroundColor
+    color: Theme.drawnGround(root.bar.backgroundColor, Theme.card)
     onWidthChanged: root.bar.reportWidth(root.width)
 
     Rectangle {
@@ -94,6 +94,7 @@ Rectangle {
         contentItem: PlainText {
             id: label
             text: cancel.text
+            scales: false
             color: Appearance.tintedText
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter

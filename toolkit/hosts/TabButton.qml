@@ -62,14 +62,16 @@ T.TabButton {
             width: Math.max(18, value.implicitWidth + 10)
             height: 18
             radius: 9
-            color: Theme.badge
+            color: Theme.danger
 
             PlainText {
                 id: value
                 anchors.centerIn: parent
                 text: root.item.badgeValue
-                font: Appearance.boldFont(12)
-                color: Theme.inkOnColor
+                points: Theme.captionSize
+                bold: true
+                scales: false
+                color: Theme.inkOnDanger
                 Accessible.ignored: true
             }
         }

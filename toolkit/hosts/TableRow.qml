@@ -69,6 +69,7 @@ Item {
                 anchors.bottom: parent.bottom
                 anchors.bottomMargin: 10
                 role: Accessible.Heading
+                scales: false
             }
         }
     }
@@ -104,7 +105,7 @@ Item {
 
         Behavior on x {
             enabled: !swipe.active && (root.cell?.settled ?? false)
-            NumberAnimation { duration: 220; easing.type: Easing.OutCubic }
+            NumberAnimation { duration: Theme.slideDuration; easing.type: Easing.OutCubic }
         }
     }
 
@@ -173,8 +174,8 @@ Item {
                 text: reject.text
                 Accessible.ignored: true
                 opacity: Math.max(0, Math.min(1, (reject.width - implicitWidth) / 16))
-                font: Appearance.boldFont(16)
-                color: Theme.inkOnColor
+                bold: true
+                color: Theme.inkOnDanger
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
             }

@@ -7,6 +7,7 @@
 #include <QFont>
 #include <QObject>
 
+#include "platform/Subscription.h"
 #include "platform/UIColor.h"
 #include "platform/UIFont.h"
 
@@ -32,23 +33,29 @@ class Appearance : public QObject {
   [[nodiscard]] static QColor tint();
   /// The tint, and the toolkit's own before there is a window.
   [[nodiscard]] static UIColor tintColor();
-  /// The tint, as much darker as small text on white needs to be readable.
+  /// The tint as small texts need it to be readable.
   [[nodiscard]] static QColor tintedText();
   [[nodiscard]] static QColor barTint();
   [[nodiscard]] static QColor barForeground();
   [[nodiscard]] static QColor barTitle();
   [[nodiscard]] static QFont barTitleFont();
   [[nodiscard]] static QFont tabFont();
-  /// The app's font at that many points of the view.
+  /// The app's font at that many points of the view, times the scale; without one, times the
+  /// user's own, of whose changes a binding does not hear.
   Q_INVOKABLE static QFont font(double points);
+  Q_INVOKABLE static QFont font(double points, double scale);
   Q_INVOKABLE static QFont boldFont(double points);
+  Q_INVOKABLE static QFont boldFont(double points, double scale);
 
  signals:
   void tintChanged();
+
+ private:
+  Subscription looks_;
 };
 
 /// The font asked for where the device has it; else Lato, in the weight that the name ends in.
-/// Sizes are points of the view, whatever the desktop's font settings.
+/// Sizes are points of the view, larger by the user's scale if the font has part in it.
 [[nodiscard]] QFont resolvedFont(const UIFont& font);
 
 }  // namespace kindora

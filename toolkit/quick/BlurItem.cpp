@@ -8,7 +8,9 @@
 #include <QSGRendererInterface>
 #include <algorithm>
 
+#include "toolkit/controllers/Colors.h"
 #include "toolkit/quick/DrawnPlace.h"
+#include "toolkit/view/Palette.h"
 #include "toolkit/view/UIVisualEffectView.h"
 
 namespace kindora {
@@ -89,7 +91,10 @@ void BlurItem::look() {
   behind_ = behind;
   places_ = places;
   if (!samePlaces) emit placesChanged();
-  if (!sameBackdrop) emit backdropChanged();
+  if (!sameBackdrop) {
+    emit backdropChanged();
+    emit toneChanged();
+  }
 }
 
 QVariantList BlurItem::behind() const {
@@ -104,15 +109,17 @@ QVariantList BlurItem::places() const {
   return list;
 }
 
+void BlurItem::viewDidChange() {
+  FaceItem::viewDidChange();
+  emit toneChanged();
+}
+
 QColor BlurItem::tone() const {
   const auto* panel = dynamic_cast<const UIVisualEffectView*>(view().get());
   const bool dark = panel != nullptr && panel->style() == UIBlurEffectStyle::dark;
   const bool light = panel != nullptr && panel->style() == UIBlurEffectStyle::light;
-  if (!blurs_)
-    return dark ? QColor::fromRgbF(0.12F, 0.12F, 0.12F, 0.9F)
-                : QColor::fromRgbF(0.97F, 0.97F, 0.97F, 0.94F);
-  if (dark) return QColor::fromRgbF(0.07F, 0.07F, 0.07F, 0.7F);
-  return QColor::fromRgbF(0.97F, 0.97F, 0.97F, light ? 0.6F : 0.8F);
+  const UIColor& color = (dark ? theme::kDark : theme::palette()).raised;
+  return toQColor(color.colorWithAlphaComponent(!blurs_ ? 0.94 : dark ? 0.7 : light ? 0.6 : 0.8));
 }
 
 QColor BlurItem::windowColor() const {

@@ -22,7 +22,7 @@ class BlurItem : public kindora::FaceItem {
   /// The panel's place in the space of each of them.
   Q_PROPERTY(QVariantList places READ places NOTIFY placesChanged)
   /// What the panel is drawn in over the blur, or instead of it.
-  Q_PROPERTY(QColor tone READ tone NOTIFY backdropChanged)
+  Q_PROPERTY(QColor tone READ tone NOTIFY toneChanged)
   Q_PROPERTY(QColor windowColor READ windowColor NOTIFY backdropChanged)
   /// The panel's own corner radius, or that of what it fills and is cut off by.
   Q_PROPERTY(double visibleRadius READ visibleRadius NOTIFY viewChanged)
@@ -39,9 +39,11 @@ class BlurItem : public kindora::FaceItem {
 
  signals:
   void backdropChanged();
+  void toneChanged();
   void placesChanged();
 
  protected:
+  void viewDidChange() override;
   void itemChange(ItemChange change, const ItemChangeData& data) override;
 
  private:

@@ -5,6 +5,7 @@
 #include <QQuickWindow>
 #include <algorithm>
 
+#include "platform/services/ViewServices.h"
 #include "toolkit/controllers/Colors.h"
 #include "toolkit/controllers/Screen.h"
 #include "toolkit/quick/BlurItem.h"
@@ -19,6 +20,7 @@
 #include "toolkit/quick/ScrollViewItem.h"
 #include "toolkit/quick/ShadowItem.h"
 #include "toolkit/view/MotionEffects.h"
+#include "toolkit/view/ThemeValues.h"
 #include "toolkit/view/UILabel.h"
 #include "toolkit/view/UIMotionEffect.h"
 #include "toolkit/view/UIScrollView.h"
@@ -51,6 +53,7 @@ CodeViewItem::CodeViewItem(UIViewRef view, QQuickItem* parent)
   makeFace();
   subscription_ = view_->observe([this] { viewDidChange(); });
   layouts_ = view_->observeLayout([this] { laidOut(); });
+  looks_ = viewServices().looks->observe([this] { viewDidChange(); });
   viewDidChange();
 }
 
@@ -59,6 +62,7 @@ CodeViewItem::~CodeViewItem() { rest(); }
 void CodeViewItem::rest() {
   subscription_ = {};
   layouts_ = {};
+  looks_ = {};
   MotionEffects::shared().hide(view_);
   for (std::size_t i = 0; i < drawn_.size(); ++i) drawn_[i].rest();
 }
@@ -181,7 +185,8 @@ void CodeViewItem::drawGround() {
     item->setZ(pictured ? Depth::Border : Depth::Ground);
     item->setSize(size());
   }
-  item->setLook({.color = pictured ? QColor(Qt::transparent) : toQColor(shown.backgroundColor),
+  item->setLook({.color = pictured ? QColor(Qt::transparent)
+                                   : toQColor(theme::drawnGround(shown.backgroundColor)),
                  .borderColor = toQColor(border.color),
                  .borderWidth = bordered ? border.width : 0,
                  .radius = visibleRadius(),
@@ -222,7 +227,7 @@ void CodeViewItem::drawPicture(const UIImageView& picture) {
     picture_->setImage({picture.image()});
     picture_->setTint(templateTint(picture));
     picture_->setFits(picture.contentMode() == UIViewContentMode::scaleAspectFit);
-    picture_->setGround(toQColor(shown.backgroundColor));
+    picture_->setGround(toQColor(theme::drawnGround(shown.backgroundColor)));
     picture_->setRadius(visibleRadius());
   }
   if (curl_ != nullptr) {

@@ -81,6 +81,7 @@ class CodeViewItem final : public QQuickItem {
   Surroundings told_;
   Subscription subscription_;
   Subscription layouts_;
+  Subscription looks_;
   KeyframeTransform keyframeTransform_;
 };
 

@@ -9,5 +9,5 @@ Rectangle {
     anchors.margins: -2
     color: "transparent"
     border.width: 2
-    border.color: Qt.darker(Appearance.tint, 1.6)
+    border.color: Appearance.tintedText
 }

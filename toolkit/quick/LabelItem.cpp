@@ -36,11 +36,13 @@ LabelItem::Look LabelItem::look() const {
   // The record's own width, not the item's: that one was moved to whole pixels.
   return {.text = label->shownText(),
           .font = label->shownFont(),
-          .color = label->textColor(),
+          .color = label->isEnabled() ? theme::drawnText(label->textColor().value_or(theme::kInk))
+                                      : theme::kFaintInk,
           .alignment = label->textAlignment().value_or(NSTextAlignment::left),
           .enabled = label->isEnabled(),
           .lines = label->numberOfLines(),
-          .width = label->presentation().frame.size.width};
+          .width = label->presentation().frame.size.width,
+          .system = theme::looks()};
 }
 
 TextLines LabelItem::lines() const {
@@ -81,8 +83,7 @@ QSGNode* LabelItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   const QRectF place = boundingRect().adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
   return rasterNode(*this, old, place, std::exchange(stale_, false), [this](QPainter& painter) {
     const TextLines text = lines();
-    const UIColor color = drawn_.enabled ? drawn_.color.value_or(theme::kInk) : theme::kFaintInk;
-    painter.setPen(toQColor(color));
+    painter.setPen(toQColor(drawn_.color));
     const double top = std::floor((height() - text.extent().size.height) / 2);
     text.draw(painter, {0, top}, drawn_.width, drawn_.alignment);
   });

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <optional>
-
+#include "platform/services/SystemLooks.h"
 #include "toolkit/quick/FaceItem.h"
 #include "toolkit/quick/TextLines.h"
 
@@ -38,11 +37,12 @@ class LabelItem : public kindora::FaceItem {
   struct Look {
     NSAttributedString text;
     UIFont font;
-    std::optional<UIColor> color;
+    UIColor color;
     NSTextAlignment alignment = NSTextAlignment::left;
     bool enabled = true;
     int lines = 1;
     double width = 0;
+    Looks system;
     friend bool operator==(const Look&, const Look&) = default;
   };
 

@@ -10,6 +10,8 @@ ViewItem {
 
     property real points: NaN
     property color color: "transparent"
+    // By the user's own scale.
+    property bool scales: true
     property int alignment: 0
     // 0 for as many as the text needs.
     property int lines: 1
@@ -55,7 +57,9 @@ ViewItem {
         id: label
         anchors.fill: parent
         text: root.text
-        font: root.hasTextFont || isNaN(root.points) ? root.textFont : Appearance.font(root.points)
+        font: root.hasTextFont || isNaN(root.points)
+              ? (root.scales ? root.textFont : root.unscaledTextFont)
+              : Appearance.font(root.points, root.scales ? Theme.textScale : 1)
         color: root.textColor.valid ? root.textColor : root.color.a > 0 ? root.color : Theme.ink
         horizontalAlignment: root.textAlignment !== 0 ? root.textAlignment
                                                       : root.alignment !== 0 ? root.alignment

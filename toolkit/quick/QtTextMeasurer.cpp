@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "toolkit/quick/TextLines.h"
+#include "toolkit/view/Palette.h"
 
 namespace kindora {
 namespace {
@@ -15,7 +16,7 @@ constexpr std::size_t kRemembered = 32;
 
 TextExtent QtTextMeasurer::measure(const NSAttributedString& text, const UIFont& font,
                                    double maximumWidth, int maximumLines) const {
-  Question question{text, font, maximumWidth, maximumLines};
+  Question question{text, font, maximumWidth, maximumLines, theme::looks().textScale};
   const auto known = std::ranges::find(latest_, question, &Answer::question);
   if (known != latest_.end()) return known->extent;
   const TextExtent extent = TextLines(text, font, maximumWidth, maximumLines).extent();

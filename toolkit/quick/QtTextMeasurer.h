@@ -22,6 +22,7 @@ class QtTextMeasurer final : public TextMeasurer {
     UIFont font;
     double maximumWidth = 0;
     int maximumLines = 0;
+    double textScale = 1;
     friend bool operator==(const Question&, const Question&) = default;
   };
   struct Answer {

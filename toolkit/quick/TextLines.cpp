@@ -10,6 +10,7 @@
 
 #include "toolkit/controllers/Colors.h"
 #include "toolkit/quick/Appearance.h"
+#include "toolkit/view/ThemeValues.h"
 
 namespace kindora {
 namespace {
@@ -34,7 +35,7 @@ QList<QTextLayout::FormatRange> formatsOf(const NSAttributedString& text,
     format.length = static_cast<int>(range.length);
     if (attributes.font) format.format.setFont(layoutFont(*attributes.font));
     if (attributes.foregroundColor && colors == TextLines::Colors::ofParts) {
-      format.format.setForeground(toQColor(*attributes.foregroundColor));
+      format.format.setForeground(toQColor(theme::drawnText(*attributes.foregroundColor)));
     }
     formats.push_back(format);
   }

@@ -23,7 +23,7 @@ TextInputItem {
         T.TextArea.flickable: T.TextArea {
             id: area
             padding: root.contentInset
-            font: Appearance.font(17)
+            font: Appearance.font(Theme.bodySize, Theme.textScale)
             color: root.textColor.valid ? root.textColor : Theme.ink
             selectionColor: Qt.alpha(Appearance.tint, 0.4)
             selectedTextColor: area.color
@@ -47,7 +47,7 @@ TextInputItem {
                 width: area.width - area.leftPadding - area.rightPadding
                 visible: area.text === "" && area.preeditText === ""
                 text: root.placeholder
-                points: 17
+                points: Theme.bodySize
                 color: Theme.softInk
                 Accessible.ignored: true
             }

@@ -4,9 +4,12 @@
 
 #include <utility>
 
+#include "platform/services/ViewServices.h"
 #include "toolkit/controllers/Colors.h"
 #include "toolkit/controllers/UIApplication.h"
 #include "toolkit/quick/Appearance.h"
+#include "toolkit/quick/QtViewServices.h"
+#include "toolkit/view/ThemeValues.h"
 #include "toolkit/view/UIButton.h"
 #include "toolkit/view/UIImageView.h"
 #include "toolkit/view/UILabel.h"
@@ -24,12 +27,20 @@ QColor templateTint(const UIImageView& view) {
 ViewLookItem::ViewLookItem(QQuickItem* parent) : QQuickItem(parent) {
   connect(UIApplication::sharedApplication(), &UIApplication::tintColorChanged, this,
           &ViewLookItem::windowTintDidChange);
+  ensureViewServices();
+  looks_ = viewServices().looks->observe([this] { looksDidChange(); });
 }
 
 void ViewLookItem::show(UIViewRef view) {
   subscription_ = {};
   view_ = std::move(view);
   if (view_) subscription_ = view_->observe([this] { viewDidChange(); });
+  viewDidChange();
+}
+
+void ViewLookItem::looksDidChange() {
+  // Texts may have other sizes now.
+  if (view_) view_->invalidateIntrinsicContentSize();
   viewDidChange();
 }
 
@@ -54,7 +65,7 @@ QColor ViewLookItem::textColor() const {
   std::optional<UIColor> color;
   if (const auto* label = dynamic_cast<const UILabel*>(view_.get())) color = label->textColor();
   if (const auto* input = dynamic_cast<const UITextInput*>(view_.get())) color = input->textColor();
-  return color ? toQColor(*color) : QColor();
+  return color ? toQColor(theme::drawnText(*color)) : QColor();
 }
 
 bool ViewLookItem::hasTextFont() const {
@@ -62,10 +73,14 @@ bool ViewLookItem::hasTextFont() const {
   return label != nullptr && label->font().has_value();
 }
 
-QFont ViewLookItem::textFont() const {
-  return hasTextFont() ? resolvedFont(*static_cast<const UILabel&>(*view_).font())
-                       : Appearance::font(16);
+UIFont ViewLookItem::chosenFont() const {
+  return hasTextFont() ? *static_cast<const UILabel&>(*view_).font()
+                       : UIFont{"AvenirNext-Medium", theme::kCalloutSize};
 }
+
+QFont ViewLookItem::textFont() const { return resolvedFont(chosenFont()); }
+
+QFont ViewLookItem::unscaledTextFont() const { return resolvedFont(chosenFont().unscaled()); }
 
 int ViewLookItem::textAlignment() const {
   const auto* label = dynamic_cast<const UILabel*>(view_.get());

@@ -8,6 +8,7 @@
 #include <QQuickItem>
 
 #include "platform/Subscription.h"
+#include "platform/UIFont.h"
 #include "toolkit/controllers/ViewHandle.h"
 #include "toolkit/quick/ImageHandle.h"
 #include "toolkit/view/UIView.h"
@@ -29,6 +30,7 @@ class ViewLookItem : public QQuickItem {
   Q_PROPERTY(QColor textColor READ textColor NOTIFY viewChanged)
   Q_PROPERTY(bool hasTextFont READ hasTextFont NOTIFY viewChanged)
   Q_PROPERTY(QFont textFont READ textFont NOTIFY viewChanged)
+  Q_PROPERTY(QFont unscaledTextFont READ unscaledTextFont NOTIFY viewChanged)
   Q_PROPERTY(int textAlignment READ textAlignment NOTIFY viewChanged)
   Q_PROPERTY(kindora::ImageHandle image READ image NOTIFY viewChanged)
   Q_PROPERTY(QColor imageTint READ imageTint NOTIFY viewChanged)
@@ -53,6 +55,8 @@ class ViewLookItem : public QQuickItem {
   /// False when the storyboard is to choose; then `textFont` has 16 points.
   [[nodiscard]] bool hasTextFont() const;
   [[nodiscard]] QFont textFont() const;
+  /// The same font, whatever the user's scale of texts.
+  [[nodiscard]] QFont unscaledTextFont() const;
   /// A horizontal Qt::AlignmentFlag; 0 when the storyboard is to choose.
   [[nodiscard]] int textAlignment() const;
   [[nodiscard]] ImageHandle image() const;
@@ -91,9 +95,12 @@ class ViewLookItem : public QQuickItem {
   virtual void viewDidChange() { emit viewChanged(); }
 
  private:
+  [[nodiscard]] UIFont chosenFont() const;
   void windowTintDidChange();
+  void looksDidChange();
 
   UIViewRef view_;
+  Subscription looks_;
   Subscription subscription_;
 };
 

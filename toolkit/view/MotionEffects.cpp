@@ -7,6 +7,7 @@
 
 #include "platform/services/MotionService.h"
 #include "platform/services/ViewServices.h"
+#include "toolkit/view/ThemeValues.h"
 #include "toolkit/view/UIView.h"
 
 namespace kindora {
@@ -46,11 +47,11 @@ void MotionEffects::hide(const UIViewRef& view) {
 }
 
 void MotionEffects::tilt(double horizontal, double vertical) {
-  tilt_ = {horizontal, vertical};
+  tilt_ = theme::stillness() ? CGPoint{} : CGPoint{horizontal, vertical};
   // A view that is told may leave the screen, or bring another.
   const std::vector<std::weak_ptr<UIView>> views = views_;
   for (const auto& each : views) {
-    if (const auto view = each.lock()) view->setTilt(horizontal, vertical);
+    if (const auto view = each.lock()) view->setTilt(tilt_.x, tilt_.y);
   }
 }
 

@@ -3,53 +3,62 @@
 #pragma once
 
 #include "platform/UIColor.h"
+#include "toolkit/view/Palette.h"
 
-/// The interface's colours and measures by what they are for, the same for records and for QML. The
-/// app colour is no part of it; a window has that as its tint.
+/// The interface's colours and measures by what they are for, the same for records and for QML.
 namespace kindora::theme {
 
-// What things stand on.
-inline constexpr UIColor kSurround = UIColor::colorWithWhite(0.9, 1);  ///< beside the app
-inline constexpr UIColor kGround = UIColor::colorWithWhite(0.96, 1);
-inline constexpr UIColor kCard = UIColor::whiteColor();
-inline constexpr UIColor kRaised = UIColor::colorWithWhite(0.985, 1);  ///< bars, alerts, sheets
-inline constexpr UIColor kPressed = UIColor::colorWithWhite(0.92, 1);
-inline constexpr UIColor kWell = UIColor::colorWithWhite(0.92, 1);  ///< something is put into it
-inline constexpr UIColor kTrack = UIColor::colorWithWhite(0.88, 1);
-inline constexpr UIColor kPictureGround = UIColor::colorWithWhite(0.88, 1);
-inline constexpr UIColor kDarkGround = UIColor::colorWithWhite(0.1, 1);  ///< around photos
-inline constexpr UIColor kDim = UIColor::blackColor();  ///< over what is not to be used now
+/// A colour of whatever palette is in force when it is drawn.
+template <UIColor Palette::*role>
+[[nodiscard]] constexpr UIColor dynamicColor() {
+  return UIColor::dynamicColor([] { return palette().*role; });
+}
+inline constexpr UIColor kCard = dynamicColor<&Palette::card>();
+inline constexpr UIColor kPictureGround = dynamicColor<&Palette::pictureGround>();
+inline constexpr UIColor kInk = dynamicColor<&Palette::ink>();
+inline constexpr UIColor kFaintInk = dynamicColor<&Palette::faintInk>();
+inline constexpr UIColor kDanger = dynamicColor<&Palette::danger>();
 
-// Lines.
-inline constexpr UIColor kHairline = UIColor::colorWithWhite(0.88, 1);
-inline constexpr UIColor kCardBorder = UIColor::colorWithWhite(0.92, 1);
-inline constexpr UIColor kControlBorder = UIColor::colorWithWhite(0.86, 1);
-inline constexpr UIColor kGridLine{0.05, 0.25, 0.5, 1};  ///< over a picture
-inline constexpr UIColor kScrollIndicator = UIColor::colorWithWhite(0, 0.35);
-
-// Texts and glyphs.
-inline constexpr UIColor kInk = UIColor::colorWithWhite(0.13, 1);
-inline constexpr UIColor kSoftInk = UIColor::colorWithWhite(0.45, 1);
-inline constexpr UIColor kFaintInk = UIColor::colorWithWhite(0.6, 1);  ///< placeholders, disabled
-inline constexpr UIColor kGlyph = UIColor::colorWithWhite(0.5, 1);
-inline constexpr UIColor kFaintGlyph = UIColor::colorWithWhite(0.75, 1);
-inline constexpr UIColor kInkOnColor =
-    UIColor::whiteColor();  ///< on the tint, on what is red or dark
-
-// What warns and counts.
-inline constexpr UIColor kDanger{0.82, 0.01, 0.11, 1};
-inline constexpr UIColor kDangerPressed{0.68, 0.01, 0.09, 1};
-inline constexpr UIColor kBadge{0.9, 0.16, 0.2, 1};
+/// What a text is drawn in: black, in which texts are before anybody chooses, is the ink.
+[[nodiscard]] constexpr UIColor drawnText(const UIColor& color) {
+  return color == UIColor::blackColor() ? kInk : color;
+}
+/// What a ground is drawn in: white, however opaque, is that of a card.
+[[nodiscard]] constexpr UIColor drawnGround(const UIColor& color) {
+  return color.colorWithAlphaComponent(1) == UIColor::whiteColor()
+             ? kCard.colorWithAlphaComponent(color.alpha)
+             : color;
+}
+/// The tint as small texts need it to be readable: darker than the tint itself, or on dark grounds
+/// lighter.
+[[nodiscard]] UIColor tintedText(const UIColor& tint);
 
 // Corners, in points.
 inline constexpr double kPanelRadius = 14;
 inline constexpr double kTileRadius = 16;
 inline constexpr double kCardRadius = 20;
 
-// Motion, in milliseconds.
+// Sizes of texts, in points, before the user's own scale.
+inline constexpr double kCaptionSize = 12;
+inline constexpr double kFootnoteSize = 13;
+inline constexpr double kSubheadlineSize = 15;
+inline constexpr double kCalloutSize = 16;
+inline constexpr double kBodySize = 17;
+inline constexpr double kTitle3Size = 19;
+inline constexpr double kTitle2Size = 22;
+inline constexpr double kTitle1Size = 24;
+
+// Motion, in milliseconds. What fades or is tinted lasts where motion is reduced, too; what moves,
+// grows or turns does not (see stillness).
 inline constexpr int kPressDuration = 80;
-inline constexpr int kQuickDuration = 150;
+inline constexpr int kQuickDuration = 120;
 inline constexpr int kFadeDuration = 200;
-inline constexpr int kMoveDuration = 300;
+inline constexpr int kSlideDuration = 220;
+inline constexpr int kMoveDuration = 260;
+
+/// Whether the user wants what decorates to stand still: springs do not overshoot, pages and sheets
+/// fade in instead of sliding, nothing follows the phone's tilt, and what moves for its looks alone
+/// is where it belongs at once. Delays, and what tells something by moving, stay as they are.
+[[nodiscard]] bool stillness();
 
 }  // namespace kindora::theme

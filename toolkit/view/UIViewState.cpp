@@ -11,13 +11,17 @@ UIViewState interpolated(const UIViewState& from, const UIViewState& to, double 
   const auto size = [&mix](CGSize a, CGSize b) {
     return CGSize{mix(a.width, b.width), mix(a.height, b.height)};
   };
-  const UIColor& before = from.backgroundColor;
-  const UIColor& after = to.backgroundColor;
+  const auto color = [&mix](const UIColor& a, const UIColor& b) {
+    if (a == b) return b;  // a dynamic one stays so
+    const UIColor before = a.resolvedColor();
+    const UIColor after = b.resolvedColor();
+    return UIColor{mix(before.red, after.red), mix(before.green, after.green),
+                   mix(before.blue, after.blue), mix(before.alpha, after.alpha)};
+  };
   return {
       .frame = {point(from.frame.origin, to.frame.origin), size(from.frame.size, to.frame.size)},
       .alpha = mix(from.alpha, to.alpha),
-      .backgroundColor = {mix(before.red, after.red), mix(before.green, after.green),
-                          mix(before.blue, after.blue), mix(before.alpha, after.alpha)},
+      .backgroundColor = color(from.backgroundColor, to.backgroundColor),
       .translation = point(from.translation, to.translation),
       .scaling = mix(from.scaling, to.scaling),
       .cornerRadius = mix(from.cornerRadius, to.cornerRadius),

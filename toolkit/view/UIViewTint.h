@@ -16,7 +16,8 @@ enum class UIViewTintAdjustmentMode { automatic = 0, normal = 1, dimmed = 2 };
 inline constexpr UIColor kDefaultTintColor{0, 0.478, 1, 1};
 
 /// The grey of the same lightness.
-[[nodiscard]] constexpr UIColor desaturated(const UIColor& color) {
+[[nodiscard]] constexpr UIColor desaturated(const UIColor& tint) {
+  const UIColor color = tint.resolvedColor();
   const double grey = 0.299 * color.red + 0.587 * color.green + 0.114 * color.blue;
   return {grey, grey, grey, color.alpha};
 }

@@ -9,6 +9,7 @@
 #include <optional>
 #include <vector>
 
+#include "platform/fakes/FakeViewServices.h"
 #include "platform/fakes/ManualQueue.h"
 #include "tests/support/ManualTime.h"
 #include "toolkit/view/UIView.h"
@@ -196,6 +197,24 @@ TEST_F(UIViewAnimationTest, APushedSpringSetsOutFaster) {
   EXPECT_GT(pushed->presentation().scaling, view->presentation().scaling + 0.2);
 }
 
+TEST_F(UIViewAnimationTest, WithoutMotionASpringOvershootsNothingAndTakesAsLong) {
+  installFakeViewServices().looks->change({.reducedMotion = true});
+  animateWithDuration(
+      {.duration = 1, .spring = UISpring{.dampingRatio = 0.2}}, [this] { view->setScaling(2); },
+      [this] { ++completed; });
+  double before = 1;
+  for (int i = 0; i < 99; ++i) {
+    time.advance(0.01);
+    EXPECT_GE(view->presentation().scaling, before);
+    before = view->presentation().scaling;
+  }
+  EXPECT_LE(before, 2);
+  EXPECT_EQ(completed, 0);
+  time.advance(0.011);
+  EXPECT_EQ(completed, 1);
+  installFakeViewServices();
+}
+
 // --- Transitions ---
 
 class UIViewTransitionTest : public ::testing::Test {
@@ -232,6 +251,20 @@ TEST_F(UIViewTransitionTest, LaysTheNewViewOverTheOldLikeAPage) {
   time.advance(0.5);
   EXPECT_NEAR(to->presentation().curl, 0.5, 0.01);
   EXPECT_EQ(from->presentation().curl, 1);
+}
+
+TEST_F(UIViewTransitionTest, WithoutMotionTheNewViewFadesIn) {
+  installFakeViewServices().looks->change({.reducedMotion = true});
+  curl();
+  EXPECT_EQ(to->presentation().alpha, 0);
+  EXPECT_EQ(to->alpha(), 1);
+  time.advance(0.5);
+  EXPECT_NEAR(to->presentation().alpha, 0.5, 0.01);
+  EXPECT_EQ(to->presentation().curl, 1);
+  time.advance(0.502);
+  EXPECT_EQ(to->presentation().alpha, 1);
+  EXPECT_EQ(completed, 1);
+  installFakeViewServices();
 }
 
 TEST_F(UIViewTransitionTest, KeepsTheOldViewUntilThePageIsLaid) {

@@ -70,6 +70,20 @@ TEST_F(AlertHostTest, IsReadAloudAsAnAlertWithItsMessage) {
   EXPECT_NE(spoken(QStringLiteral("Really?")), nullptr);
 }
 
+TEST_F(AlertHostTest, TwoLargeButtonsStandBelowEachOther) {
+  looks->change({.textScale = 2});
+  presentFully({"Turn Down", "Never Mind"});
+  EXPECT_GE(button("Never Mind").top(), button("Turn Down").bottom());
+  EXPECT_EQ(place(found(kCard)).width(), kWidth - 32);
+}
+
+TEST_F(AlertHostTest, WithoutMotionItOnlyFades) {
+  looks->change({.reducedMotion = true});
+  present({"OK"});
+  EXPECT_EQ(found(kCard)->opacity(), 0);
+  EXPECT_EQ(found(kCard)->scale(), 1);
+}
+
 TEST_F(AlertHostTest, TwoButtonsStandSideBySide) {
   presentFully({"Yes", "No"});
   EXPECT_EQ(button("Yes").top(), button("No").top());

@@ -14,10 +14,12 @@
 #include <utility>
 
 #include "platform/fakes/FakeServices.h"
+#include "platform/fakes/FakeViewServices.h"
 #include "tests/support/ManualTime.h"
 #include "tests/support/QtWarnings.h"
 #include "tests/support/QuickFixture.h"
 #include "toolkit/controllers/UIViewController.h"
+#include "toolkit/quick/QtViewServices.h"
 
 namespace kindora {
 
@@ -39,6 +41,9 @@ class HostFixture : public QuickFixture {
   static constexpr int kHeight = 480;
 
   HostFixture() {
+    ViewServices services = makeQtViewServices();
+    services.looks = looks;
+    installViewServices(services);
     QAccessible::setActive(true);
     // Each move of a finger counts, not only the last before a frame.
     qputenv("QML_NO_TOUCH_COMPRESSION", "1");
@@ -178,6 +183,7 @@ Rectangle {
   void press(Qt::Key key) { QTest::keyClick(&window, key); }
 
   const QtWarnings warnings;
+  const std::shared_ptr<FakeLooks> looks = std::make_shared<FakeLooks>();
   const FakeServices fakes = installFakeServices();
   ManualTime time{fakes.mainQueue};
   QQmlEngine engine;

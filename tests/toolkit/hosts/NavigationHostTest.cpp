@@ -93,6 +93,20 @@ TEST_F(NavigationHostTest, APageComesInFromTheRightAndHidesTheOneBelow) {
   EXPECT_FALSE(shows(kOne));
 }
 
+TEST_F(NavigationHostTest, WithoutMotionAPageFadesIn) {
+  looks->change({.reducedMotion = true});
+  push(true);
+  const QQuickItem* page = found(kTwo)->parentItem()->parentItem();
+  EXPECT_EQ(place(page).left(), 0);
+  EXPECT_EQ(page->opacity(), 0);
+  time.advance(0.1);
+  EXPECT_GT(page->opacity(), 0);
+  EXPECT_LT(page->opacity(), 1);
+  EXPECT_EQ(place(found(kOne)).left(), 0);
+  time.advance(0.5);
+  EXPECT_EQ(page->opacity(), 1);
+}
+
 TEST_F(NavigationHostTest, APageOnItsWayTakesNoPresses) {
   push(true);
   time.advance(0.2);

@@ -33,6 +33,17 @@ TEST_F(PresentedLayerTest, APageRisesFromBelowAndThenCovers) {
   EXPECT_TRUE(covers());
 }
 
+TEST_F(PresentedLayerTest, WithoutMotionAPageFadesIn) {
+  looks->change({.reducedMotion = true});
+  present(screen(kPage));
+  QQuickItem* page = found(kPage)->parentItem();
+  EXPECT_EQ(place(page).top(), 0);
+  EXPECT_EQ(page->opacity(), 0);
+  time.advance(0.5);
+  EXPECT_EQ(page->opacity(), 1);
+  EXPECT_TRUE(covers());
+}
+
 TEST_F(PresentedLayerTest, APageThatLeavesCoversNoLonger) {
   present(screen(kPage));
   time.advance(0.5);

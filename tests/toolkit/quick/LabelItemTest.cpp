@@ -83,8 +83,26 @@ TEST_F(LabelItemTest, IsGreyWhileItIsNotEnabled) {
   label->setEnabled(false);
   const QRect found = ink();
   const QColor color = pixel(found.left() + 1, 20);
-  EXPECT_EQ(color.red(), color.green());
-  EXPECT_GT(color.red(), 120);
+  EXPECT_GT(color.lightness(), 120);
+}
+
+TEST_F(LabelItemTest, ItsInkFollowsTheSystem) {
+  const auto label = addLabel("HHH", {{0, 0}, {200, 40}});
+  label->setTextColor(UIColor::blackColor());
+  EXPECT_FALSE(ink().isEmpty());
+  looks->change({.dark = true});
+  EXPECT_TRUE(ink().isEmpty()) << "light on the window's white";
+}
+
+TEST_F(LabelItemTest, GrowsWithTheUsersTexts) {
+  const auto label = addLabel("HHH", {{0, 0}, {200, 100}});
+  const double width = ink().width();
+  const CGSize size = label->intrinsicContentSize();
+  looks->change({.textScale = 2});
+  EXPECT_NEAR(ink().width(), 2 * width, 4);
+  EXPECT_NEAR(label->intrinsicContentSize().width, 2 * size.width, 2);
+  label->setFont(label->shownFont().unscaled());
+  EXPECT_NEAR(ink().width(), width, 1);
 }
 
 TEST_F(LabelItemTest, FollowsItsText) {

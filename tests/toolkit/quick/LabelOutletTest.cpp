@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Kindora developers
 // SPDX-License-Identifier: Apache-2.0
 #include <QFont>
+#include <cmath>
 
+#include "platform/fakes/FakeViewServices.h"
 #include "tests/toolkit/quick/OutletFixture.h"
 #include "toolkit/quick/Appearance.h"
+#include "toolkit/quick/QtViewServices.h"
 #include "toolkit/view/UILabel.h"
 
 namespace kindora {
@@ -43,6 +46,23 @@ TEST_F(LabelOutletTest, HasALookWhereNobodyChooses) {
   drawLabel();
   EXPECT_EQ(drawn("font").value<QFont>(), Appearance::font(16));
   EXPECT_EQ(drawn("horizontalAlignment").toInt(), Qt::AlignLeft);
+}
+
+TEST_F(LabelOutletTest, GrowsWithTheUsersTextsUnlessThePageSaysNo) {
+  const auto looks = std::make_shared<FakeLooks>();
+  ViewServices services = makeQtViewServices();
+  services.looks = looks;
+  installViewServices(services);
+  drawLabel("points: 20");
+  looks->change({.textScale = 1.5});
+  EXPECT_EQ(points(), 30);
+  item->setProperty("scales", false);
+  EXPECT_EQ(points(), 20);
+  item->setProperty("points", std::nan(""));
+  label->setFont(UIFont::systemFontOfSize(10));
+  EXPECT_EQ(points(), 10);
+  item->setProperty("scales", true);
+  EXPECT_EQ(points(), 15);
 }
 
 TEST_F(LabelOutletTest, TellsWhatIsChosenTwice) {

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "platform/fakes/FakeServices.h"
+#include "platform/fakes/FakeViewServices.h"
 #include "tests/support/QuickFixture.h"
 #include "toolkit/quick/QtViewServices.h"
 #include "toolkit/quick/RecordItem.h"
@@ -19,7 +20,9 @@ namespace kindora {
 class RecordFixture : public QuickFixture {
  protected:
   RecordFixture() {
-    installViewServices(makeQtViewServices());
+    ViewServices services = makeQtViewServices();
+    services.looks = looks;
+    installViewServices(services);
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QQmlEngine::setContextForObject(item.get(), engine.rootContext());
     window.resize(200, 200);
@@ -53,6 +56,7 @@ class RecordFixture : public QuickFixture {
   }
   void click(QPoint at) { QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, at); }
 
+  const std::shared_ptr<FakeLooks> looks = std::make_shared<FakeLooks>();
   const FakeServices fakes = installFakeServices();
   QQmlEngine engine;
   const UIViewRef root = std::make_shared<UIView>();

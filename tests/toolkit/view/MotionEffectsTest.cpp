@@ -39,6 +39,15 @@ TEST_F(MotionEffectsTest, AViewOnTheScreenFollowsTheTilt) {
   EXPECT_EQ(view->frame().origin.x, 100);
 }
 
+TEST_F(MotionEffectsTest, NothingFollowsTheTiltWithoutMotion) {
+  const auto view = make();
+  effects.show(view);
+  fakes.motion->handler(0.5, 0);
+  fakes.looks->change({.reducedMotion = true});
+  fakes.motion->handler(1, 0);
+  EXPECT_EQ(shownX(*view), 100);
+}
+
 TEST_F(MotionEffectsTest, AViewThatComesLaterIsTiltedAtOnce) {
   const auto first = make();
   const auto second = make();
