@@ -4,8 +4,9 @@
 """tools/check-theme.py [FOLDER]
 
 Fails when a tracked QML file that ships names a colour itself: "#102030", "white", Qt.rgba(...). Its
-place is toolkit/view/ThemeValues.h, under the name of what it is for. "transparent" is none, and
-what is made of another colour, as Qt.alpha(Theme.ink, 0.5), is welcome.
+place is toolkit/view/Palette.cpp, under the name of what it is for. "transparent" is none, and what
+is made of another colour, as Qt.alpha(Theme.ink, 0.5), is welcome. Fails, too, when a page has a
+number where toolkit/view/ThemeValues.h has a name for it: a radius, a size of text, a duration.
 """
 
 import pathlib
@@ -22,13 +23,31 @@ LITERAL = re.compile(
     re.VERBOSE,
 )
 
+NAMED = re.compile(r"constexpr (?:int|double) k(\w+?(Radius|Size|Duration)) = (\d+);")
+NUMBER = {
+    "Radius": r"(?<![.\w])radius: {}\b",
+    "Size": r"(?:[pP]oints: |[fF]ont\(){}\b",
+    "Duration": r"\bduration: {}\b",
+}
+
+
+def named_numbers(root):
+    header = root / "toolkit/view/ThemeValues.h"
+    for name, kind, value in NAMED.findall(header.read_text(encoding="utf-8")):
+        yield name[0].lower() + name[1:], re.compile(NUMBER[kind].format(value))
+
 
 def complaints(root, files):
+    named = list(named_numbers(root))
     for file in files:
         lines = (root / file).read_text(encoding="utf-8").splitlines()
         for number, line in enumerate(lines, start=1):
-            if found := LITERAL.search(line.partition("//")[0]):
+            code = line.partition("//")[0]
+            if found := LITERAL.search(code):
                 yield f"{file}:{number}: {found.group()}"
+            for name, pattern in named:
+                if found := pattern.search(code):
+                    yield f"{file}:{number}: {found.group()} is Theme.{name}"
 
 
 def main():
@@ -46,7 +65,7 @@ def main():
     if not files:
         print("error: no QML file is tracked here", file=sys.stderr)
     elif not found:
-        print(f"{len(files)} QML files take their colours from the theme.")
+        print(f"{len(files)} QML files take colours, radii, sizes and durations from the theme.")
     return 1 if found or not files else 0
 
 

@@ -23,7 +23,7 @@ TableCell {
         x: 32
         width: parent.width - 64
         anchors.bottom: parent.verticalCenter
-        points: 17
+        points: Theme.bodySize
         silent: true
     }
 
@@ -35,7 +35,7 @@ TableCell {
         width: parent.width - 64
         anchors.top: parent.verticalCenter
         anchors.topMargin: 2
-        points: 13
+        points: Theme.footnoteSize
         color: Theme.softInk
         silent: true
     }

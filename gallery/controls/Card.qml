@@ -13,7 +13,7 @@ Rectangle {
     implicitHeight: column.height + 16
     radius: Theme.cardRadius
     color: Theme.card
-    border.width: 1
+    border.width: Theme.borderWidth
     border.color: Theme.cardBorder
 
     Column {

@@ -54,8 +54,8 @@ Rectangle {
 
                 contentItem: PlainText {
                     text: choice.text
-                    points: 15
-                    font: choice.checked ? Appearance.boldFont(15) : Appearance.font(15)
+                    points: Theme.subheadlineSize
+                    bold: choice.checked
                     fontSizeMode: Text.HorizontalFit
                     minimumPixelSize: 11
                     horizontalAlignment: Text.AlignHCenter

@@ -78,13 +78,13 @@ Item {
                 anchors.fill: parent
                 radius: 12
                 color: slider.pressed ? Theme.pressed : Theme.card
-                border.width: 1
+                border.width: Theme.borderWidth
                 border.color: Theme.controlBorder
             }
 
             FocusRing {
                 visible: slider.visualFocus
-                radius: 14
+                radius: width / 2
             }
         }
     }

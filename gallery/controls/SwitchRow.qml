@@ -31,7 +31,7 @@ T.Switch {
         y: root.height / 2 - height / 2
         implicitWidth: 52
         implicitHeight: 32
-        radius: 16
+        radius: height / 2
         color: root.checked ? Appearance.tint : Theme.track
 
         Rectangle {
@@ -39,7 +39,7 @@ T.Switch {
             y: 2
             width: 28
             height: 28
-            radius: 14
+            radius: height / 2
             color: Theme.card
         }
 

@@ -48,7 +48,7 @@ FormPage {
             PlainText {
                 y: plot.y + plot.oneY - height / 2
                 text: "1"
-                points: 13
+                points: Theme.footnoteSize
                 color: Theme.softInk
                 Accessible.ignored: true
             }
@@ -56,7 +56,7 @@ FormPage {
             PlainText {
                 y: plot.y + plot.zeroY - height / 2
                 text: "0"
-                points: 13
+                points: Theme.footnoteSize
                 color: Theme.softInk
                 Accessible.ignored: true
             }
@@ -92,7 +92,7 @@ FormPage {
                     y: 8
                     width: 32
                     height: 32
-                    radius: 16
+                    radius: height / 2
                     color: Theme.card
                     border.width: 2
                     border.color: Theme.controlBorder
@@ -110,7 +110,7 @@ FormPage {
 
                 Rectangle {
                     anchors.fill: parent
-                    radius: 16
+                    radius: height / 2
                     color: Appearance.tint
                 }
             }
@@ -127,7 +127,7 @@ FormPage {
             width: parent.width
             height: 24
             text: root.controller.character
-            points: 13
+            points: Theme.footnoteSize
             color: Theme.softInk
             verticalAlignment: Text.AlignVCenter
         }

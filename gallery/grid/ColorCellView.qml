@@ -27,7 +27,7 @@ CollectionCell {
             owner: root.cell
             outlet: "numberLabel"
             anchors.fill: parent
-            points: 17
+            points: Theme.bodySize
             color: Qt.alpha(Theme.dim, 0.62)
             alignment: Text.AlignHCenter
             silent: true

@@ -16,7 +16,7 @@ TableCell {
         anchors.rightMargin: 16
         radius: Theme.cardRadius
         color: root.cell?.showsSelection ? Theme.pressed : Theme.card
-        border.width: 1
+        border.width: Theme.borderWidth
         border.color: Theme.cardBorder
     }
 
@@ -45,7 +45,7 @@ TableCell {
             owner: root.cell
             outlet: "titleLabel"
             width: parent.width
-            points: 17
+            points: Theme.bodySize
             silent: true
         }
 
@@ -54,7 +54,7 @@ TableCell {
             owner: root.cell
             outlet: "detailLabel"
             width: parent.width
-            points: 13
+            points: Theme.footnoteSize
             color: Theme.softInk
             silent: true
         }

@@ -22,7 +22,7 @@ FormPage {
             anchors.rightMargin: 8
             height: parent.height
             text: root.controller.countryName
-            points: 17
+            points: Theme.bodySize
             verticalAlignment: Text.AlignVCenter
             Accessible.ignored: true
         }
@@ -33,7 +33,7 @@ FormPage {
             anchors.rightMargin: 8
             height: parent.height
             text: root.controller.callingCode
-            points: 17
+            points: Theme.bodySize
             color: Theme.softInk
             verticalAlignment: Text.AlignVCenter
             Accessible.ignored: true
@@ -116,7 +116,7 @@ FormPage {
                 width: parent.width
                 height: 40
                 text: root.controller.international
-                points: 22
+                points: Theme.title2Size
                 verticalAlignment: Text.AlignVCenter
             }
         }

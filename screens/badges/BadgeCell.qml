@@ -46,7 +46,7 @@ CollectionCell {
         anchors.topMargin: 8
         anchors.bottom: parent.bottom
         width: parent.width
-        points: 12
+        points: Theme.captionSize
         lines: 2
         alignment: Text.AlignHCenter
         verticalAlignment: Text.AlignTop

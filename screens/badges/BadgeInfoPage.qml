@@ -58,7 +58,7 @@ Rectangle {
             outlet: "challengeNameLabel"
             columns: shape
             y: picture.y + (shape.sideBySide ? 0 : picture.height + 20)
-            points: 24
+            points: Theme.title1Size
         }
 
         FadingLabel {
@@ -78,7 +78,7 @@ Rectangle {
             anchors.top: description.bottom
             columns: shape
             anchors.topMargin: 24
-            points: 17
+            points: Theme.bodySize
             color: Appearance.tintedText
         }
 

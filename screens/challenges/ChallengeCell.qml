@@ -16,7 +16,7 @@ TableCell {
         anchors.rightMargin: 16
         radius: Theme.cardRadius
         color: Theme.card
-        border.width: 1
+        border.width: Theme.borderWidth
         border.color: Theme.cardBorder
     }
 
@@ -69,7 +69,7 @@ TableCell {
             owner: root.cell
             outlet: "challengeLabel"
             width: parent.width
-            points: 17
+            points: Theme.bodySize
             silent: true
         }
 
@@ -79,7 +79,7 @@ TableCell {
             outlet: "senderLabel"
             width: parent.width
             height: text === "" ? 0 : implicitHeight
-            points: 13
+            points: Theme.footnoteSize
             color: Theme.softInk
             silent: true
         }

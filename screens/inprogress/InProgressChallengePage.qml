@@ -61,7 +61,7 @@ Rectangle {
             columns: shape
             anchors.top: shape.sideBySide ? sender.bottom : picture.bottom
             anchors.topMargin: 16
-            points: 24
+            points: Theme.title1Size
         }
 
         FadingLabel {

@@ -107,7 +107,7 @@ Rectangle {
                 contentItem: PlainText {
                     id: hint
                     text: scratch.text
-                    points: 16
+                    points: Theme.calloutSize
                     color: Theme.softInk
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
@@ -121,7 +121,7 @@ Rectangle {
                 outlet: "challengeNameLabel"
                 columns: shape
                 y: (shape.sideBySide ? sender.y + sender.height : picture.y + picture.height) + 16
-                points: 24
+                points: Theme.title1Size
             }
 
             FadingLabel {

@@ -39,7 +39,7 @@ TableCell {
         anchors.right: tick.left
         anchors.rightMargin: 12
         height: parent.height
-        points: 17
+        points: Theme.bodySize
         silent: true
     }
 
@@ -57,7 +57,7 @@ TableCell {
 
         Behavior on scale {
             enabled: root.cell?.settled ?? false
-            NumberAnimation { duration: 180; easing.type: Easing.OutBack }
+            NumberAnimation { duration: Theme.slideDuration; easing.type: Easing.OutBack }
         }
     }
 

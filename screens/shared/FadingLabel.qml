@@ -12,7 +12,7 @@ LabelOutlet {
     objectName: outlet
     x: root.columns.textX
     width: root.columns.textWidth
-    points: 16
+    points: Theme.calloutSize
     lines: 0
     alignment: root.columns.alignment
 }

@@ -42,7 +42,7 @@ Item {
         x: 52
         width: Math.min(implicitWidth, root.maximumWidth - x)
         height: Math.max(40, implicitHeight)
-        points: 17
+        points: Theme.bodySize
         lines: 0
     }
 }

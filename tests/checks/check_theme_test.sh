@@ -2,12 +2,19 @@
 # SPDX-FileCopyrightText: 2026 The Kindora developers
 # SPDX-License-Identifier: Apache-2.0
 #
-# Plants a page in a small tree and sees tools/check-theme.py refuse each way to name a colour.
+# Plants a page in a small tree and sees tools/check-theme.py refuse each way to name a colour, and
+# a number that the theme has.
 set -euo pipefail
 check=$(realpath -- "$(dirname "${BASH_SOURCE[0]}")/../../tools/check-theme.py")
 tree=$(mktemp -d)
 trap 'rm -rf -- "$tree"' EXIT
 git -C "$tree" init --quiet
+mkdir -p "$tree/toolkit/view"
+cat >"$tree/toolkit/view/ThemeValues.h" <<'HEADER'
+inline constexpr double kCardRadius = 20;
+inline constexpr double kBodySize = 17;
+inline constexpr int kFadeDuration = 200;
+HEADER
 
 # plant LINE: the tree's only page has that line.
 plant() {
@@ -46,4 +53,14 @@ refused 'Rectangle { color: "white" }' 'color: "white"'
 refused 'Rectangle { border.color: root.on ? Theme.ink : "red" }' 'color: root.on ? Theme.ink : "red"'
 refused 'PictureItem { tint: "black" }' 'tint: "black"'
 refused 'property color textColor: "gray"' 'textColor: "gray"'
-echo "Colours in pages are refused."
+accepted 'Rectangle { radius: Theme.cardRadius; width: 20 }'
+accepted 'Rectangle { radius: 2; ring.radius: 20 }'
+accepted 'NumberAnimation { duration: Theme.fadeDuration }'
+accepted 'PauseAnimation { duration: 2000 }'
+accepted 'PlainText { points: Theme.bodySize; x: 17 }'
+refused 'Rectangle { radius: 20 }' 'radius: 20 is Theme.cardRadius'
+refused 'NumberAnimation { duration: 200 }' 'duration: 200 is Theme.fadeDuration'
+refused 'PlainText { points: 17 }' 'points: 17 is Theme.bodySize'
+refused 'AlertTexts { titlePoints: 17 }' 'Points: 17 is Theme.bodySize'
+refused 'Text { font: Appearance.boldFont(17) }' 'Font(17 is Theme.bodySize'
+echo "Colours and the theme's numbers are refused in pages."
