@@ -11,12 +11,12 @@
 namespace kindora {
 namespace {
 
-const QString kCommon = QStringLiteral("org.freedesktop.appearance");
-const QString kScheme = QStringLiteral("color-scheme");
+const QString kAppearance = QStringLiteral("org.freedesktop.appearance");
+const QString kColorScheme = QStringLiteral("color-scheme");
 
 class SettingsPortalTest : public ::testing::Test {
  protected:
-  SettingsPortalTest() { portal.settings[kCommon][kScheme] = 1U; }
+  SettingsPortalTest() { portal.settings[kAppearance][kColorScheme] = 1U; }
   // Counts the changes that are told from now on.
   void hear(SettingsPortal& settings) {
     QObject::connect(&settings, &SettingsPortal::changed, [this] { ++changes; });
@@ -32,11 +32,11 @@ class SettingsPortalTest : public ::testing::Test {
 
 TEST_F(SettingsPortalTest, KnowsNothingUntilTheDesktopHasAnswered) {
   SettingsPortal settings(bus.connection());
-  EXPECT_FALSE(settings.value(kCommon, kScheme).isValid());
+  EXPECT_FALSE(settings.value(kAppearance, kColorScheme).isValid());
   hear(settings);
   waitForChanges(1);
-  EXPECT_EQ(settings.value(kCommon, kScheme), QVariant(1U));
-  EXPECT_FALSE(settings.value(kCommon, QStringLiteral("contrast")).isValid());
+  EXPECT_EQ(settings.value(kAppearance, kColorScheme), QVariant(1U));
+  EXPECT_FALSE(settings.value(kAppearance, QStringLiteral("contrast")).isValid());
   EXPECT_EQ(portal.reads, 1);
 }
 
@@ -45,9 +45,9 @@ TEST_F(SettingsPortalTest, FollowsChanges) {
   hear(settings);
   waitForChanges(1);
   portal.set(QStringLiteral("org.gnome.desktop.sound"), QStringLiteral("theme-name"), 3);
-  portal.set(kCommon, kScheme, 2U);
+  portal.set(kAppearance, kColorScheme, 2U);
   waitForChanges(2);
-  EXPECT_EQ(settings.value(kCommon, kScheme), QVariant(2U));
+  EXPECT_EQ(settings.value(kAppearance, kColorScheme), QVariant(2U));
   EXPECT_FALSE(
       settings.value(QStringLiteral("org.gnome.desktop.sound"), QStringLiteral("theme-name"))
           .isValid())
@@ -56,7 +56,7 @@ TEST_F(SettingsPortalTest, FollowsChanges) {
 
 TEST_F(SettingsPortalTest, KnowsNothingWithoutABus) {
   const SettingsPortal settings{QDBusConnection(QStringLiteral("never connected"))};
-  EXPECT_FALSE(settings.value(kCommon, kScheme).isValid());
+  EXPECT_FALSE(settings.value(kAppearance, kColorScheme).isValid());
 }
 
 TEST(SettingsPortalOnABareBus, KnowsNothingWithoutAPortal) {
@@ -72,7 +72,7 @@ TEST(SettingsPortalOnABareBus, KnowsNothingWithoutAPortal) {
   SessionBus::waitUntil([&later] { return later.isFinished(); });
   QCoreApplication::processEvents();
   EXPECT_EQ(changes, 0);
-  EXPECT_FALSE(settings.value(kCommon, kScheme).isValid());
+  EXPECT_FALSE(settings.value(kAppearance, kColorScheme).isValid());
 }
 
 }  // namespace
