@@ -41,9 +41,6 @@ target_compile_options(
 if(KINDORA_WERROR)
   target_compile_options(kindora_options INTERFACE -Werror)
 endif()
-# What is shipped writes no complaints about its own layouts.
-target_compile_definitions(kindora_options
-                           INTERFACE $<$<CONFIG:Release,MinSizeRel>:KINDORA_SHIPPED>)
 target_link_libraries(kindora_options INTERFACE Threads::Threads)
 
 if(KINDORA_SANITIZE)

@@ -21,6 +21,7 @@
 #include "app/PhoneNumberEdit.h"
 #include "platform/fakes/FakeServices.h"
 #include "tests/support/QuickFixture.h"
+#include "toolkit/controllers/ViewHandle.h"
 #include "toolkit/view/UITextField.h"
 
 namespace kindora {
@@ -65,8 +66,7 @@ class PhoneNumberField : public QuickFixture {
     QQmlComponent component(&engine);
     component.setData("import Kindora.Toolkit.Quick\nTextField { label: \"Number\" }", {});
     item.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
-        {{QStringLiteral("owner"), QVariant::fromValue<QObject*>(&owner)},
-         {QStringLiteral("outlet"), QStringLiteral("number")},
+        {{QStringLiteral("record"), QVariant::fromValue(ViewHandle{field})},
          {QStringLiteral("width"), 100},
          {QStringLiteral("parent"), QVariant::fromValue(window.contentItem())}})));
     EXPECT_NE(item, nullptr) << component.errorString().toStdString();

@@ -8,7 +8,8 @@ DimmedLayer {
     id: root
 
     readonly property bool sideBySide: root.controller.actionTitles.length === 2
-                                       && root.controller.actionTitles.every(root.fitsHalf)
+                                       && root.fitsHalf(root.controller.actionTitles[0])
+                                       && root.fitsHalf(root.controller.actionTitles[1])
     property bool arrived: false
 
     function fitsHalf(title) {

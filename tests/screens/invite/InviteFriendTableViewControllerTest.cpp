@@ -144,11 +144,11 @@ TEST_F(InviteFriendTableViewControllerTest, LaysTheNumberOutAsItIsTyped) {
 TEST_F(InviteFriendTableViewControllerTest, IsBlackOnceTheNumberIsWholeAndRedOtherwise) {
   open();
   type(number(), "415555267");
-  EXPECT_EQ(number().textColor(), kRed);
+  EXPECT_EQ(number().textColor()->resolvedColor(), kRed);
   type(number(), "1");
   EXPECT_EQ(number().textColor(), UIColor::blackColor());
   type(number(), "9");
-  EXPECT_EQ(number().textColor(), kRed);
+  EXPECT_EQ(number().textColor()->resolvedColor(), kRed);
 }
 
 TEST_F(InviteFriendTableViewControllerTest, TheSelectionSaysWhatIsReplacedNotTheRange) {
@@ -165,7 +165,7 @@ TEST_F(InviteFriendTableViewControllerTest, AnEditThatLayoutLeavesAloneIsTheFiel
   open();
   EXPECT_TRUE(screen->textFieldShouldChangeCharactersInRange(number(), {0, 0}, "4"));
   EXPECT_EQ(number().text(), "");
-  EXPECT_EQ(number().textColor(), kRed);
+  EXPECT_EQ(number().textColor()->resolvedColor(), kRed);
 }
 
 TEST_F(InviteFriendTableViewControllerTest, BackspacesPassSeparators) {
