@@ -13,7 +13,7 @@
 namespace kindora::layout {
 namespace {
 
-constexpr double kSame = 1e-6;       // relative
+constexpr double kAsGood = 1e-6;     // relative
 constexpr double kRounding = 1e-10;  // of the numbers that go into a sum
 // Below so many exchanges one more or less says nothing.
 constexpr std::uint64_t kFewExchanges = 10;
@@ -28,7 +28,7 @@ struct Made {
   double strength = kRequired;
 };
 
-struct Held {
+struct Played {
   Made made;
   ConstraintId id;
   std::size_t exact = 0;
@@ -170,7 +170,7 @@ class Game final {
   }
 
   void add() {
-    Held added{make(), {}, 0};
+    Played added{make(), {}, 0};
     const Solver::Added answer = solver_.add(constraint(added.made, variables_));
     added.id = answer.constraint;
     const bool isIn = answer.outcome == Outcome::done;
@@ -190,7 +190,7 @@ class Game final {
     held_.erase(held_.begin() + static_cast<std::ptrdiff_t>(index));
   }
 
-  void setConstant(Held& held) {
+  void setConstant(Played& held) {
     const std::int64_t constant =
         kHundred * (rules_.family == Family::views ? between(0, 300) : between(-20, 20));
     const bool isIn = solver_.setConstant(held.id, inUnits(constant)) == Outcome::done;
@@ -235,7 +235,7 @@ class Game final {
   Sums sums(Solver& solver, const std::vector<Variable>& variables, bool& isMissed) {
     solver.update();
     Sums result;
-    for (const Held& held : held_) {
+    for (const Played& held : held_) {
       double sum = -inUnits(held.made.constant);
       double size = std::max(1.0, std::abs(sum));
       for (const auto& [variable, hundredths] : held.made.terms) {
@@ -250,7 +250,7 @@ class Game final {
         Sum& all = result[held.made.strength];
         all.amount += violation;
         all.size += size;
-      } else if (!(violation <= kSame * size)) {
+      } else if (!(violation <= kAsGood * size)) {
         isMissed = true;
       }
     }
@@ -281,7 +281,7 @@ class Game final {
     Solver anew;
     std::vector<Variable> variables;
     for (std::size_t i = 0; i < rules_.variables; ++i) variables.push_back(anew.makeVariable());
-    for (const Held& held : held_) {
+    for (const Played& held : held_) {
       if (anew.add(constraint(held.made, variables)).outcome != Outcome::done) {
         fail(result_.wrongVerdicts, "refused anew");
         return;
@@ -299,7 +299,7 @@ class Game final {
       const auto place = best.find(strength);
       const Sum least = place == best.end() ? Sum{} : place->second;
       const double tolerance =
-          kSame * std::max(1.0, least.amount) + kRounding * std::max(sum.size, least.size);
+          kAsGood * std::max(1.0, least.amount) + kRounding * std::max(sum.size, least.size);
       if (std::abs(sum.amount - least.amount) <= tolerance) continue;
       fail(result_.aboveBest, "strength " + std::to_string(strength) + " violated by " +
                                   std::to_string(sum.amount) + " where " + whose + " has " +
@@ -312,7 +312,7 @@ class Game final {
   std::mt19937_64 random_;
   Solver solver_;
   std::vector<Variable> variables_;
-  std::vector<Held> held_;
+  std::vector<Played> held_;
   std::optional<ExactSolver> exact_;
   Sums sums_;
   PlayResult result_;
