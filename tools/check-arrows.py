@@ -70,6 +70,8 @@ ONLY = {
     "alerts": ("platform", "toolkit", "effects/keyframes", "effects/qt"),
     "gallery": ("platform", "toolkit", "phoneformat", "effects", "alerts", "app"),
 }
+# What these link for those who use them as components, though their own files do not need it.
+BRING_ALONG = {"effects/qt": ("effects/springy",)}
 # They stand in for a phone in tests.
 FAKES = ("platform/fakes",)
 
@@ -363,7 +365,7 @@ def unused_errors(targets, tree):
         used |= {module_folder(uri) for path in described for uri in tree.modules(path)}
         for link in targets.links[name]:
             linked = targets.folder.get(link, folder)
-            if linked not in (folder, *used):
+            if linked not in (folder, *used, *BRING_ALONG.get(folder, ())):
                 yield f"{folder}/CMakeLists.txt: {name} links {link}, which no file there uses"
 
 

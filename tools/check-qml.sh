@@ -25,7 +25,8 @@ if grep -E '^(Info|Warning|Error): ' <<<"$output"; then
 fi
 
 mapfile -d '' -t files < <(git ls-files -z -- '*.qml' ':!tests')
-commands=$(ninja -C "$build" -t commands all_qmllint)
+# As they are written for a shell, less its quotes.
+commands=$(ninja -C "$build" -t commands all_qmllint | tr -d '\\"')
 failed=0
 for file in "${files[@]}"; do
   if [[ $commands != *"$PWD/$file"* ]]; then

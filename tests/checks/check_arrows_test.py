@@ -267,6 +267,12 @@ class ArrowsTest(unittest.TestCase):
         self.tiny.include("model", "platform/A.h")
         self.assertEqual(self.tiny.unused(), [])
 
+    def test_accepts_a_link_that_is_brought_along(self):
+        self.tiny.links = {"effects/springy": [], "effects/qt": ["kindora_effects_springy"]}
+        for folder in self.tiny.links:
+            self.tiny.write(f"{folder}/A.h", "#pragma once\n")
+        self.assertEqual(self.tiny.unused(), [])
+
     def test_accepts_a_link_to_a_module_that_is_imported_or_passed_on(self):
         self.tiny.links = {"toolkit/quick": [], "gallery": ["kindora_toolkit_quick"]}
         self.assertEqual(len(self.tiny.unused()), 1)

@@ -5,11 +5,10 @@
 #include "gallery/phone/CountryTableViewController.h"
 #include "tests/gallery/GalleryFixture.h"
 #include "tests/support/TableReader.h"
+#include "toolkit/view/ThemeValues.h"
 
 namespace kindora {
 namespace {
-
-constexpr UIColor kRed{0.82, 0.01, 0.11, 1};
 
 class PhoneNumbersViewControllerTest : public GalleryFixture {
  protected:
@@ -46,7 +45,7 @@ TEST_F(PhoneNumbersViewControllerTest, LaysOutAndJudgesWhatIsTyped) {
   type("415555267");
   EXPECT_EQ(field().text(), "(415) 555-267");
   EXPECT_EQ(screen.verdict(), QStringLiteral("Not a valid number"));
-  EXPECT_EQ(field().textColor()->resolvedColor(), kRed);
+  EXPECT_EQ(field().textColor(), theme::kDanger);
   EXPECT_EQ(screen.international(), QString());
   type("1");
   EXPECT_EQ(field().text(), "(415) 555-2671");

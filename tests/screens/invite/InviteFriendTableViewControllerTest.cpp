@@ -10,11 +10,10 @@
 #include "screens/picker/KindoraTableViewController.h"
 #include "tests/support/PhoneFormatsOf.h"
 #include "tests/support/app/AppFixture.h"
+#include "toolkit/view/ThemeValues.h"
 
 namespace kindora {
 namespace {
-
-constexpr UIColor kRed{0.82, 0.01, 0.11, 1};
 
 class InviteFriendTableViewControllerTest : public AppFixture {
  protected:
@@ -144,11 +143,11 @@ TEST_F(InviteFriendTableViewControllerTest, LaysTheNumberOutAsItIsTyped) {
 TEST_F(InviteFriendTableViewControllerTest, IsBlackOnceTheNumberIsWholeAndRedOtherwise) {
   open();
   type(number(), "415555267");
-  EXPECT_EQ(number().textColor()->resolvedColor(), kRed);
+  EXPECT_EQ(number().textColor(), theme::kDanger);
   type(number(), "1");
   EXPECT_EQ(number().textColor(), UIColor::blackColor());
   type(number(), "9");
-  EXPECT_EQ(number().textColor()->resolvedColor(), kRed);
+  EXPECT_EQ(number().textColor(), theme::kDanger);
 }
 
 TEST_F(InviteFriendTableViewControllerTest, TheSelectionSaysWhatIsReplacedNotTheRange) {
@@ -165,7 +164,7 @@ TEST_F(InviteFriendTableViewControllerTest, AnEditThatLayoutLeavesAloneIsTheFiel
   open();
   EXPECT_TRUE(screen->textFieldShouldChangeCharactersInRange(number(), {0, 0}, "4"));
   EXPECT_EQ(number().text(), "");
-  EXPECT_EQ(number().textColor()->resolvedColor(), kRed);
+  EXPECT_EQ(number().textColor(), theme::kDanger);
 }
 
 TEST_F(InviteFriendTableViewControllerTest, BackspacesPassSeparators) {
