@@ -63,8 +63,8 @@ void UITableView::reloadSections(const std::vector<int>& sections,
       appendSection(section, next);
       continue;
     }
-    const auto kept = std::ranges::equal_range(rows_, section, {}, &Row::section);
-    next.insert(next.end(), kept.begin(), kept.end());
+    next.insert(next.end(), std::ranges::lower_bound(rows_, section, {}, &Row::section),
+                std::ranges::upper_bound(rows_, section, {}, &Row::section));
   }
   replace(std::move(next), reloaded, animation == UITableViewRowAnimation::automatic);
 }
